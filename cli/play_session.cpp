@@ -1,0 +1,1 @@
+#include "cli/play_session.h"

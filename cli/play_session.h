@@ -1,0 +1,2 @@
+#pragma once
+// Placeholder: the headless play front end.

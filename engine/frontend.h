@@ -1,0 +1,57 @@
+#pragma once
+// What the engine needs of a screen. The engine never calls a GUI toolkit; a
+// desktop window, the headless `play` front end and tests all implement this.
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "engine/money.h"
+
+enum class Buttons { Ok, YesNo, YesNoCancel };
+enum class Reply { Ok, Yes, No, Cancel };
+
+// The won and lost notices of settlement: rows of a left label and a right
+// amount, a title and the buttons the player may answer with.
+struct SettleNotice {
+  std::string title;
+  std::vector<std::pair<std::string, std::string>> rows;
+  std::vector<std::string> buttons;  // captions, in button-index order
+  bool won = true;
+};
+
+class FrontEnd {
+ public:
+  virtual ~FrontEnd() = default;
+  // Shows a message and returns the reply. Callers decide whether a message
+  // may be shown at all (notice mask, Hyper-Drive).
+  virtual Reply ShowMessage(const std::string& title, const std::string& text, Buttons buttons) = 0;
+  // Asks for a number, offering `offered`; nullopt when the player cancels.
+  virtual std::optional<Currency> AskNumber(const std::string& title, const std::string& text,
+                                            Currency offered) = 0;
+  // The won or lost dialog; returns the button index chosen, or nullopt when
+  // the player leaves the choice to the table's default.
+  virtual std::optional<int> ShowSettleNotice(const SettleNotice& notice) = 0;
+  // A visible throw has landed: the dice are drawn before anything is settled.
+  virtual void ShowThrow(int /*die1*/, int /*die2*/, int /*pointAfter*/) {}
+  virtual void PlaySound(int /*slot*/) {}
+  virtual void PlaySoundFile(const std::string& /*name*/) {}
+  virtual void RedrawBet(int /*betId*/) {}
+  virtual void RefreshTable() {}
+  // Lets queued input run during a Hyper-Drive run or an Auto-Roll wait.
+  virtual void LetInputRun() {}
+  virtual bool IsMinimised() const { return false; }
+};
+
+// A front end that shows nothing and takes every default: for batch runs and
+// tests that do not care about messages.
+class SilentFrontEnd : public FrontEnd {
+ public:
+  Reply ShowMessage(const std::string&, const std::string&, Buttons b) override {
+    return b == Buttons::Ok ? Reply::Ok : b == Buttons::YesNoCancel ? Reply::Cancel : Reply::No;
+  }
+  std::optional<Currency> AskNumber(const std::string&, const std::string&, Currency offered) override {
+    return offered;
+  }
+  std::optional<int> ShowSettleNotice(const SettleNotice&) override { return std::nullopt; }
+};

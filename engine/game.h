@@ -1,0 +1,143 @@
+#pragma once
+// All state of one game: the table, the settings, the generators and the
+// counters. Engine routines take a Game by reference; there are no globals,
+// so many games can run side by side on different threads.
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "dice/generators.h"
+#include "engine/catalogue.h"
+#include "engine/frontend.h"
+#include "engine/money.h"
+
+// A payoff: a winner nets Win for each Per bet. Form -1 shows it as "Win to
+// Per", 0 as "Win+Per for Per"; it never changes the money.
+struct PayoffRecord {
+  Currency Win = 1;
+  Currency Form = -1;
+  Currency Per = 1;
+};
+
+constexpr int32_t kTrue = -1;  // booleans stored as 32-bit integers use -1
+
+constexpr int64_t MaxRolls = 100'000'000;
+constexpr int BankLimit = 9'999'999;
+
+struct Game {
+  // --- Money slots and per-bet arrays -------------------------------------
+  std::array<Currency, bet::kSlots> BetAmount{};
+  std::array<std::string, bet::kSlots> BetName{};
+  std::array<int32_t, 101> BetStatus{};      // 0 off, 1 working, 2 called ON, -1 called OFF
+  std::array<int32_t, 101> WorkOnComeOut{};  // status while no point is on
+  std::array<std::array<int32_t, 101>, 2> BetStreak{};  // [1] now, [0] at the top of the roll
+  std::array<Currency, 47> BetCommitted{};   // contract baseline: amounts as the dice went out
+  std::array<Currency, bet::kSlots> BetAtRollStart{};
+  std::array<Currency, bet::kSlots> BetAfterRoll{};
+  std::array<float, bet::kSlots> BetX{};
+  std::array<float, bet::kSlots> BetY{};
+  std::array<Currency, 6> BuyVigOnBet{};     // index BetId-37
+  std::array<Currency, 6> LayVigOnBet{};     // index BetId-1
+  std::array<PayoffRecord, 101> Payoff{};    // row 0: the bet being settled
+  std::array<PayoffRecord, 22> FieldPayoff{};  // rows 1..21 by dice pair
+
+  // --- Scalars of the table -----------------------------------------------
+  int32_t Die1 = 3, Die2 = 4, DiceTotal = 7;
+  int32_t Point = 0;            // after this roll; 0 is the come-out
+  int32_t PointBeforeRoll = 0;  // what every decision of this roll reads
+  int32_t PointTwoRollsAgo = 0;
+  Currency TotalOnTable;        // bets 1..83 plus vig charged up front
+  Currency BankrollSum;
+  Currency HighBankroll, LowBankroll;
+  Currency RawPayoff, NetPayoff;
+  int32_t SettlingBetId = 0;
+  bool BetComesDown = false;
+  Currency UnitAmount;
+  bool RollInProgress = false;
+  bool KeepRolling = false;
+  bool HyperDriveOn = false;
+  bool DiceAlreadySet = false;
+  std::string StopReason;
+  int32_t NoticeMask = 15;  // 1 refusals, 2 limits, 4 vig and change, 8/16 script
+  bool MovingBet = false;
+  bool TableDirty = false;
+  bool TableUsed = false;
+  bool GameChanged = false;
+  Currency BetChange;          // input of PlaceBet
+  Currency BetChangeAllowed;   // output of PlaceBet
+  std::array<int32_t, 20> HandStats{};
+  std::string MsgText, MsgTitle;  // the pending message
+  std::string ErrorText;          // pending run-time error text, shown by the roll
+
+  // --- Rules and limits ---------------------------------------------------
+  Currency TableMinimum = 1;
+  Currency TableMaximum = 1000;
+  Currency MaxOddsBet = 2000;
+  Currency MaxPropBetPayoff = 3000;
+  Currency OddsAllowed410 = 2;
+  Currency OddsAllowed59 = 2;
+  Currency OddsAllowed68 = Currency::FromRaw(25000);
+  int32_t OddsCalcMethod = 0;
+  int32_t BarNumber = 12;
+  bool AllowPutBets = false;
+  Currency LayVigRate = Currency::FromRaw(500);
+  bool ChargeAllLay = true;
+  int32_t RoundLayVig = 0;  // 0 normally, 1 down, 2 up
+  Currency BuyVigRate = Currency::FromRaw(500);
+  bool ChargeAllBuy = true;
+  int32_t RoundBuyVig = 0;
+  int32_t BankrollInitType = 0;  // 0 amount, 1 prompt, 2 carry, 3 carry with net
+  Currency BankrollInitAmount = 500;
+  bool AllowNegativeBankroll = true;
+  Currency AtmAmount = 500;
+  Currency AmountInvested;
+
+  // --- Auto-Play ------------------------------------------------------------
+  bool AutoTakeFullOdds = false;
+  bool AutoLayFullOdds = false;
+  bool AutoRemovePlaceBets = false;
+  bool AutoRollOn = false;
+  int32_t RollCountStop = 0;
+  int32_t RollCountLeft = 0;
+  int32_t AutoRollDelay = 0;  // whole seconds
+  std::array<bool, 17> StopOnRoll{};
+  int32_t WonBetAction = 0;
+  int32_t HandleLosingBets = 1;
+  int32_t AutoAdjustMode = 2;
+
+  // --- Dice ---------------------------------------------------------------
+  int32_t RngChoice = 0;
+  bool UserSeedMode = false;
+  bool ReSeedNewGames = true;
+  int32_t ModSeed = 0;
+  int32_t LastSeed = 0;
+  Currency SeedRequest;
+  bool UseSkewedProbability = false;
+  int32_t DiceFileMode = 0;  // 0 none, 1 recording, 2 playing
+  Generators Rng;
+
+  // --- Simulation and sound -------------------------------------------------
+  bool DisableAllSound = false;
+  int32_t ThrottleValue = 0;
+  int32_t SpeedUnit = 0;
+
+  // --- Statistics -----------------------------------------------------------
+  std::array<int32_t, 91> RollCounts{};  // element 0: all rolls of the game
+
+  // --- Screen ---------------------------------------------------------------
+  FrontEnd* Ui = &silentUi;
+
+  Currency& Bankroll() { return BetAmount[bet::kBankroll]; }
+  Currency Bankroll() const { return BetAmount[bet::kBankroll]; }
+  Currency SmallestChip() const { return BetAmount[bet::kFirstChip]; }
+  // Notices are never shown under Hyper-Drive.
+  bool Visible() const { return !HyperDriveOn; }
+
+  Game() = default;
+  Game(const Game&) = delete;
+  Game& operator=(const Game&) = delete;
+
+ private:
+  SilentFrontEnd silentUi;
+};

@@ -1,0 +1,15 @@
+#include "engine/notices.h"
+
+#include "engine/game.h"
+
+bool NoticeAllowed(const Game& g, int bit) { return (g.NoticeMask & bit) != 0 && !g.HyperDriveOn; }
+
+Reply ShowMessage(Game& g, const std::string& title, const std::string& text, Buttons buttons) {
+  return g.Ui->ShowMessage(title, text, buttons);
+}
+
+std::string Dollars(Currency amount) { return "$" + FormatNumberWithCommas(amount); }
+
+std::string RunTimeErrorText(const std::string& description, int number, const std::string& routine) {
+  return description + ", Error #" + std::to_string(number) + " occurred, at: " + routine + kBreak;
+}
