@@ -8,7 +8,10 @@ Currency Currency::FromDouble(double value) {
   return FromRaw(static_cast<int64_t>(std::nearbyint(value * kScale)));
 }
 
-Currency MulRatio(Currency a, double ratio) { return Currency::FromDouble(a.ToDouble() * ratio); }
+// Scaling the raw count keeps ten-thousandths exact where the ratio allows.
+Currency MulRatio(Currency a, double ratio) {
+  return Currency::FromRaw(static_cast<int64_t>(std::nearbyint(static_cast<double>(a.raw) * ratio)));
+}
 
 int64_t Floor(Currency a) {
   int64_t q = a.raw / Currency::kScale;
