@@ -34,6 +34,9 @@ class FrontEnd {
   virtual std::optional<int> ShowSettleNotice(const SettleNotice& notice) = 0;
   // A visible throw has landed: the dice are drawn before anything is settled.
   virtual void ShowThrow(int /*die1*/, int /*die2*/, int /*pointAfter*/) {}
+  // The last step of RollDice, before a visible table forgets StopReason:
+  // the reason a run ended, or "" when it simply ran out of rolls to make.
+  virtual void RollFinished(const std::string& /*stopReason*/) {}
   virtual void PlaySound(int /*slot*/) {}
   virtual void PlaySoundFile(const std::string& /*name*/) {}
   virtual void RedrawBet(int /*betId*/) {}
