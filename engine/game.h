@@ -125,6 +125,9 @@ struct Game {
   // --- Statistics -----------------------------------------------------------
   std::array<int32_t, 91> RollCounts{};  // element 0: all rolls of the game
 
+  // --- Files ----------------------------------------------------------------
+  std::string DataFolder;  // where "default.crp" and the other files live
+
   // --- Screen ---------------------------------------------------------------
   FrontEnd* Ui = &silentUi;
 

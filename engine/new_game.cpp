@@ -1,18 +1,103 @@
 #include "engine/new_game.h"
 
-#include "config/payoffs.h"
-#include "engine/game.h"
+#include <chrono>
 
-// Placeholder until start-up is built.
-void FillDefaults(Game& g) {
-  const int chips[5] = {1, 5, 25, 100, 500};
-  for (int i = 0; i < 5; ++i) g.BetAmount[bet::kFirstChip + i] = chips[i];
-  for (int id = 1; id <= bet::kLastTableBet; ++id) {
-    g.BetName[id] = std::string(bet::CatalogueName(id));
-    g.WorkOnComeOut[id] = bet::DefaultWorkOnComeOut(id);
-    g.BetStatus[id] = g.WorkOnComeOut[id];
+#include "config/payoffs.h"
+#include "dice/rng.h"
+#include "engine/bet_status.h"
+#include "engine/game.h"
+#include "engine/roll.h"
+
+namespace {
+
+// Empty loop passes per millisecond: how Hyper-Drive's throttle is paced.
+int32_t MeasureSpeedUnit() {
+  using Clock = std::chrono::steady_clock;
+  const auto end = Clock::now() + std::chrono::milliseconds(100);
+  int64_t count = 0;
+  while (Clock::now() < end) ++count;
+  return static_cast<int32_t>(count / 10);
+}
+
+// Bankroll for a new game by BankrollInitType; old is the bankroll before.
+Currency BeginningBankroll(Game& g, Currency old) {
+  const bool carry = g.BankrollInitType == 2 || g.BankrollInitType == 3;
+  // A carried bankroll that is out of bounds is asked for instead.
+  const bool ask = g.BankrollInitType == 1 || (carry && (old >= Currency(BankLimit) || old < 0));
+  if (ask) {
+    std::optional<Currency> answer =
+        g.Ui->AskNumber("Set Beginning Bankroll", "Enter your beginning bankroll: ", g.BankrollInitAmount);
+    if (answer) g.BankrollInitAmount = *answer;
+    g.KeepRolling = false;
+    return g.BankrollInitAmount;
   }
+  return carry ? old : g.BankrollInitAmount;
+}
+
+}  // namespace
+
+void FillDefaults(Game& g) {
+  static constexpr int kChips[5] = {1, 5, 25, 100, 500};
+  for (int i = 0; i < 5; ++i) g.BetAmount[bet::kFirstChip + i] = kChips[i];
+  for (int id = 0; id < bet::kSlots; ++id)
+    g.BetName[id] = bet::IsStack(id) && id > bet::kFirstStack ? bet::StackName(id) : std::string(bet::CatalogueName(id));
+  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id)
+    g.WorkOnComeOut[id] = bet::DefaultWorkOnComeOut(id);
+  UpdateBetStatusForPoint(g);
   RestoreDefaultPayoffs(g);
 }
-void StartUp(Game& g, const std::string&) { FillDefaults(g); NewGame(g, false); }
-void NewGame(Game& g, bool) { g.Bankroll() = g.BankrollInitAmount; }
+
+void StartUp(Game& g, const std::string& folder) {
+  g.DataFolder = folder;
+  g.SpeedUnit = MeasureSpeedUnit();
+  // Every base generator is seeded, #5 first, so that #1 ends up selected.
+  for (int choice = 4; choice >= 0; --choice) {
+    g.RngChoice = choice;
+    SeedRNG(g, false);
+  }
+  FillDefaults(g);
+  // The default game of the folder is opened here once game files exist;
+  // until then every start is a new game with its starting bankroll.
+  NewGame(g, false);
+  if (g.Point == 0) PlayComeOutSound(g);
+}
+
+void NewGame(Game& g, bool keepChipStacks) {
+  const Currency savedBankroll = g.Bankroll();
+  for (int id = 0; id <= bet::kLastTableBet; ++id)
+    g.BetAmount[id] = g.BetAtRollStart[id] = g.BetAfterRoll[id] = 0;
+  g.BetCommitted.fill(0);
+  g.GameChanged = false;
+  for (int id = bet::kFirstStack; id <= bet::kLastStack; ++id) {
+    if (keepChipStacks) {
+      g.Ui->RedrawBet(id);
+      continue;
+    }
+    g.BetAmount[id] = g.BetAtRollStart[id] = g.BetAfterRoll[id] = 0;
+    g.BetName[id] = id > bet::kFirstStack ? bet::StackName(id) : "";
+  }
+  g.RollCounts.fill(0);
+  g.BetStreak = {};
+  g.HandStats.fill(0);
+  g.BuyVigOnBet.fill(0);
+  g.LayVigOnBet.fill(0);
+  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) g.BetStatus[id] = g.WorkOnComeOut[id];
+  // Flags are zeroed here once scripts have them.
+  if (g.ReSeedNewGames) SeedRNG(g, false);
+
+  const Currency bankroll = BeginningBankroll(g, savedBankroll);
+  g.BetAmount[bet::kBankroll] = g.BetAtRollStart[bet::kBankroll] = g.BetAfterRoll[bet::kBankroll] = bankroll;
+  if (g.BankrollInitType != 3) g.AmountInvested = bankroll;  // type 3 keeps counting from the first start
+  if (bankroll < 0) g.AllowNegativeBankroll = true;
+  // The bankroll graph's history is erased here once the graph exists.
+  g.HighBankroll = g.LowBankroll = bankroll;
+  g.BankrollSum = 0;
+  g.RollCountLeft = g.RollCountStop;
+  g.StopReason.clear();
+  g.Point = g.PointBeforeRoll = g.PointTwoRollsAgo = 0;
+  g.TotalOnTable = 0;
+  g.TableUsed = false;
+  // An open Dice Roll File is asked about here, and the games log takes its
+  // row, once those exist.
+  g.Ui->RefreshTable();
+}

@@ -1,17 +1,491 @@
 #include "engine/roll.h"
 
-#include "engine/game.h"
+#include <algorithm>
+#include <array>
+#include <chrono>
 
-// Placeholder until the roll cycle is built.
-void RollDice(Game&) {}
-int NextPoint(int point, int total) {
-  if (point == 0 && bet::IsPointNumber(total)) return total;
-  if (total == point || total == 7) return 0;
-  return point;
+#include "config/payoffs.h"
+#include "dice/rng.h"
+#include "engine/bet_status.h"
+#include "engine/game.h"
+#include "engine/notices.h"
+#include "engine/place_bet.h"
+#include "engine/settle.h"
+
+namespace {
+
+// Sound slots of the roll.
+constexpr int kSoundLineWin = 13;
+constexpr int kSoundLineLoss = 14;
+constexpr int kSoundBarred = 15;
+constexpr int kSoundDouble = 16;
+constexpr int kSoundComeOut = 17;
+constexpr int kSoundNewShooter = 18;
+
+// StopOnRoll indexes.
+constexpr int kStopOnWin = 0;
+constexpr int kStopOnLoss = 1;
+
+const std::string kResetTail = "Select \"New\" from the \"Game\" menu to reset the table.";
+
+void Stop(Game& g) { g.KeepRolling = false; }
+
+void Sound(Game& g, int slot) {
+  if (!g.HyperDriveOn && !g.DisableAllSound) g.Ui->PlaySound(slot);
 }
-void MoveBet(Game&, int, int) {}
-void CheckBankLimit(Game&) {}
-void PlayComeOutSound(Game&) {}
-void LineWin(Game&) {}
-void LineLoss(Game&) {}
-void LineBarred(Game&) {}
+
+// The StopOnRoll index of a total (2..12), and of a hard way (4, 6, 8, 10).
+int TotalStopIndex(int total) {
+  static constexpr std::array<int, 13> kIndex = {0, 0, 2, 3, 4, 6, 7, 9, 10, 12, 13, 15, 16};
+  return kIndex[total];
+}
+int HardStopIndex(int total) { return total == 4 ? 5 : total == 6 ? 8 : total == 8 ? 11 : 14; }
+
+// One throw's settling: every SettleBet call in its order, with the Hop
+// winners remembered so that the rest of the Hops lose at the end, and the
+// won and lost events noted for the Auto-Roll stops.
+class Settler {
+ public:
+  explicit Settler(Game& g) : g_(g) {}
+
+  void operator()(int outcome, int betId) {
+    bool real = g_.BetAmount[betId] > 0 && g_.BetStatus[betId] >= 1;
+    if (outcome > 0 && bet::IsHop(betId)) hopWon_[betId - bet::kFirstHop] = true;
+    SettleBet(g_, outcome, betId);
+    if (real && g_.NetPayoff > 0) anyWon_ = true;
+    if (real && g_.NetPayoff < 0) anyLost_ = true;
+  }
+  void Range(int outcome, int first, int last) {
+    for (int id = first; id <= last; ++id) (*this)(outcome, id);
+  }
+  bool HopWon(int hopId) const { return hopWon_[hopId - bet::kFirstHop]; }
+  bool AnyWon() const { return anyWon_; }
+  bool AnyLost() const { return anyLost_; }
+
+ private:
+  Game& g_;
+  std::array<bool, 17> hopWon_{};
+  bool anyWon_ = false, anyLost_ = false;
+};
+
+bool Has(const Game& g, int face) { return g.Die1 == face || g.Die2 == face; }
+bool Doubles(const Game& g) { return g.Die1 == g.Die2; }
+
+// Step 17: the bets of the total, in the order of settling.
+void SettleTotal(Game& g, Settler& settle) {
+  const int total = g.DiceTotal;
+  const bool comeOut = g.PointBeforeRoll == 0;
+  switch (total) {
+    case 2:
+    case 12: {
+      // Don't Pass and Don't Come win on the crap that is not barred.
+      const bool dontWins = g.BarNumber == (total == 2 ? 12 : 2);
+      settle(-1, bet::kCome);
+      if (comeOut) {
+        settle(-1, bet::kPassLine);
+        if (dontWins) {
+          LineLoss(g);
+          settle(1, bet::kDontPass);
+        } else {
+          LineBarred(g);
+        }
+      }
+      settle(1, total == 2 ? bet::kTwo : bet::kTwelve);
+      for (int id : {bet::kCraps, bet::kCandE, bet::kHorn, bet::kWorld}) settle(1, id);
+      if (dontWins) settle(1, bet::kDontCome);
+      break;
+    }
+    case 3:
+      settle(-1, bet::kCome);
+      if (comeOut) {
+        LineLoss(g);
+        settle(-1, bet::kPassLine);
+        settle(1, bet::kDontPass);
+      }
+      for (int id : {bet::kThree, bet::kCraps, bet::kCandE, bet::kDontCome, bet::kHorn, bet::kWorld})
+        settle(1, id);
+      break;
+    case 7:
+      if (comeOut) LineWin(g); else LineLoss(g);
+      settle(-1, bet::kDontCome);
+      settle(-1, bet::kBig6);
+      settle(-1, bet::kBig8);
+      settle.Range(-1, bet::kHard4, bet::kHard10);
+      settle.Range(-1, bet::kPlaceBase, bet::kBuyBase + 5);
+      for (int id = bet::kComeNumberBase; id < bet::kComeNumberBase + 6; ++id) {
+        settle(-1, id);
+        settle(-2, id + 6);
+      }
+      if (comeOut) {
+        settle(-1, bet::kDontPass);
+        settle(1, bet::kPassLine);
+      } else {
+        settle(-1, bet::kPassLine);
+        settle(-2, bet::kPassOdds);
+        settle(1, bet::kDontPass);
+        settle(2, bet::kDontPassOdds);
+      }
+      settle.Range(1, bet::kLayBase, bet::kLayBase + 5);
+      for (int id = bet::kDontComeBase; id < bet::kDontComeBase + 6; ++id) {
+        settle(1, id);
+        settle(2, id + 6);
+      }
+      settle(1, bet::kCome);
+      settle(1, bet::kSeven);
+      settle(1, bet::kWorld);
+      if (Has(g, 1)) settle(1, bet::HopFor(1, 6));
+      if (Has(g, 2)) settle(1, bet::HopFor(2, 5));
+      if (Has(g, 3)) settle(1, bet::HopFor(3, 4));
+      break;
+    case 11:
+      settle(-1, bet::kDontCome);
+      if (comeOut) {
+        LineWin(g);
+        settle(1, bet::kPassLine);
+        settle(-1, bet::kDontPass);
+      }
+      for (int id : {bet::kEleven, bet::kCandE, bet::kCome, bet::kHorn, bet::kWorld}) settle(1, id);
+      break;
+    default: {  // 4, 5, 6, 8, 9, 10
+      settle(-1, bet::Lay(total));
+      settle(-1, bet::DontCome(total));
+      settle(-2, bet::DontComeOdds(total));
+      settle(1, bet::Come(total));
+      settle(2, bet::ComeOdds(total));
+      settle(1, bet::Place(total));
+      settle(1, bet::Buy(total));
+      if (total == 6) settle(1, bet::kBig6);
+      if (total == 8) settle(1, bet::kBig8);
+      if (total % 2 == 0) {
+        const int hard = bet::kHard4 + (total - 4) / 2;
+        if (Doubles(g)) {
+          settle(1, hard);
+          settle(1, bet::HopFor(g.Die1, g.Die2));
+        } else {
+          settle(-1, hard);
+        }
+      }
+      // The easy Hops of the total, in the order of their lower face.
+      if (!Doubles(g)) {
+        for (int low = 1; low <= 6; ++low) {
+          const int high = total - low;
+          if (high <= low || high > 6 || !Has(g, low)) continue;
+          settle(1, bet::HopFor(low, high));
+        }
+      }
+      MoveBet(g, bet::kDontCome, bet::DontCome(total));
+      MoveBet(g, bet::kCome, bet::Come(total));
+      break;
+    }
+  }
+}
+
+// Step 18: what every roll settles.
+void SettleEveryRoll(Game& g, Settler& settle) {
+  const int total = g.DiceTotal;
+  settle(1, bet::kField);
+  if (total != 2) settle(-1, bet::kTwo);
+  if (total != 3) settle(-1, bet::kThree);
+  if (total != 7) settle(-1, bet::kSeven);
+  if (total != 11) settle(-1, bet::kEleven);
+  if (total != 12) settle(-1, bet::kTwelve);
+  if (total >= 4 && total <= 11) settle(-1, bet::kCraps);
+  if (total >= 4 && total <= 10) {
+    settle(-1, bet::kCandE);
+    settle(-1, bet::kHorn);
+    if (total != 7) settle(-1, bet::kWorld);
+  }
+  settle(total < 8 ? -1 : 1, bet::kOver7);
+  settle(total > 6 ? -1 : 1, bet::kUnder7);
+  for (int hop = bet::kFirstHop; hop <= bet::kLastHop; ++hop)
+    if (!settle.HopWon(hop)) settle(-1, hop);
+}
+
+// After the total, an Auto-Roll stops on the rolls the player marked.
+void TestStopOnRoll(Game& g, const Settler& settle) {
+  if (g.HyperDriveOn || !g.AutoRollOn) return;
+  const int total = g.DiceTotal;
+  bool stop = g.StopOnRoll[TotalStopIndex(total)];
+  if (Doubles(g) && total != 2 && total != 12) stop = stop || g.StopOnRoll[HardStopIndex(total)];
+  if (settle.AnyWon() && g.StopOnRoll[kStopOnWin]) stop = true;
+  if (settle.AnyLost() && g.StopOnRoll[kStopOnLoss]) stop = true;
+  if (stop) Stop(g);
+}
+
+// Step 19: a new point or a new come-out.
+void AfterPointMoved(Game& g) {
+  g.Ui->RefreshTable();  // the puck moves
+  UpdateBetStatusForPoint(g);
+  if (g.Point == 0) return;
+  SyncOddsPayoffs(g);
+  const bool passLine = g.BetAmount[bet::kPassLine] > 0;
+  if (passLine && g.AutoTakeFullOdds) SetBetToMaximum(g, bet::kPassOdds);
+  if (g.BetAmount[bet::kDontPass] > 0 && g.AutoLayFullOdds) {
+    g.Ui->RedrawBet(bet::kDontPass);
+    SetBetToMaximum(g, bet::kDontPassOdds);
+  }
+  // The line bet takes only the Place bet down; a Buy on the point stays.
+  if (passLine && g.AutoRemovePlaceBets) TakeDownBet(g, bet::Place(g.Point));
+}
+
+// The reset tail follows every stop text after two line breaks.
+std::string WithTail(const std::string& text) { return text + kTwoBreaks + kResetTail; }
+
+// Hyper-Drive paces itself by burning a counted loop.
+void BurnPaceLoop(const Game& g) {
+  const int64_t passes = int64_t{g.ThrottleValue} * g.ThrottleValue * g.SpeedUnit;
+  [[maybe_unused]] volatile int64_t sink = 0;
+  for (int64_t i = 0; i < passes; ++i) sink = i;
+}
+
+void LeaveHyperDrive(Game& g) {
+  g.HyperDriveOn = false;
+  if (!g.StopReason.empty()) ShowMessage(g, "Hyper-Drive Stopped", g.StopReason);
+  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) g.Ui->RedrawBet(id);
+  for (int id = bet::kFirstStack; id <= bet::kLastStack; ++id) g.Ui->RedrawBet(id);
+  g.TableDirty = true;
+  g.Ui->RefreshTable();
+}
+
+void AutoRollWait(Game& g) {
+  using Clock = std::chrono::steady_clock;
+  const auto until = Clock::now() + std::chrono::seconds(g.AutoRollDelay);
+  do {
+    g.Ui->LetInputRun();
+  } while (g.KeepRolling && Clock::now() < until);
+}
+
+void Finish(Game& g) {
+  // Offering to rewind a Dice Roll File at its end joins here with the files.
+  g.Ui->RollFinished(g.StopReason);
+  if (!g.Ui->IsMinimised()) g.StopReason.clear();
+  if (g.Point == 0) PlayComeOutSound(g);
+  g.RollInProgress = false;
+}
+
+void TakeSnapshots(Game& g) {
+  g.BetAtRollStart = g.BetAmount;
+  g.BetStreak[0] = g.BetStreak[1];
+  // The per-roll columns of the bet results are cleared here, and the result
+  // bookkeeping of the number rolled last runs here, once bet results exist.
+  // The roll-gap counters of the statistics are copied here once they exist.
+  std::copy_n(g.BetAmount.begin(), g.BetCommitted.size(), g.BetCommitted.begin());
+  g.PointTwoRollsAgo = g.PointBeforeRoll;
+  g.PointBeforeRoll = g.Point;
+}
+
+void GetDice(Game& g) {
+  if (g.DiceAlreadySet) {
+    g.DiceAlreadySet = false;
+    return;
+  }
+  // Playback of a Dice Roll File takes the dice here, before the generators,
+  // once Dice Roll Files exist.
+  DrawDice(g);
+  if (!g.ErrorText.empty()) {
+    ShowMessage(g, "Dicemill", g.ErrorText);
+    g.ErrorText.clear();
+  }
+}
+
+void MovePoint(Game& g) {
+  const int next = NextPoint(g.Point, g.DiceTotal);
+  if (g.Point == 0 && next != 0) ++g.HandStats[7];
+  g.Point = next;
+}
+
+// One throw from step 5 to step 30.
+void Throw(Game& g) {
+  TakeSnapshots(g);
+  GetDice(g);
+  if (!g.HyperDriveOn) g.Ui->ShowThrow(g.Die1, g.Die2, NextPoint(g.Point, g.Die1 + g.Die2));
+  // A Dice Roll File being recorded takes the pair here once files exist.
+  g.DiceTotal = g.Die1 + g.Die2;
+  Sound(g, g.DiceTotal);
+  if (Doubles(g) && g.DiceTotal != 2 && g.DiceTotal != 12) Sound(g, kSoundDouble);
+  MovePoint(g);
+
+  ++g.RollCounts[0];
+  ++g.HandStats[0];
+  if (g.PointBeforeRoll == 0) ++g.HandStats[14];
+  // Every category of the roll is counted here once roll statistics exist.
+
+  Settler settle(g);
+  if (g.DiceTotal == g.PointBeforeRoll) {
+    LineWin(g);
+    settle(1, bet::kPassLine);
+    settle(2, bet::kPassOdds);
+    settle(-1, bet::kDontPass);
+    settle(-2, bet::kDontPassOdds);
+  }
+  SettleTotal(g, settle);
+  SettleEveryRoll(g, settle);
+  TestStopOnRoll(g, settle);
+
+  if (g.Point != g.PointBeforeRoll) AfterPointMoved(g);
+  if (g.TableDirty && !g.HyperDriveOn) {
+    g.Ui->RefreshTable();
+    g.TableDirty = false;
+  }
+  g.BankrollSum += g.Bankroll();
+  if (Abs(g.Bankroll()) > Currency(BankLimit)) CheckBankLimit(g);
+  g.HighBankroll = Max(g.HighBankroll, g.Bankroll());
+  g.LowBankroll = Min(g.LowBankroll, g.Bankroll());
+  // The bankroll graph takes its point here, then the script runs once, and
+  // the gap counter of total rolls is taken, as those parts come to exist.
+  g.BetAfterRoll = g.BetAmount;
+  // The Flags' previous values are taken here once scripts have Flags.
+
+  if (g.RollCountLeft > 0 && --g.RollCountLeft == 0) {
+    Stop(g);
+    if (g.HyperDriveOn && g.StopReason.empty()) g.StopReason = "Stopped by roll count on Auto-Play screen.";
+    g.RollCountLeft = g.RollCountStop;
+  }
+}
+
+// Step 4: no roll is thrown at or beyond the ceiling. False stops the run.
+bool BelowMaxRolls(Game& g) {
+  if (g.RollCounts[0] < MaxRolls) return true;
+  Stop(g);
+  const std::string limit = FormatWithCommas(MaxRolls);
+  if (g.HyperDriveOn)
+    g.StopReason = WithTail("Stopped due to reaching the maximum limit of " + limit + " rolls.");
+  else
+    ShowMessage(g, "Reached Maximum Roll Limit",
+                WithTail("Sorry ... you've reached the maximum limit of " + limit + " rolls."));
+  return false;
+}
+
+void ShowBankLimit(Game& g) {
+  const bool won = g.Bankroll() > 0;
+  g.Ui->PlaySoundFile("Chips.wav");
+  ShowMessage(g, won ? "Congratulations!" : "Sorry ... this wasn't your lucky day.",
+              WithTail((won ? "You broke the bank limit of " : "You've exceeded the max loss limit of ") +
+                       Dollars(BankLimit)));
+}
+
+}  // namespace
+
+int NextPoint(int point, int total) {
+  if (point == 0) return bet::IsPointNumber(total) ? total : 0;
+  return total == point || total == 7 ? 0 : point;
+}
+
+void RollDice(Game& g) {
+  if (g.RollInProgress) return;  // a second roll never starts inside a run
+  // The bet-entry box of a screen is committed by the front end before it
+  // asks for a roll.
+  if (Abs(g.Bankroll()) > Currency(BankLimit)) {
+    // The table refuses to roll beyond the limit; a run that was asked to
+    // start ends at once with its reason.
+    if (g.HyperDriveOn) {
+      CheckBankLimit(g);
+      LeaveHyperDrive(g);
+      g.Ui->RollFinished(g.StopReason);
+      g.StopReason.clear();
+    } else {
+      Stop(g);
+      ShowBankLimit(g);
+    }
+    return;
+  }
+  g.TableUsed = true;
+  g.RollInProgress = true;
+  g.StopReason.clear();
+
+  for (;;) {
+    if (BelowMaxRolls(g)) Throw(g);
+    if (g.HyperDriveOn) {
+      g.Ui->LetInputRun();
+      BurnPaceLoop(g);
+      if (g.KeepRolling) continue;
+      LeaveHyperDrive(g);
+    }
+    if (g.AutoRollOn && g.KeepRolling) {
+      AutoRollWait(g);
+      if (g.KeepRolling) {
+        if (g.Point == 0) PlayComeOutSound(g);
+        continue;
+      }
+    }
+    break;
+  }
+  Finish(g);
+}
+
+void MoveBet(Game& g, int fromBet, int toBet) {
+  const Currency amount = g.BetAmount[fromBet];
+  if (amount <= 0) return;
+  const bool soundWasOff = g.DisableAllSound;
+  g.DisableAllSound = true;
+  g.BetChange = -amount;
+  PlaceBet(g, fromBet);
+  g.Ui->RedrawBet(fromBet);
+  g.MovingBet = true;
+  g.BetChange = amount;
+  PlaceBetOnTable(g, toBet);
+  g.MovingBet = false;
+  g.BetCommitted[toBet] = amount;  // at once a contract bet on its number
+  if (bet::IsComeNumber(toBet) && g.AutoRemovePlaceBets) {
+    TakeDownBet(g, toBet + 12);  // the Place bet of the number
+    TakeDownBet(g, toBet + 18);  // and its Buy bet
+  }
+  g.DisableAllSound = soundWasOff;
+}
+
+void CheckBankLimit(Game& g) {
+  // Beyond the limit the run ends in every mode; Hyper-Drive says why when
+  // it stops, a visible table says so at once if this roll crossed the line.
+  Stop(g);
+  if (g.HyperDriveOn) {
+    const bool won = g.Bankroll() > 0;
+    g.StopReason = WithTail((won ? "Stopped by breaking the bank limit of " : "Stopped by exceeding the max loss limit of ") +
+                            Dollars(BankLimit));
+  } else if (g.Bankroll() != g.BetAfterRoll[bet::kBankroll]) {
+    ShowBankLimit(g);
+  }
+}
+
+void PlayComeOutSound(Game& g) {
+  if (g.HandStats[0] == 0) Sound(g, kSoundNewShooter);
+  Sound(g, kSoundComeOut);
+}
+
+void LineWin(Game& g) {
+  auto& h = g.HandStats;
+  ++h[1];
+  ++h[10];
+  ++h[g.PointBeforeRoll > 0 ? 8 : 9];
+  Sound(g, kSoundLineWin);
+}
+
+void LineLoss(Game& g) {
+  auto& h = g.HandStats;
+  ++h[15];
+  ++h[13];
+  if (g.PointBeforeRoll > 0) {  // a seven-out ends the hand
+    ++h[11];
+    ++h[2];
+    h[3] = std::max(h[3], h[0]);
+    h[4] = std::max(h[4], h[1]);
+    h[5] += h[0];
+    h[6] += h[1];
+    h[16] = std::max(h[16], h[15]);
+    h[17] = h[0];
+    h[0] = 0;
+    h[18] = h[1];
+    h[1] = 0;
+    h[19] = h[15];
+    h[15] = 0;
+  } else {
+    ++h[12];
+  }
+  Sound(g, kSoundLineLoss);
+}
+
+void LineBarred(Game& g) {
+  ++g.HandStats[15];
+  ++g.HandStats[13];
+  ++g.HandStats[12];
+  Sound(g, kSoundBarred);
+}
