@@ -8,7 +8,11 @@ Reply ShowMessage(Game& g, const std::string& title, const std::string& text, Bu
   return g.Ui->ShowMessage(title, text, buttons);
 }
 
-std::string Dollars(Currency amount) { return "$" + FormatNumberWithCommas(amount); }
+std::string Dollars(Currency amount) {
+  std::string text = "$";
+  text += FormatNumberWithCommas(amount);
+  return text;
+}
 
 std::string RunTimeErrorText(const std::string& description, int number, const std::string& routine) {
   return description + ", Error #" + std::to_string(number) + " occurred, at: " + routine + kBreak;

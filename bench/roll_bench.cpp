@@ -1,0 +1,71 @@
+// Rolls per second of RollDice in Hyper-Drive with a busy table: line bets
+// with odds, Come bets, Place 6 and 8, the Field and the hard ways.
+
+#include <benchmark/benchmark.h>
+
+#include "engine/game.h"
+#include "engine/new_game.h"
+#include "engine/place_bet.h"
+#include "engine/roll.h"
+#include "dice/rng.h"
+
+namespace {
+
+// Between rolls of a run the table lets queued input run; here that input is
+// a player who keeps the layout full, as a betting script would.
+class BusyPlayer : public SilentFrontEnd {
+ public:
+  explicit BusyPlayer(Game& g) : g_(g) {}
+  void LetInputRun() override {
+    Keep(bet::kPassLine, 10);
+    Keep(bet::kDontPass, 10);
+    if (g_.Point != 0) {
+      Keep(bet::kCome, 10);
+      Keep(bet::kPassOdds, 20);
+      Keep(bet::kDontPassOdds, 20);
+      for (int n : bet::kNumbers)
+        if (g_.BetAmount[bet::Come(n)] > 0) Keep(bet::ComeOdds(n), 20);
+    }
+    Keep(bet::Place(6), 12);
+    Keep(bet::Place(8), 12);
+    Keep(bet::kField, 5);
+    for (int id = bet::kHard4; id <= bet::kHard10; ++id) Keep(id, 1);
+  }
+
+ private:
+  void Keep(int id, int amount) {
+    if (g_.BetAmount[id] != 0) return;
+    g_.BetChange = amount;
+    PlaceBet(g_, id);
+  }
+  Game& g_;
+};
+
+void BM_RollDiceHyperDriveBusyTable(benchmark::State& state) {
+  Game g;
+  BusyPlayer player(g);
+  g.Ui = &player;
+  g.ReSeedNewGames = false;
+  FillDefaults(g);
+  g.BankrollInitAmount = 1'000'000;
+  NewGame(g, false);
+  g.SeedRequest = 20261121;
+  SeedRNG(g, true);
+  const int rollsPerRun = static_cast<int>(state.range(0));
+  for (auto _ : state) {
+    if (g.RollCounts[0] > MaxRolls - rollsPerRun || Abs(g.Bankroll()) > Currency(BankLimit / 2)) {
+      state.PauseTiming();
+      NewGame(g, false);
+      state.ResumeTiming();
+    }
+    g.RollCountStop = g.RollCountLeft = rollsPerRun;
+    g.HyperDriveOn = g.KeepRolling = true;
+    RollDice(g);
+  }
+  state.SetItemsProcessed(state.iterations() * rollsPerRun);
+  state.counters["rolls/s"] = benchmark::Counter(static_cast<double>(state.iterations() * rollsPerRun),
+                                                 benchmark::Counter::kIsRate);
+}
+BENCHMARK(BM_RollDiceHyperDriveBusyTable)->Arg(100'000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
