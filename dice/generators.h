@@ -8,7 +8,7 @@
 // MT19937 as in the reference code (init_genrand, genrand_real2).
 struct Mt19937 {
   std::array<uint32_t, 624> mt{};
-  int mti = 625;  // 625: not yet initialised
+  int mti = 625;  // 625: not yet initialised; the first draw seeds with 5489
 };
 
 // The Cokus variant of the Mersenne Twister, with its own seeding.
@@ -48,6 +48,9 @@ void init_genrand(Mt19937& g, uint32_t seed);
 uint32_t genrand_int32(Mt19937& g);
 double genrand_real2(Mt19937& g);  // [0,1): the 32-bit output times 1/4294967296
 
+// Cokus seeding: the seed forced odd, then a 69069 congruential fill, so
+// seeds 2k and 2k+1 give the same stream. An unseeded generator seeds
+// itself with 4357 on its first draw.
 void srandMT(CokusMt& g, uint32_t seed);
 uint32_t randomMT_int32(CokusMt& g);
 double randomMT(CokusMt& g);  // [0,1): the 32-bit output times 1/4294967296
