@@ -50,11 +50,7 @@ void FillDefaults(Game& g) {
 void StartUp(Game& g, const std::string& folder) {
   g.DataFolder = folder;
   g.SpeedUnit = MeasureSpeedUnit();
-  // Every base generator is seeded, #5 first, so that #1 ends up selected.
-  for (int choice = 4; choice >= 0; --choice) {
-    g.RngChoice = choice;
-    SeedRNG(g, false);
-  }
+  SeedAtStartUp(g);
   FillDefaults(g);
   // The default game of the folder is opened here once game files exist;
   // until then every start is a new game with its starting bankroll.
