@@ -106,6 +106,9 @@ SettleNotice LostNotice(const Game& g, int betId, Currency unit) {
   n.rows.push_back(NetRow(g, "Net loss (rounded): ", "Net loss: "));
   Currency remainder = g.BetAmount[betId] + g.NetPayoff;
   if (remainder > 0) n.rows.push_back({"Remainder: ", Dollars(remainder)});
-  n.buttons = {"No Bet/Take Remainder", "Bet Remainder", "Same Bet", PressCaption(unit), "Double Bet"};
+  if (g.BetComesDown)
+    n.buttons = {"No Bet/Take Remainder"};
+  else
+    n.buttons = {"No Bet/Take Remainder", "Bet Remainder", "Same Bet", PressCaption(unit), "Double Bet"};
   return n;
 }

@@ -22,5 +22,5 @@ SettleNotice WonNotice(const Game& g, int betId);
 // Odds that were off and have been given back on their parent's decision.
 SettleNotice OddsReturnedNotice(const Game& g, int betId);
 // "Bet Lost": the loss, any vig, the net and what remains of the bet; the
-// press caption offers `unit`.
+// press caption offers `unit`. A bet that must come down offers no choice.
 SettleNotice LostNotice(const Game& g, int betId, Currency unit);
