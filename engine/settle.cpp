@@ -1,8 +1,186 @@
 #include "engine/settle.h"
 
-#include "engine/game.h"
+#include <cmath>
+#include <optional>
 
-// Placeholder until settlement is built.
-void SettleBet(Game& g, int, int betId) { g.SettlingBetId = betId; }
-void FigurePayoff(Game& g, int, int, int, Currency) { g.RawPayoff = g.NetPayoff = 0; }
-void FigureUnit(Game& g, int) { g.UnitAmount = g.SmallestChip(); }
+#include "autoplay/bet_handling.h"
+#include "engine/game.h"
+#include "engine/settle_notice.h"
+
+namespace {
+
+Currency FromRawDouble(double raw) { return Currency::FromRaw(static_cast<int64_t>(std::nearbyint(raw))); }
+
+// amount x win / per, worked on the raw count so that whole ratios stay exact.
+Currency Share(Currency amount, Currency win, Currency per) {
+  if (per.raw == 0) return Currency{};  // validation keeps Per above zero
+  return FromRawDouble(static_cast<double>(amount.raw) * win.ToDouble() / per.ToDouble());
+}
+
+bool IsSplit(int betId) { return betId == bet::kCandE || betId == bet::kHorn || betId == bet::kWorld; }
+int SplitParts(int betId) { return betId == bet::kCandE ? 2 : betId == bet::kHorn ? 4 : 5; }
+
+// The single-number bet whose record pays the winning part of a split bet.
+int WinningPart(int betId, int total) {
+  if (betId == bet::kCandE) return total == 11 ? bet::kEleven : bet::kCraps;
+  if (total == 2) return bet::kTwo;
+  if (total == 3) return bet::kThree;
+  if (total == 7 && betId == bet::kWorld) return bet::kSeven;
+  if (total == 11) return bet::kEleven;
+  return bet::kTwelve;
+}
+
+// The winning part pays by its own record; the other parts lose.
+Currency SplitPayoff(Currency amount, int parts, const PayoffRecord& paid) {
+  if (paid.Per.raw == 0) return Currency{};
+  double a = static_cast<double>(amount.raw);
+  return FromRawDouble(paid.Win.ToDouble() * (a / parts) / paid.Per.ToDouble() - (parts - 1) * a / parts);
+}
+
+// Line bets and their odds win by the Come or Don't Come record of the point.
+int WinningRecord(const Game& g, int betId) {
+  int point = g.PointBeforeRoll;
+  bool onPoint = bet::IsPointNumber(point);
+  switch (betId) {
+    case bet::kPassLine: return onPoint ? bet::Come(point) : bet::kCome;
+    case bet::kPassOdds: return onPoint ? bet::ComeOdds(point) : betId;
+    case bet::kDontPass: return onPoint ? bet::DontCome(point) : bet::kDontCome;
+    case bet::kDontPassOdds: return onPoint ? bet::DontComeOdds(point) : betId;
+    default: return betId;
+  }
+}
+
+// Vig of a Lay or Buy of `amount`: the stored vig of a real bet, or the rate
+// on one phantom unit (a Lay pays it on what it would win).
+Currency VigOf(const Game& g, int realBet, int betId, Currency amount) {
+  if (bet::IsLay(betId)) {
+    if (realBet) return g.LayVigOnBet[betId - bet::kLayBase];
+    const PayoffRecord& own = g.Payoff[betId];
+    return MulRatio(Share(amount, own.Win, own.Per), g.LayVigRate.ToDouble());
+  }
+  if (realBet) return g.BuyVigOnBet[betId - bet::kBuyBase];
+  return MulRatio(amount, g.BuyVigRate.ToDouble());
+}
+
+// Vig is paid on a win, and on a loss too when it is charged up front.
+bool ChargesVig(const Game& g, int betId, bool paysBeforeVig) {
+  if (bet::IsLay(betId)) return paysBeforeVig || g.ChargeAllLay;
+  if (bet::IsBuy(betId)) return paysBeforeVig || g.ChargeAllBuy;
+  return false;
+}
+
+// A won bet that cannot stay on the layout. Flat line and Place bets stay up.
+bool MustComeDown(const Game& g, int betId) {
+  if ((betId == bet::kCome || betId == bet::kDontCome) && g.DiceTotal == 7) return true;
+  if (betId == bet::kPassOdds || betId == bet::kDontPassOdds) return true;
+  if (bet::IsDontComeNumber(betId) || bet::IsDontComeOdds(betId)) return true;
+  if (bet::IsComeNumber(betId)) return !g.AllowPutBets;
+  if (bet::IsComeOdds(betId)) return g.BetAmount[bet::ParentOf(betId)] == 0;
+  return false;
+}
+
+void KeepStreak(Game& g, int betId) {
+  int32_t& streak = g.BetStreak[1][betId];
+  if (g.NetPayoff > 0) streak = streak < 0 ? 1 : streak + 1;
+  if (g.NetPayoff < 0) streak = streak > 0 ? -1 : streak - 1;
+}
+
+void SettleWorkingBet(Game& g, int outcome, int betId) {
+  FigurePayoff(g, 0, betId, outcome, 1);
+  // The phantom unit's result is booked here once bet results exist.
+  Currency amount = g.BetAmount[betId];
+  if (amount == 0) return;
+  FigurePayoff(g, 1, betId, outcome, amount);
+  // The real bet's result is booked here once bet results exist.
+  if (g.Payoff[0].Win == 0 && g.NetPayoff == 0) return;  // a push: nothing happened
+
+  g.Bankroll() += g.NetPayoff;
+  if (betId < static_cast<int>(g.BetCommitted.size())) g.BetCommitted[betId] = 0;
+  g.BetComesDown = MustComeDown(g, betId);
+  KeepStreak(g, betId);
+
+  if (g.NetPayoff < 0) {
+    std::optional<SettleNotice> notice;
+    if (g.HandleLosingBets == 0 && g.Visible() && g.BetAtRollStart[betId] > 0)
+      notice = LostNotice(g, betId, UnitFor(g, amount, g.Payoff[betId].Per));
+    LostBetHandling(g, betId, notice ? &*notice : nullptr);
+    return;
+  }
+  FigureUnit(g, betId);
+  std::optional<SettleNotice> notice;
+  if (g.Visible() && g.WonBetAction == 0) notice = WonNotice(g, betId);
+  WonBetHandling(g, betId, notice ? &*notice : nullptr);
+}
+
+// A flat bet that is off stands untouched; odds that are off go back to the
+// player on their parent's decision, and their spot works again.
+void ReturnIdleOdds(Game& g, int outcome, int betId) {
+  if (g.BetAmount[betId] == 0 || outcome == 1 || outcome == -1) return;
+  g.NetPayoff = 0;
+  g.BetComesDown = g.BetAmount[bet::ParentOf(betId)] == 0 || !g.AllowPutBets;
+  if (!g.BetComesDown) {
+    g.Payoff[0].Per = g.Payoff[betId].Per;
+    FigureUnit(g, betId);
+  }
+  std::optional<SettleNotice> notice;
+  if (g.Visible() && g.WonBetAction == 0) notice = OddsReturnedNotice(g, betId);
+  WonBetHandling(g, betId, notice ? &*notice : nullptr);
+  g.BetStatus[betId] = 1;
+}
+
+}  // namespace
+
+void SettleBet(Game& g, int outcome, int betId) {
+  g.SettlingBetId = betId;
+  if (!bet::IsTableBet(betId)) return;
+  if (g.BetStatus[betId] >= 1)
+    SettleWorkingBet(g, outcome, betId);
+  else
+    ReturnIdleOdds(g, outcome, betId);
+}
+
+void FigurePayoff(Game& g, int realBet, int betId, int outcome, Currency amount) {
+  PayoffRecord& row0 = g.Payoff[0];
+  const PayoffRecord& own = g.Payoff[betId];
+  row0 = outcome > 0 ? own : PayoffRecord{-1, own.Form, 1};
+  g.RawPayoff = Share(amount, row0.Win, row0.Per);
+  if (ChargesVig(g, betId, g.RawPayoff > 0)) g.RawPayoff -= VigOf(g, realBet, betId, amount);
+
+  if (outcome > 0) {
+    int record = WinningRecord(g, betId);
+    if (record != betId) {
+      row0 = g.Payoff[record];
+      g.RawPayoff = Share(amount, row0.Win, row0.Per);
+    }
+    if (IsSplit(betId)) {
+      row0 = g.Payoff[WinningPart(betId, g.DiceTotal)];
+      g.RawPayoff = SplitPayoff(amount, SplitParts(betId), row0);
+    }
+  }
+  // One call serves the Field's wins and losses: the pair's row says which.
+  if (betId == bet::kField) {
+    row0 = g.FieldPayoff[bet::FieldRow(g.Die1, g.Die2)];
+    g.RawPayoff = Share(amount, row0.Win, row0.Per);
+  }
+
+  // Toward minus infinity: a winner's odd cents stay with the house.
+  Currency chip = g.SmallestChip();
+  g.NetPayoff = chip > 0 ? chip * IntegerPartOf(g.RawPayoff, chip) : g.RawPayoff;
+}
+
+Currency UnitFor(const Game& g, Currency amount, Currency per) {
+  Currency unit;
+  for (int slot = bet::kLastChip; slot >= bet::kFirstChip; --slot) {
+    unit = MulRatio(g.BetAmount[slot], per.ToDouble());
+    if (unit > 0 && unit <= amount && amount.raw % unit.raw == 0) break;
+  }
+  return unit;
+}
+
+void FigureUnit(Game& g, int betId) { g.UnitAmount = UnitFor(g, g.BetAmount[betId], g.Payoff[0].Per); }
+
+Currency VigTaken(const Game& g, int betId) {
+  if (!bet::IsLay(betId) && !bet::IsBuy(betId)) return Currency{};
+  if (!ChargesVig(g, betId, g.Payoff[0].Win > 0)) return Currency{};
+  return VigOf(g, 1, betId, g.BetAmount[betId]);
+}

@@ -5,10 +5,19 @@
 
 struct Game;
 
-// Outcome: 1 flat win, 2 odds win, -1 flat loss, -2 odds loss.
+// Outcome: 1 flat win, 2 odds win, -1 flat loss, -2 odds loss. Settles betId
+// if it is working (and gives back odds that are off), then hands a decided
+// bet to the won or lost handling.
 void SettleBet(Game& g, int outcome, int betId);
 // Sets g.RawPayoff, g.NetPayoff and row 0 of g.Payoff. realBet 0 figures the
 // phantom one-unit wager with the rate's vig; 1 the real bet with its own vig.
 void FigurePayoff(Game& g, int realBet, int betId, int outcome, Currency amount);
-// The press of one unit for the bet being settled, in g.UnitAmount.
+// The press of one unit for the bet being settled, in g.UnitAmount: the
+// largest check times Per of row 0 that divides the bet into whole units.
 void FigureUnit(Game& g, int betId);
+// The unit of FigureUnit for any amount and Per.
+Currency UnitFor(const Game& g, Currency amount, Currency per);
+// The vig that the last real figuring of Lay or Buy betId took off its
+// payoff: its stored vig when the bet won or its vig is charged up front,
+// otherwise (and for every other bet) 0. Reads row 0 of g.Payoff.
+Currency VigTaken(const Game& g, int betId);
