@@ -96,7 +96,9 @@ class TablePlacement {
 };
 
 void TablePlacement::Run() {
-  change_ = RoundChangeToChips(g_.BetChange, Chip(g_));
+  // No wish beyond what any slot may hold makes sense; bounding it keeps the
+  // arithmetic below from overflowing.
+  change_ = RoundChangeToChips(Min(Max(g_.BetChange, -kStackLimit), kStackLimit), Chip(g_));
   if (bet_ + change_ < 0) change_ = -bet_;
   if (change_ == 0) return;
 
@@ -167,7 +169,9 @@ bool TablePlacement::ApplyMaximum() {
 }
 
 void TablePlacement::Adjust() {
-  if (g_.AutoAdjustMode > 0) change_ = AdjustBet(g_, id_, change_);
+  if (g_.AutoAdjustMode <= 0) return;
+  change_ = AdjustBet(g_, id_, change_);
+  if (bet_ + change_ < 0) change_ = -bet_;
 }
 
 void TablePlacement::ApplyBankroll() {

@@ -22,7 +22,11 @@ TEST(PlaceBet, ChangesMoveInWholeChips) {
   EXPECT_EQ(t.Place(bet::Place(6), 7), 10);
   EXPECT_EQ(t.Place(bet::Place(6), -3), -5);
   EXPECT_EQ(t.Place(bet::Place(6), -20), -5);  // no more than the bet
+  EXPECT_EQ(t.Place(bet::Place(6), Currency::FromRaw(INT64_MAX)), 1000);
+  EXPECT_EQ(t.Place(bet::Place(6), Currency::FromRaw(INT64_MIN)), -1000);
   EXPECT_EQ(t.g.TotalOnTable, 0);
+  t.ui.messages.clear();
+  EXPECT_EQ(t.Place(bet::Place(6), 10), 10);
   EXPECT_TRUE(t.ui.messages.empty());
   EXPECT_TRUE(t.g.MsgText.empty());
 }
