@@ -1,23 +1,331 @@
 #include "engine/place_bet.h"
 
-#include "engine/bet_status.h"
-#include "engine/game.h"
+#include <string>
 
-// Placeholder: applies the change with no rule at all.
-void PlaceBet(Game& g, int betId) {
-  Currency change = g.BetChange;
-  if (g.BetAmount[betId] + change < 0) change = -g.BetAmount[betId];
-  g.BetChangeAllowed = change;
-  g.BetAmount[betId] += change;
-  if (bet::IsTableBet(betId)) {
-    g.TotalOnTable += change;
-    if (g.BetAmount[betId] == 0) SetBetStatusDefault(g, betId);
+#include "autoplay/adjust_bet.h"
+#include "config/rules.h"
+#include "engine/bet_status.h"
+#include "engine/contract_rules.h"
+#include "engine/game.h"
+#include "engine/notices.h"
+#include "engine/refusals.h"
+
+namespace {
+
+const Currency kStackLimit = Currency::FromRaw(999'999'999'999'999'999);  // 99,999,999,999,999.9999
+const Currency kFullRequest = 9'999'999;
+
+std::string BetTitle(const Game& g, int id) { return g.BetName[id] + " Bet"; }
+
+Currency Chip(const Game& g) { return g.SmallestChip().raw > 0 ? g.SmallestChip() : Currency::FromRaw(1); }
+
+// Whole chips both ways: adding rounds up, taking away rounds away from zero.
+Currency RoundChangeToChips(Currency change, Currency chip) {
+  if (change.raw % chip.raw == 0) return change;
+  int64_t chips = change.raw / chip.raw;
+  chips += change.raw > 0 ? 1 : -1;
+  return Currency::FromRaw(chips * chip.raw);
+}
+
+Currency BetMinimum(const Game& g, int id) {
+  if (bet::IsHardWay(id) || id >= bet::kTwo) return g.SmallestChip();
+  Currency minimum = g.TableMinimum;
+  if (id == bet::kPassLine || bet::IsComeNumber(id)) minimum = Max(minimum, g.BetCommitted[id]);
+  return minimum;
+}
+
+bool VigIsUpFront(const Game& g, int id) {
+  return (bet::IsBuy(id) && g.ChargeAllBuy) || (bet::IsLay(id) && g.ChargeAllLay);
+}
+
+// The vig of `amount` on this bet if it is taken up front, else 0.
+Currency UpFrontVig(const Game& g, int id, Currency amount) {
+  if (!VigIsUpFront(g, id)) return 0;
+  return bet::IsBuy(id) ? FigureBuyVig(g, id, amount) : FigureLayVig(g, id, amount);
+}
+
+Currency StoredVig(const Game& g, int id) {
+  if (bet::IsBuy(id)) return g.BuyVigOnBet[id - bet::kBuyBase];
+  if (bet::IsLay(id)) return g.LayVigOnBet[id - bet::kLayBase];
+  return 0;
+}
+
+bool AnyOtherBet(const Game& g, int id) {
+  for (int other = bet::kFirstTableBet; other <= bet::kLastTableBet; ++other)
+    if (other != id && g.BetAmount[other] > 0) return true;
+  return false;
+}
+
+// Appends to the pending limit notice, which lives in g.MsgText so that the
+// adjustment of step 8 may add to it or replace it.
+void AddNotice(Game& g, int id, const std::string& text) {
+  g.MsgText = g.MsgText.empty() ? text : g.MsgText + kTwoBreaks + text;
+  if (g.MsgTitle.empty()) g.MsgTitle = BetTitle(g, id);
+}
+
+void ShowPendingNotice(Game& g, const std::string& title, bool stack, bool nothingChanged) {
+  if (g.MsgText.empty()) return;
+  if (g.MsgText.find("Unable") == std::string::npos)
+    g.MsgText += kTwoBreaks + limit_notice::Ending(stack, nothingChanged);
+  if (g.MsgTitle.empty()) g.MsgTitle = title;
+  if (NoticeAllowed(g, kNoticeLimits)) ShowMessage(g, g.MsgTitle, g.MsgText);
+}
+
+class TablePlacement {
+ public:
+  TablePlacement(Game& g, int id)
+      : g_(g), id_(id), bet_(g.BetAmount[id]),
+        committed_(id <= bet::kDontPass ? g.BetCommitted[id] : Currency(0)) {}
+
+  void Run();
+
+ private:
+  bool ApplyMinimum();
+  bool ApplyMaximum();
+  void Adjust();
+  void ApplyBankroll();
+  void Apply();
+  void TellVig(Currency before, Currency after);
+
+  Game& g_;
+  int id_;
+  Currency bet_;
+  Currency committed_;
+  Currency change_;
+  std::string shownText_, shownTitle_;  // a notice that could not wait for the ending
+};
+
+void TablePlacement::Run() {
+  // No wish beyond what any slot may hold makes sense; bounding it keeps the
+  // arithmetic below from overflowing.
+  change_ = RoundChangeToChips(Min(Max(g_.BetChange, -kStackLimit), kStackLimit), Chip(g_));
+  if (bet_ + change_ < 0) change_ = -bet_;
+  if (change_ == 0) return;
+
+  ContractOutcome contract = ApplyContractRules(g_, id_, change_);
+  change_ = contract.change;
+  if (contract.ended || change_ == 0) {
+    change_ = 0;
+    return;
+  }
+  // A refusal that let part of the change through was shown already; it is
+  // left as the message only if no limit notice follows.
+  const std::string refusalText = g_.MsgText, refusalTitle = g_.MsgTitle;
+  g_.MsgText.clear();
+  g_.MsgTitle.clear();
+
+  if (ApplyMinimum() && ApplyMaximum()) {
+    Adjust();
+    ApplyBankroll();
+    ShowPendingNotice(g_, BetTitle(g_, id_), false, change_ == 0);
+    Apply();
+  } else {
+    ShowPendingNotice(g_, BetTitle(g_, id_), false, true);
+  }
+  if (g_.MsgText.empty()) {
+    g_.MsgText = shownText_.empty() ? refusalText : shownText_;
+    g_.MsgTitle = shownText_.empty() ? refusalTitle : shownTitle_;
   }
 }
-void PlaceBetOnTable(Game& g, int betId) { PlaceBet(g, betId); }
-Currency GetBetMaximum(const Game& g, int) { return g.TableMaximum; }
-void SetBetToMaximum(Game&, int) {}
-void TakeDownBet(Game& g, int betId) {
+
+bool TablePlacement::ApplyMinimum() {
+  const Currency minimum = BetMinimum(g_, id_);
+  const Currency after = bet_ + change_;
+  if (after > 0 && after < minimum) {
+    if (change_ > 0) {
+      change_ = minimum - bet_;
+      AddNotice(g_, id_, limit_notice::MinimumBet(minimum));
+    } else if (HeldByContract(g_, id_) && committed_ > 0) {
+      change_ = committed_ - bet_;  // the whole bet may not come down
+    } else {
+      change_ = -bet_;
+    }
+  }
+  return change_ != 0;
+}
+
+bool TablePlacement::ApplyMaximum() {
+  const Currency maximum = GetBetMaximum(g_, id_);
+  if (bet_ + change_ <= maximum) return true;
+  const bool contract = id_ == bet::kPassLine || bet::IsComeNumber(id_);
+  if (contract && committed_ > maximum) {
+    change_ = committed_ - bet_;
+    std::string text = limit_notice::MaximumBet(maximum) + kTwoBreaks +
+                       limit_notice::ContractAboveMaximum(g_.BetName[id_], committed_);
+    g_.MsgText = text;
+    g_.MsgTitle = BetTitle(g_, id_);
+    if ((g_.NoticeMask & (kNoticeRefusals | kNoticeLimits)) != 0 && g_.Visible())
+      ShowMessage(g_, g_.MsgTitle, text);
+    // Shown in full already: nothing is left pending for an ending.
+    shownText_ = text;
+    shownTitle_ = g_.MsgTitle;
+    g_.MsgText.clear();
+    g_.MsgTitle.clear();
+    return change_ != 0;
+  }
+  change_ = maximum - bet_;
+  AddNotice(g_, id_, limit_notice::MaximumBet(maximum));
+  return change_ != 0;
+}
+
+void TablePlacement::Adjust() {
+  if (g_.AutoAdjustMode <= 0) return;
+  change_ = AdjustBet(g_, id_, change_);
+  if (bet_ + change_ < 0) change_ = -bet_;
+}
+
+void TablePlacement::ApplyBankroll() {
+  if (g_.AllowNegativeBankroll || change_ <= 0) return;
+  const Currency chargedBefore = VigIsUpFront(g_, id_) ? StoredVig(g_, id_) : Currency(0);
+  auto fits = [&](Currency change) {
+    Currency vigRise = UpFrontVig(g_, id_, bet_ + change) - chargedBefore;
+    return g_.TotalOnTable + change + vigRise <= g_.Bankroll();
+  };
+  if (fits(change_)) return;
+
+  // Lower by whole chips until bet and vig fit; the cost only grows with the
+  // amount, so the search may halve instead of stepping.
+  const Currency chip = Chip(g_);
+  int64_t lo = 1, hi = (change_.raw + chip.raw - 1) / chip.raw;  // steps down to try
+  auto candidate = [&](int64_t steps) { return Max(change_ - chip * steps, 0); };
+  if (!fits(candidate(hi))) {
+    change_ = 0;
+  } else {
+    while (lo < hi) {
+      int64_t mid = lo + (hi - lo) / 2;
+      if (fits(candidate(mid))) hi = mid; else lo = mid + 1;
+    }
+    change_ = candidate(lo);
+  }
+
+  Adjust();
+  const Currency minimum = BetMinimum(g_, id_);
+  if (change_ > 0 && bet_ + change_ < minimum) change_ = minimum - bet_;
+  if (change_ > 0 && !fits(change_)) change_ = 0;  // not even the minimum fits
+  if (change_ < 0) change_ = 0;
+  AddNotice(g_, id_, limit_notice::NotEnoughBankroll(AnyOtherBet(g_, id_)));
+}
+
+void TablePlacement::Apply() {
+  if (change_ == 0) return;
+  g_.BetAmount[id_] += change_;
+  g_.TotalOnTable += change_;
+  if (g_.BetAmount[id_] == 0) SetBetStatusDefault(g_, id_);
+
+  if (!bet::IsBuy(id_) && !bet::IsLay(id_)) return;
+  const bool isBuy = bet::IsBuy(id_);
+  Currency& stored = isBuy ? g_.BuyVigOnBet[id_ - bet::kBuyBase] : g_.LayVigOnBet[id_ - bet::kLayBase];
+  const Currency before = stored;
+  stored = isBuy ? FigureBuyVig(g_, id_, g_.BetAmount[id_]) : FigureLayVig(g_, id_, g_.BetAmount[id_]);
+  if (VigIsUpFront(g_, id_)) g_.TotalOnTable += stored - before;
+  TellVig(before, stored);
+}
+
+void TablePlacement::TellVig(Currency before, Currency after) {
+  if (before == after || !NoticeAllowed(g_, kNoticeCharges)) return;
+  const bool upFront = VigIsUpFront(g_, id_);
+  if (after <= 0 && !upFront) return;
+  std::string text;
+  if (after == 0) {
+    text = "\"Vig\" charge returned " + Dollars(before);
+  } else {
+    if (before > 0)
+      text = std::string("\"Vig\"") + (after > before ? " increased by " : " decreased by ") +
+             Dollars(Abs(after - before)) + kTwoBreaks;
+    text += upFront ? "Total \"Vig\" charge " + Dollars(after)
+                    : "If you win, the \"Vig\" charge will be " + Dollars(after);
+  }
+  ShowMessage(g_, BetTitle(g_, id_), text);
+}
+
+void PlaceStack(Game& g, int id) {
+  const Currency bet = g.BetAmount[id];
+  Currency change = g.BetChange;
+  int64_t sum = 0;
+  if (__builtin_add_overflow(bet.raw, change.raw, &sum)) sum = change.raw > 0 ? INT64_MAX : INT64_MIN;
+  if (sum > kStackLimit.raw) {
+    change = kStackLimit - bet;
+    g.MsgText = limit_notice::MaximumStack(kStackLimit);
+  } else if (sum < -kStackLimit.raw) {
+    change = -kStackLimit - bet;
+    g.MsgText = limit_notice::MinimumStack(-kStackLimit);
+  }
+  ShowPendingNotice(g, bet::StackName(id), true, change == 0);
+  g.BetAmount[id] += change;
+  g.BetChangeAllowed = change;
+}
+
+}  // namespace
+
+void PlaceBet(Game& g, int betId) {
+  g.MsgText.clear();
+  g.MsgTitle.clear();
+  g.BetChangeAllowed = 0;
+  if (betId < 0 || betId >= bet::kSlots) return;
+  if (bet::IsStack(betId) || betId == bet::kSlots - 1) {
+    PlaceStack(g, betId);
+    return;
+  }
+  if (!bet::IsTableBet(betId)) {  // the bankroll, the rail and the chips take any change
+    g.BetAmount[betId] += g.BetChange;
+    g.BetChangeAllowed = g.BetChange;
+    return;
+  }
+  const Currency before = g.BetAmount[betId];
+  TablePlacement(g, betId).Run();
+  g.BetChangeAllowed = g.BetAmount[betId] - before;
+}
+
+void PlaceBetOnTable(Game& g, int betId) {
+  PlaceBet(g, betId);
+  g.Ui->RedrawBet(betId);
+  if (g.BetChangeAllowed == 0 || !bet::IsTableBet(betId)) return;
+
+  int oddsId = 0;
+  bool fullOdds = false;
+  if (betId == bet::kPassLine && g.Point > 0) {
+    oddsId = bet::kPassOdds;
+    fullOdds = g.AutoTakeFullOdds;
+  } else if (betId == bet::kDontPass && g.Point > 0) {
+    oddsId = bet::kDontPassOdds;
+    fullOdds = g.AutoLayFullOdds;
+  } else if (bet::IsComeNumber(betId)) {
+    oddsId = betId + 6;
+    fullOdds = g.AutoTakeFullOdds;
+  } else if (bet::IsDontComeNumber(betId)) {
+    oddsId = betId + 6;
+    fullOdds = g.AutoLayFullOdds;
+  }
+  if (oddsId == 0) return;
+  if (fullOdds || g.BetAmount[oddsId] > GetBetMaximum(g, oddsId)) {
+    const Currency made = g.BetChangeAllowed;
+    SetBetToMaximum(g, oddsId);
+    g.BetChangeAllowed = made;  // the caller asked about its own bet
+  }
+}
+
+void SetBetToMaximum(Game& g, int betId) {
+  if (betId < 0 || betId >= bet::kSlots) return;
+  const int32_t mask = g.NoticeMask;
+  const std::string text = g.MsgText, title = g.MsgTitle;
+  const Currency request = g.BetChange;
+  const Currency before = g.BetAmount[betId];
+  g.NoticeMask = 0;
   g.BetChange = -g.BetAmount[betId];
   PlaceBet(g, betId);
+  g.BetChange = kFullRequest;
+  PlaceBet(g, betId);
+  g.Ui->RedrawBet(betId);
+  g.NoticeMask = mask;
+  g.MsgText = text;
+  g.MsgTitle = title;
+  g.BetChange = request;
+  g.BetChangeAllowed = g.BetAmount[betId] - before;
+}
+
+void TakeDownBet(Game& g, int betId) {
+  if (betId < 0 || betId >= bet::kSlots) return;
+  g.BetChange = -g.BetAmount[betId];
+  PlaceBet(g, betId);
+  g.Ui->RedrawBet(betId);
 }

@@ -1,0 +1,21 @@
+#pragma once
+// The rules of adding to and taking from a bet that depend on what kind of
+// bet it is: contract bets, the Come boxes and the odds.
+
+#include "engine/money.h"
+
+struct Game;
+
+struct ContractOutcome {
+  Currency change;     // the change the rules allow
+  bool ended = false;  // a refusal ended the placement: nothing is to be made
+};
+
+// Refusals are left in g.MsgText and g.MsgTitle and shown at once when the
+// notice mask allows. While g.MovingBet is set the rules of adding are
+// lifted; the rules of taking down always hold.
+ContractOutcome ApplyContractRules(Game& g, int betId, Currency change);
+
+// Whether the bet is held at its committed amount now: a Pass Line with a
+// point on, or a Come bet on its number.
+bool HeldByContract(const Game& g, int betId);
