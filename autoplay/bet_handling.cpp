@@ -84,9 +84,11 @@ void ChangeBetTo(Game& g, int betId, Currency amount) {
 
 void TakeDown(Game& g, int betId) { ChangeBetTo(g, betId, 0); }
 
-// Off and on again, so that a Buy or Lay has its vig figured anew.
+// A bet kept at an amount: a Buy or Lay goes off and on again so that its vig
+// is figured anew; any other bet moves only by the difference, which keeps a
+// contract bet clear of the rules of taking down.
 void PlaceAgain(Game& g, int betId, Currency amount) {
-  TakeDown(g, betId);
+  if (bet::IsBuy(betId) || bet::IsLay(betId)) TakeDown(g, betId);
   ChangeBetTo(g, betId, amount);
 }
 

@@ -22,6 +22,7 @@ TEST(BetMaximum, PropositionsByTheirPayoff) {
   EXPECT_EQ(GetBetMaximum(t.g, bet::kHard6), 333);  // 9 to 1
   EXPECT_EQ(GetBetMaximum(t.g, bet::kHard4), 428);  // 7 to 1
   EXPECT_EQ(GetBetMaximum(t.g, bet::kTwo), 100);
+  t.g.Payoff[bet::kFirstHop] = {1, -1, 1};
   EXPECT_EQ(GetBetMaximum(t.g, bet::kFirstHop), 3000);  // 1 to 1: the payoff limit, not the table maximum
   t.g.Payoff[bet::kFirstHop] = {15, -1, 1};
   EXPECT_EQ(GetBetMaximum(t.g, bet::kFirstHop), 200);

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <ostream>
 
 Currency Currency::FromDouble(double value) {
   // nearbyint honours the default rounding mode: to nearest, ties to even.
@@ -65,3 +66,5 @@ std::string FormatNumberWithCommas(Currency value) {
   while (f.size() > 2 && f.back() == '0') f.pop_back();  // ".00##": two digits always, two more if needed
   return sign + intPart + "." + f;
 }
+
+void PrintTo(Currency value, std::ostream* os) { *os << "$" << FormatNumberWithCommas(value); }

@@ -4,6 +4,7 @@
 
 #include <compare>
 #include <cstdint>
+#include <iosfwd>
 #include <string>
 
 struct Currency {
@@ -43,6 +44,9 @@ int64_t Floor(Currency a);
 Currency Abs(Currency a);
 Currency Max(Currency a, Currency b);
 Currency Min(Currency a, Currency b);
+
+// Test failures and diagnostics print money as the program shows it.
+void PrintTo(Currency value, std::ostream* os);
 
 // Parses a decimal such as "-7.5" or "1,234.25"; false on anything else or on
 // more than four decimals' worth of precision lost.
