@@ -98,6 +98,7 @@ bool PlaySession::RunLine(const std::string& line) {
   if (IsBlankOrComment(line)) return true;
   try {
     const Args words = SplitCommandLine(line);
+    if (words.empty()) return true;
     const std::string verb = ToLower(words[0]);
     const Command* command = nullptr;
     for (const Command& c : Commands())
