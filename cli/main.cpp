@@ -1,6 +1,22 @@
 #include <iostream>
 
-int main() {
-  std::cerr << "dicemill-cli: not built yet\n";
-  return 1;
+#include <CLI/CLI.hpp>
+
+#include "cli/play_session.h"
+
+int main(int argc, char** argv) {
+  CLI::App app{"Dicemill, a craps table for measuring betting strategies"};
+  app.require_subcommand(1);
+
+  PlayOptions options;
+  CLI::App* play = app.add_subcommand("play", "Play the table headless: commands on stdin, JSON Lines on stdout");
+  play->add_option("--folder", options.folder, "Data folder (default: $DICEMILL_HOME, else the XDG data folder)");
+  play->add_option("--game", options.gameFile, "Game file to open after start-up");
+  play->add_flag("--strict", options.strict, "Exit with status 2 at the first error");
+
+  CLI11_PARSE(app, argc, argv);
+
+  std::ios::sync_with_stdio(false);
+  if (play->parsed()) return RunPlay(std::cin, std::cout, options);
+  return 0;
 }

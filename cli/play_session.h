@@ -1,2 +1,80 @@
 #pragma once
-// Placeholder: the headless play front end.
+// The `dicemill-cli play` session: commands in, one per line; JSON Lines out.
+// It is a screen without pixels and drives the table only through the same
+// engine routines a click or a key would reach.
+
+#include <istream>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "cli/headless_frontend.h"
+
+struct Game;
+
+struct PlayOptions {
+  std::string folder;    // empty: chosen from the environment
+  std::string gameFile;  // empty: none
+  bool strict = false;   // stop with status 2 at the first error
+};
+
+class PlaySession {
+ public:
+  // Runs the headless start-up. Errors of the start (a folder that cannot be
+  // made, a game file) are printed like any other.
+  PlaySession(std::ostream& out, const PlayOptions& options);
+  ~PlaySession();
+  PlaySession(const PlaySession&) = delete;
+  PlaySession& operator=(const PlaySession&) = delete;
+
+  // Runs one input line. False once the session is over: `quit`, or an error
+  // under --strict.
+  bool RunLine(const std::string& line);
+  // 0, or 2 once an error was printed under --strict.
+  int ExitStatus() const { return strict_ && failed_ ? 2 : 0; }
+  bool Over() const { return quit_ || ExitStatus() != 0; }
+
+  Game& game() { return *game_; }
+  HeadlessFrontEnd& frontEnd() { return ui_; }
+
+ private:
+  using Args = std::vector<std::string>;
+  struct Command;
+  static const std::vector<Command>& Commands();
+
+  void Start(const PlayOptions& options);
+  void Error(const std::string& text);
+
+  void Bet(const Args& a);
+  void Remove(const Args& a);
+  void Call(const Args& a);
+  void Buy(const Args& a);
+  void Roll(const Args& a);
+  void Hyper(const Args& a);
+  void AutoRoll(const Args& a);
+  void Set(const Args& a);
+  void Get(const Args& a);
+  void Chip(const Args& a);
+  void PayoffRow(const Args& a);
+  void FieldRow(const Args& a);
+  void Seed(const Args& a);
+  void Atm(const Args& a);
+  void New(const Args& a);
+  void Answer(const Args& a);
+  void State(const Args& a);
+  void Quit(const Args& a);
+
+  // Runs RollDice as a run and prints the `stopped` object.
+  void RunAndReport();
+
+  std::ostream& out_;
+  HeadlessFrontEnd ui_;
+  std::unique_ptr<Game> game_;
+  bool strict_ = false;
+  bool failed_ = false;
+  bool quit_ = false;
+};
+
+// Reads commands until end of input or `quit`; returns the exit status.
+int RunPlay(std::istream& in, std::ostream& out, const PlayOptions& options);

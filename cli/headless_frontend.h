@@ -1,0 +1,39 @@
+#pragma once
+// The screen of the `play` session: every message becomes a JSON line, and
+// questions take their replies from a queue that `answer` fills.
+
+#include <deque>
+#include <optional>
+#include <ostream>
+#include <string>
+
+#include "engine/frontend.h"
+
+class HeadlessFrontEnd : public FrontEnd {
+ public:
+  explicit HeadlessFrontEnd(std::ostream& out) : out_(out) {}
+
+  // True for a word that `answer` may queue: yes, no, cancel, a settle
+  // button word, or an amount.
+  static bool IsAnswerWord(const std::string& word);
+  void QueueAnswer(const std::string& word) { answers_.push_back(word); }
+  size_t PendingAnswers() const { return answers_.size(); }
+
+  // The reason the last roll reported through RollFinished.
+  const std::string& StopReason() const { return stopReason_; }
+  void ClearStopReason() { stopReason_.clear(); }
+
+  Reply ShowMessage(const std::string& title, const std::string& text, Buttons buttons) override;
+  std::optional<Currency> AskNumber(const std::string& title, const std::string& text, Currency offered) override;
+  std::optional<int> ShowSettleNotice(const SettleNotice& notice) override;
+  void ShowThrow(int die1, int die2, int pointAfter) override;
+  void RollFinished(const std::string& stopReason) override { stopReason_ = stopReason; }
+
+ private:
+  // The next queued reply; every dialog that asks consumes one, fitting or not.
+  std::optional<std::string> TakeAnswer();
+
+  std::ostream& out_;
+  std::deque<std::string> answers_;
+  std::string stopReason_;
+};

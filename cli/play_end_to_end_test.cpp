@@ -1,0 +1,75 @@
+// Runs the built program as a client would: commands on stdin, JSON on stdout.
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include "cli/json_lines.h"
+#include "cli/temp_folder_for_test.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct CliRun {
+  int status = -1;
+  std::vector<Json> objects;
+};
+
+// Runs `dicemill-cli play ARGS` with `input` on stdin, env set before it.
+CliRun RunCli(const fs::path& work, const std::string& env, const std::string& args, const std::string& input) {
+  std::ofstream(work / "in.txt") << input;
+  const std::string command = env + " '" DICEMILL_CLI_PATH "' play " + args + " < '" + (work / "in.txt").string() +
+                              "' > '" + (work / "out.txt").string() + "' 2> '" + (work / "err.txt").string() + "'";
+  CliRun run;
+  const int raw = std::system(command.c_str());
+  run.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
+  std::ifstream out(work / "out.txt");
+  for (std::string line; std::getline(out, line);) run.objects.push_back(Json::parse(line));
+  return run;
+}
+
+}  // namespace
+
+TEST(PlayEndToEnd, ASessionFromStartToQuit) {
+  TempFolder work;
+  const fs::path data = work.path() / "data";
+  const CliRun run = RunCli(work.path(), "", "--folder '" + data.string() + "'",
+                         "# a short session\n"
+                         "set TableMinimum 5\n"
+                         "bet 49 10\n"
+                         "bet 200 1\n"
+                         "state\n"
+                         "quit\n"
+                         "state\n");
+  EXPECT_EQ(run.status, 0);
+  EXPECT_TRUE(fs::is_directory(data));  // created on the way in
+  ASSERT_EQ(run.objects.size(), 2u);
+  EXPECT_TRUE(run.objects[0].contains("error"));
+  const Json& state = run.objects[1].at("state");
+  EXPECT_EQ(state.at("bets").at("49"), 10);
+  EXPECT_TRUE(state.at("stacks").empty());
+
+  // No quit: end of input ends the session just as well.
+  EXPECT_EQ(RunCli(work.path(), "", "--folder '" + data.string() + "'", "state").status, 0);
+}
+
+TEST(PlayEndToEnd, StrictExitsTwoAndTheFolderComesFromTheEnvironment) {
+  TempFolder work;
+  const fs::path home = work.path() / "home";
+  const CliRun run = RunCli(work.path(), "DICEMILL_HOME='" + home.string() + "'", "--strict", "state\nbet 43 ten\nstate\n");
+  EXPECT_EQ(run.status, 2);
+  ASSERT_EQ(run.objects.size(), 2u);
+  EXPECT_EQ(run.objects[1].at("error"), "bet: AMOUNT 'ten' is not an amount");
+  EXPECT_TRUE(fs::is_directory(home));
+
+  const fs::path xdg = work.path() / "xdg";
+  EXPECT_EQ(RunCli(work.path(), "env -u DICEMILL_HOME XDG_DATA_HOME='" + xdg.string() + "'", "", "").status, 0);
+  EXPECT_TRUE(fs::is_directory(xdg / "dicemill"));
+
+  // A bad option is the argument parser's business, not the session's.
+  EXPECT_NE(RunCli(work.path(), "", "--no-such-option", "").status, 0);
+}

@@ -1,0 +1,195 @@
+#include "engine/table_commands.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "engine/bet_status.h"
+#include "engine/game.h"
+#include "engine/new_game.h"
+#include "engine/place_bet.h"
+
+namespace {
+
+struct Shown {
+  std::string title, text;
+};
+
+class RecordingFrontEnd : public SilentFrontEnd {
+ public:
+  Reply ShowMessage(const std::string& title, const std::string& text, Buttons b) override {
+    shown.push_back({title, text});
+    return SilentFrontEnd::ShowMessage(title, text, b);
+  }
+  std::vector<Shown> shown;
+};
+
+struct Table {
+  Game g;
+  RecordingFrontEnd ui;
+  Table() {
+    FillDefaults(g);
+    UpdateBetStatusForPoint(g);
+    g.Ui = &ui;
+  }
+  // Come numbers only arrive by travelling from the box.
+  void Put(int id, int amount) {
+    g.BetChange = amount;
+    g.MovingBet = bet::IsComeNumber(id);
+    PlaceBet(g, id);
+    g.MovingBet = false;
+  }
+  // The point moves as the roll moves it, then statuses follow.
+  void PointTo(int point) {
+    g.DiceTotal = point == 0 ? 7 : point;
+    g.Point = point;
+    UpdateBetStatusForPoint(g);
+  }
+};
+
+}  // namespace
+
+TEST(CallBet, RefusesLineAndComeBetsWithTheirOwnWords) {
+  Table t;
+  t.Put(bet::Come(6), 10);
+  CallBet(t.g, bet::Come(6), kToolCallOff);
+  ASSERT_EQ(t.ui.shown.size(), 1u);
+  EXPECT_EQ(t.ui.shown[0].title, "Come 6 Bet");
+  EXPECT_EQ(t.ui.shown[0].text, "You may not call this bet ON or OFF.");
+  EXPECT_EQ(t.g.BetStatus[bet::Come(6)], 1);
+
+  for (int id : {43, 45, 46, 48, 7, 12, 19, 24}) EXPECT_FALSE(CanBeCalled(id)) << id;
+  for (int id : {bet::ComeOdds(6), bet::Place(6), bet::Buy(6), bet::kHard8, bet::kField, 56, 83, 1, 13, 44, 47})
+    EXPECT_TRUE(CanBeCalled(id)) << id;
+
+  t.Put(bet::ComeOdds(6), 10);
+  CallBet(t.g, bet::ComeOdds(6), kToolCallOn);
+  EXPECT_EQ(t.g.BetStatus[bet::ComeOdds(6)], 2);
+
+  t.Put(101, 25);
+  CallBet(t.g, 101, kToolCallOn);
+  ASSERT_EQ(t.ui.shown.size(), 2u);
+  EXPECT_EQ(t.ui.shown[1].title, "Chip-Stack # 1");
+  EXPECT_EQ(t.ui.shown[1].text, "You may not call Chip-Stacks ON or OFF.");
+
+  // An empty spot is ignored without a word; a silenced or Hyper-Drive table
+  // refuses without one.
+  CallBet(t.g, bet::kPassLine, kToolCallOff);
+  t.g.NoticeMask = 14;
+  CallBet(t.g, bet::Come(6), kToolCallOff);
+  t.g.NoticeMask = 15;
+  t.g.HyperDriveOn = true;
+  CallBet(t.g, bet::Come(6), kToolCallOff);
+  EXPECT_EQ(t.ui.shown.size(), 2u);
+}
+
+TEST(CallBet, OffOutlivesComeOutAndPointUntilCalledOnOrRemoved) {
+  Table t;
+  const int place6 = bet::Place(6);
+  t.Put(place6, 30);
+  CallBet(t.g, place6, kToolCallOff);
+  EXPECT_EQ(t.g.BetStatus[place6], -1);
+  t.PointTo(6);
+  EXPECT_EQ(t.g.BetStatus[place6], -1);
+  t.PointTo(0);
+  EXPECT_EQ(t.g.BetStatus[place6], -1);
+  t.PointTo(9);
+  EXPECT_EQ(t.g.BetStatus[place6], -1);
+
+  // A press the other way withdraws the call: back to working with a point on.
+  CallBet(t.g, place6, kToolCallOn);
+  EXPECT_EQ(t.g.BetStatus[place6], 1);
+  EXPECT_TRUE(t.g.TableDirty);
+  CallBet(t.g, place6, kToolCallOn);
+  EXPECT_EQ(t.g.BetStatus[place6], 2);
+  CallBet(t.g, place6, kToolCallOff);
+  EXPECT_EQ(t.g.BetStatus[place6], 1);
+
+  // Removal ends a call too; on the come-out the default is off.
+  CallBet(t.g, place6, kToolCallOff);
+  t.PointTo(0);
+  RemoveBet(t.g, place6);
+  EXPECT_EQ(t.g.BetAmount[place6], 0);
+  EXPECT_EQ(t.g.BetStatus[place6], 0);
+  EXPECT_TRUE(t.ui.shown.empty());
+}
+
+TEST(CallBet, AllBetsSkipsTheUncallableSilentlyAndRestoresTheMask) {
+  Table t;
+  t.Put(bet::kPassLine, 10);
+  t.Put(bet::Place(8), 12);
+  t.Put(bet::kHard4, 5);
+  t.g.NoticeMask = 7;
+  CallAllBets(t.g, false);
+  EXPECT_EQ(t.g.NoticeMask, 7);
+  EXPECT_TRUE(t.ui.shown.empty());
+  EXPECT_EQ(t.g.BetStatus[bet::kPassLine], 1);
+  EXPECT_EQ(t.g.BetStatus[bet::Place(8)], -1);
+  EXPECT_EQ(t.g.BetStatus[bet::kHard4], -1);
+  EXPECT_EQ(t.g.BetStatus[bet::Place(4)], 0);  // empty spots keep their status
+
+  CallAllBets(t.g, true);  // withdraws the OFF calls rather than calling ON
+  EXPECT_EQ(t.g.BetStatus[bet::Place(8)], 0);
+  EXPECT_EQ(t.g.BetStatus[bet::kHard4], 1);
+}
+
+TEST(BuyPlaceBet, MovesThePlaceAmountOntoTheBuySpot) {
+  Table t;
+  t.Put(bet::Place(6), 30);
+  t.Put(bet::Buy(6), 10);
+  const Currency before = t.g.TotalOnTable;
+  int id = bet::Place(6);
+  BuyPlaceBet(t.g, id);
+  EXPECT_EQ(id, bet::Buy(6));
+  EXPECT_EQ(t.g.BetAmount[bet::Buy(6)], Currency(30));
+  EXPECT_EQ(t.g.BetAmount[bet::Place(6)], Currency(0));
+  EXPECT_EQ(t.g.TotalOnTable, before - Currency(10));
+  EXPECT_TRUE(t.ui.shown.empty());
+
+  // A call on either spot: the Buy spot takes the Place bet's status.
+  t.Put(bet::Place(5), 10);
+  CallBet(t.g, bet::Place(5), kToolCallOff);
+  id = bet::Place(5);
+  BuyPlaceBet(t.g, id);
+  EXPECT_EQ(t.g.BetStatus[bet::Buy(5)], -1);
+
+  // A Buy bet clicked again, or an empty spot, does nothing.
+  id = bet::Buy(6);
+  BuyPlaceBet(t.g, id);
+  id = bet::Place(9);
+  BuyPlaceBet(t.g, id);
+  EXPECT_EQ(id, bet::Place(9));
+  EXPECT_TRUE(t.ui.shown.empty());
+  EXPECT_EQ(t.g.BetAmount[bet::Buy(6)], Currency(30));
+}
+
+TEST(BuyPlaceBet, RefusesOtherBetsAndChipStacks) {
+  Table t;
+  t.Put(bet::kField, 5);
+  t.Put(102, 5);
+  int id = bet::kField;
+  BuyPlaceBet(t.g, id);
+  id = 102;
+  BuyPlaceBet(t.g, id);
+  ASSERT_EQ(t.ui.shown.size(), 2u);
+  EXPECT_EQ(t.ui.shown[0].title, "Field Bet");
+  EXPECT_EQ(t.ui.shown[0].text, "You may not buy this bet.");
+  EXPECT_EQ(t.ui.shown[1].title, "Chip-Stack # 2");
+  EXPECT_EQ(t.ui.shown[1].text, "You may not buy Chip-Stacks.");
+  EXPECT_EQ(t.g.BetAmount[bet::kField], Currency(5));
+}
+
+TEST(RemoveBet, TakesEveryBetDownThroughPlacement) {
+  Table t;
+  t.Put(bet::kField, 5);
+  t.Put(bet::Lay(4), 40);
+  t.Put(bet::kLastHop, 1);
+  t.Put(103, 7);
+  RemoveAllBets(t.g);
+  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) EXPECT_EQ(t.g.BetAmount[id], 0) << id;
+  EXPECT_EQ(t.g.TotalOnTable, 0);
+  EXPECT_EQ(t.g.BetAmount[103], Currency(7));  // Chip-Stacks are not bets on the layout
+  RemoveBet(t.g, 103);
+  EXPECT_EQ(t.g.BetAmount[103], 0);
+}
