@@ -1,6 +1,7 @@
 #include "engine/money.h"
 
 #include <cmath>
+#include <climits>
 #include <cstdlib>
 #include <ostream>
 
@@ -20,8 +21,60 @@ int64_t Floor(Currency a) {
   return q;
 }
 
+namespace {
+
+__extension__ typedef __int128 Wide;  // products of two raw counts need 128 bits
+
+// num / den rounded to the nearest integer, ties to even; exact.
+template <typename Int>
+int64_t DivideHalfEven(Int num, Int den) {
+  if (den < 0) {
+    num = -num;
+    den = -den;
+  }
+  Int quotient = num / den;  // toward zero
+  Int remainder = num % den;
+  Int twice = 2 * (remainder < 0 ? -remainder : remainder);
+  if (twice > den || (twice == den && quotient % 2 != 0)) quotient += num < 0 ? -1 : 1;
+  return static_cast<int64_t>(quotient);
+}
+
+// a x b / den: in 64 bits when the product fits, which is nearly always, and
+// by a constant divisor for the commonest payoff, per one unit.
+int64_t MulDivideHalfEven(int64_t a, int64_t b, int64_t den) {
+  int64_t product;
+  if (!__builtin_mul_overflow(a, b, &product) && product != INT64_MIN) {
+    if (den == Currency::kScale) return DivideHalfEven<int64_t>(product, Currency::kScale);
+    return DivideHalfEven<int64_t>(product, den);
+  }
+  return DivideHalfEven<Wide>(static_cast<Wide>(a) * b, den);
+}
+
+}  // namespace
+
+Currency MulDiv(Currency a, Currency num, Currency den) {
+  return Currency::FromRaw(MulDivideHalfEven(a.raw, num.raw, den.raw));
+}
+
+// The quotient is rounded to four decimals before its integer part is taken,
+// so a quotient within half a ten-thousandth below a whole number counts as
+// whole. Worked with one floor division: the rounding lifts the floor by one
+// exactly when the remainder is at least 0.99995 of the unit.
 int64_t IntegerPartOf(Currency a, Currency unit) {
-  return Floor(Currency::FromDouble(a.ToDouble() / unit.ToDouble()));
+  int64_t num = a.raw, den = unit.raw;
+  if (den < 0) {
+    num = -num;
+    den = -den;
+  }
+  // The smallest check is $1 on most tables: a constant divisor is cheap.
+  int64_t quotient = den == Currency::kScale ? num / Currency::kScale : num / den;
+  int64_t remainder = num - quotient * den;
+  if (remainder < 0) {
+    --quotient;
+    remainder += den;
+  }
+  const bool roundsUp = static_cast<Wide>(remainder) * 20000 >= static_cast<Wide>(den) * 19999;
+  return roundsUp ? quotient + 1 : quotient;
 }
 
 Currency Abs(Currency a) { return a.raw < 0 ? -a : a; }

@@ -36,6 +36,9 @@ constexpr Currency operator*(Currency a, int64_t n) { return Currency::FromRaw(a
 
 // a * ratio worked in double, rounded back to Currency.
 Currency MulRatio(Currency a, double ratio);
+// a x num / den, exact, rounded to four decimals with ties to even: how a
+// payoff ratio is applied to a bet.
+Currency MulDiv(Currency a, Currency num, Currency den);
 // Floor of a / unit (the quotient first rounded to Currency, then floored).
 int64_t IntegerPartOf(Currency a, Currency unit);
 // Floor of a value: the integer part, toward minus infinity.

@@ -37,3 +37,20 @@ TEST(Currency, ParsesDecimalText) {
   EXPECT_FALSE(ParseCurrency("5x", c));
   EXPECT_FALSE(ParseCurrency("1e300", c));
 }
+
+TEST(Currency, ExactRatiosAndIntegerParts) {
+  // Ratios apply exactly, ties to even.
+  EXPECT_EQ(MulDiv(Currency(3), Currency(7), Currency(6)), Currency::FromRaw(35000));
+  EXPECT_EQ(MulDiv(Currency::FromRaw(1), Currency(1), Currency(2)).raw, 0);
+  EXPECT_EQ(MulDiv(Currency::FromRaw(3), Currency(1), Currency(2)).raw, 2);
+  EXPECT_EQ(MulDiv(Currency::FromRaw(-3), Currency(1), Currency(2)).raw, -2);
+  EXPECT_EQ(MulDiv(Currency(10), Currency(2), Currency(3)).raw, 66667);
+  EXPECT_EQ(MulDiv(Currency(9000000), Currency(9000000), Currency(3)).raw, 270000000000000000);
+  // The integer part floors a quotient already rounded to four decimals.
+  EXPECT_EQ(IntegerPartOf(Currency::FromRaw(35000), Currency(1)), 3);
+  EXPECT_EQ(IntegerPartOf(Currency::FromRaw(-35000), Currency(1)), -4);
+  EXPECT_EQ(IntegerPartOf(Currency(10), Currency::FromRaw(2500)), 40);
+  EXPECT_EQ(IntegerPartOf(Currency::FromRaw(99995), Currency(10)), 1);   // 0.99995 rounds to 1
+  EXPECT_EQ(IntegerPartOf(Currency::FromRaw(99994), Currency(10)), 0);
+  EXPECT_EQ(IntegerPartOf(Currency(7), Currency(-5)), -2);
+}

@@ -21,7 +21,8 @@ Currency Chip(const Game& g) { return g.SmallestChip().raw > 0 ? g.SmallestChip(
 
 // Whole chips both ways: adding rounds up, taking away rounds away from zero.
 Currency RoundChangeToChips(Currency change, Currency chip) {
-  if (change.raw % chip.raw == 0) return change;
+  // A $1 check is the common case, and a constant divisor is cheap.
+  if (chip.raw == Currency::kScale ? change.IsWhole() : change.raw % chip.raw == 0) return change;
   int64_t chips = change.raw / chip.raw;
   chips += change.raw > 0 ? 1 : -1;
   return Currency::FromRaw(chips * chip.raw);
@@ -117,9 +118,9 @@ void TablePlacement::Run() {
   if (ApplyMinimum() && ApplyMaximum()) {
     Adjust();
     ApplyBankroll();
-    ShowPendingNotice(g_, BetTitle(g_, id_), false, change_ == 0);
+    if (!g_.MsgText.empty()) ShowPendingNotice(g_, BetTitle(g_, id_), false, change_ == 0);
     Apply();
-  } else {
+  } else if (!g_.MsgText.empty()) {
     ShowPendingNotice(g_, BetTitle(g_, id_), false, true);
   }
   if (g_.MsgText.empty()) {

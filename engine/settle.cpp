@@ -1,6 +1,5 @@
 #include "engine/settle.h"
 
-#include <cmath>
 #include <optional>
 
 #include "autoplay/bet_handling.h"
@@ -9,12 +8,10 @@
 
 namespace {
 
-Currency FromRawDouble(double raw) { return Currency::FromRaw(static_cast<int64_t>(std::nearbyint(raw))); }
-
-// amount x win / per, worked on the raw count so that whole ratios stay exact.
+// amount x win / per, exact.
 Currency Share(Currency amount, Currency win, Currency per) {
   if (per.raw == 0) return Currency{};  // validation keeps Per above zero
-  return FromRawDouble(static_cast<double>(amount.raw) * win.ToDouble() / per.ToDouble());
+  return MulDiv(amount, win, per);
 }
 
 bool IsSplit(int betId) { return betId == bet::kCandE || betId == bet::kHorn || betId == bet::kWorld; }
@@ -30,11 +27,11 @@ int WinningPart(int betId, int total) {
   return bet::kTwelve;
 }
 
-// The winning part pays by its own record; the other parts lose.
+// The winning part pays by its own record; the other parts lose:
+// Win x (amount / parts) / Per - (parts - 1) x amount / parts, worked exactly.
 Currency SplitPayoff(Currency amount, int parts, const PayoffRecord& paid) {
   if (paid.Per.raw == 0) return Currency{};
-  double a = static_cast<double>(amount.raw);
-  return FromRawDouble(paid.Win.ToDouble() * (a / parts) / paid.Per.ToDouble() - (parts - 1) * a / parts);
+  return MulDiv(amount, paid.Win - paid.Per * (parts - 1), paid.Per * parts);
 }
 
 // Line bets and their odds win by the Come or Don't Come record of the point.
@@ -85,11 +82,8 @@ void KeepStreak(Game& g, int betId) {
   if (g.NetPayoff < 0) streak = streak > 0 ? -1 : streak - 1;
 }
 
-void SettleWorkingBet(Game& g, int outcome, int betId) {
-  FigurePayoff(g, 0, betId, outcome, 1);
-  // The phantom unit's result is booked here once bet results exist.
-  Currency amount = g.BetAmount[betId];
-  if (amount == 0) return;
+[[gnu::noinline]] void SettleWorkingBet(Game& g, int outcome, int betId) {
+  const Currency amount = g.BetAmount[betId];
   FigurePayoff(g, 1, betId, outcome, amount);
   // The real bet's result is booked here once bet results exist.
   if (g.Payoff[0].Win == 0 && g.NetPayoff == 0) return;  // a push: nothing happened
@@ -114,7 +108,9 @@ void SettleWorkingBet(Game& g, int outcome, int betId) {
 
 // A flat bet that is off stands untouched; odds that are off go back to the
 // player on their parent's decision, and their spot works again.
-void ReturnIdleOdds(Game& g, int outcome, int betId) {
+// Kept out of line so that the call for an empty spot, the commonest by far,
+// stays a few instructions.
+[[gnu::noinline]] void ReturnIdleOdds(Game& g, int outcome, int betId) {
   if (g.BetAmount[betId] == 0 || outcome == 1 || outcome == -1) return;
   g.NetPayoff = 0;
   g.BetComesDown = g.BetAmount[bet::ParentOf(betId)] == 0 || !g.AllowPutBets;
@@ -133,6 +129,11 @@ void ReturnIdleOdds(Game& g, int outcome, int betId) {
 void SettleBet(Game& g, int outcome, int betId) {
   g.SettlingBetId = betId;
   if (!bet::IsTableBet(betId)) return;
+  // The phantom unit of a working bet, FigurePayoff (0, BetId, Outcome, 1),
+  // is figured and booked here, for empty spots too, once bet results exist;
+  // figured alone it would change nothing. Beyond it an empty spot has
+  // nothing to settle, working or not.
+  if (g.BetAmount[betId] == 0) return;
   if (g.BetStatus[betId] >= 1)
     SettleWorkingBet(g, outcome, betId);
   else

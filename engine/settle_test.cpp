@@ -247,12 +247,12 @@ TEST(SettleBet, OffBetsStandAndOffOddsComeBack) {
   EXPECT_EQ(w.g.BetStatus[bet::ComeOdds(6)], 1);
 }
 
-TEST(SettleBet, EmptySpotFiguresOnlyThePhantomUnit) {
+TEST(SettleBet, EmptySpotMovesNoMoney) {
   Table t;
   t.g.BetStatus[bet::Place(6)] = 1;
   t.Dice(2, 4, 5);
   EXPECT_EQ(t.Settle(1, bet::Place(6)), Currency(0));
-  EXPECT_EQ(t.g.RawPayoff, Currency::FromRaw(11667));
+  EXPECT_EQ(t.g.BetStreak[1][bet::Place(6)], 0);
   EXPECT_TRUE(t.ui.notices.empty());
 }
 
