@@ -30,7 +30,40 @@ constexpr std::array<HopPair, 17> kHops = {{
     {3, 3}, {3, 4}, {3, 5}, {3, 6}, {4, 4}, {4, 5}, {4, 6}, {5, 5},
 }};
 
+// The catalogue by ranges of BetId: family, duration, contract, come-out.
+struct Range {
+  int first, last;
+  Entry entry;
+};
+constexpr Range kRanges[] = {
+    {1, 6, {Group::Lay, Duration::UntilSevenOrNumber, Contract::Free, 1}},
+    {7, 12, {Group::DontComeNumber, Duration::UntilSevenOrNumber, Contract::LowerOnly, 1}},
+    {13, 18, {Group::DontComeOdds, Duration::WithParent, Contract::NeedsParent, 1}},
+    {19, 24, {Group::ComeNumber, Duration::UntilSevenOrNumber, Contract::Fixed, 1}},
+    {25, 30, {Group::ComeOdds, Duration::WithParent, Contract::NeedsParent, 0}},
+    {31, 36, {Group::Place, Duration::UntilSeven, Contract::Free, 0}},
+    {37, 42, {Group::Buy, Duration::UntilSeven, Contract::Free, 0}},
+    {43, 43, {Group::Line, Duration::UntilDecided, Contract::FixedAfterPoint, 1}},
+    {44, 44, {Group::LineOdds, Duration::WithParent, Contract::NeedsParent, 0}},
+    {45, 45, {Group::ComeBox, Duration::OneRollThenMoves, Contract::NeedsPoint, 0}},
+    {46, 46, {Group::Line, Duration::UntilDecided, Contract::LowerAfterPoint, 1}},
+    {47, 47, {Group::LineOdds, Duration::WithParent, Contract::NeedsParent, 0}},
+    {48, 48, {Group::ComeBox, Duration::OneRollThenMoves, Contract::NeedsPoint, 0}},
+    {49, 49, {Group::Field, Duration::OneRoll, Contract::Free, 1}},
+    {50, 51, {Group::Big, Duration::UntilSeven, Contract::Free, 1}},
+    {52, 55, {Group::HardWay, Duration::UntilSevenOrEasy, Contract::Free, 1}},
+    {56, 66, {Group::Proposition, Duration::OneRoll, Contract::Free, 1}},
+    {67, 83, {Group::Hop, Duration::OneRoll, Contract::Free, 1}},
+};
+constexpr Entry kBlank = {Group::None, Duration::None, Contract::Free, 0};
+
 }  // namespace
+
+const Entry& EntryOf(int id) {
+  for (const Range& r : kRanges)
+    if (id >= r.first && id <= r.last) return r.entry;
+  return kBlank;
+}
 
 HopPair HopFaces(int hopId) { return kHops[hopId - kFirstHop]; }
 
@@ -66,10 +99,6 @@ std::string_view CatalogueName(int id) {
 
 std::string StackName(int id) { return "Chip-Stack # " + std::to_string(id - kFirstStack); }
 
-int DefaultWorkOnComeOut(int id) {
-  if (IsComeOdds(id) || IsPlace(id) || IsBuy(id)) return 0;
-  if (id == kPassOdds || id == kCome || id == kDontPassOdds || id == kDontCome) return 0;
-  return IsTableBet(id) ? 1 : 0;
-}
+int DefaultWorkOnComeOut(int id) { return EntryOf(id).workOnComeOut; }
 
 }  // namespace bet

@@ -90,6 +90,34 @@ int HopFor(int a, int b);
 // Field payoff row 1..21 for a dice pair.
 int FieldRow(int die1, int die2);
 
+// The families of the catalogue.
+enum class Group {
+  None, Lay, DontComeNumber, DontComeOdds, ComeNumber, ComeOdds, Place, Buy,
+  Line, LineOdds, ComeBox, Field, Big, HardWay, Proposition, Hop,
+};
+// How long a bet stands.
+enum class Duration { None, UntilSevenOrNumber, UntilSeven, UntilDecided, WithParent, OneRollThenMoves, OneRoll,
+                      UntilSevenOrEasy };
+// What the player may do with a bet once the dice have gone out on it.
+enum class Contract {
+  Free,             // anything
+  LowerOnly,        // Don't Come on its number: may come down, not go up
+  Fixed,            // Come on its number: stays unless Put bets are allowed
+  FixedAfterPoint,  // Pass Line once a point is on
+  LowerAfterPoint,  // Don't Pass once a point is on
+  NeedsParent,      // odds: only with the flat bet beneath them
+  NeedsPoint,       // Come and Don't Come boxes: only with a point on
+};
+
+struct Entry {
+  Group group;
+  Duration duration;
+  Contract contract;
+  int workOnComeOut;  // 1 works on the come-out, 0 is off
+};
+// The catalogue row of a table bet 1..83; a blank row for any other slot.
+const Entry& EntryOf(int id);
+
 // Catalogue entry of a BetId: its shown name ("" where the catalogue has none).
 std::string_view CatalogueName(int id);
 // Default name of Chip-Stack slot 100+n: "Chip-Stack # n".
