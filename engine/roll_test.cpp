@@ -2,51 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
-#include "engine/game.h"
-#include "engine/new_game.h"
-#include "engine/place_bet.h"
+#include "engine/test_support.h"
 
 namespace {
 
-struct ThrowRecorder : SilentFrontEnd {
-  std::vector<std::string> titles, texts;
-  std::vector<int> sounds;
-  int throws = 0;
-  std::string lastStopReason;
-  Reply ShowMessage(const std::string& title, const std::string& text, Buttons b) override {
-    titles.push_back(title);
-    texts.push_back(text);
-    return SilentFrontEnd::ShowMessage(title, text, b);
-  }
-  void ShowThrow(int, int, int) override { ++throws; }
-  void PlaySound(int slot) override { sounds.push_back(slot); }
-  void RollFinished(const std::string& reason) override { lastStopReason = reason; }
-};
-
-class RollTest : public ::testing::Test {
- protected:
-  void SetUp() override {
-    g.Ui = &ui;
-    g.ReSeedNewGames = false;
-    g.AutoAdjustMode = 0;
-    FillDefaults(g);
-    NewGame(g, false);
-  }
-  void Roll(int d1, int d2) {
-    g.Die1 = d1;
-    g.Die2 = d2;
-    g.DiceAlreadySet = true;
-    RollDice(g);
-  }
+struct RollTest : ::testing::Test, Table {
   void Bet(int id, int amount) {
     g.BetChange = amount;
     PlaceBetOnTable(g, id);
   }
-  Game g;
-  ThrowRecorder ui;
 };
 
 TEST_F(RollTest, PointComesAndGoesWithItsHandCounters) {
@@ -69,14 +33,8 @@ TEST_F(RollTest, PointComesAndGoesWithItsHandCounters) {
   Roll(4, 1);  // point 5
   Roll(6, 6);
   Roll(3, 4);  // seven-out
-  EXPECT_EQ(g.HandStats[2], 1);
-  EXPECT_EQ(g.HandStats[11], 1);
-  EXPECT_EQ(g.HandStats[17], 7);  // rolls of the finished hand
-  EXPECT_EQ(g.HandStats[18], 2);  // line wins of the finished hand
-  EXPECT_EQ(g.HandStats[0], 0);
-  EXPECT_EQ(g.HandStats[1], 0);
-  EXPECT_EQ(g.HandStats[3], 7);
-  EXPECT_EQ(g.HandStats[5], 7);
+  const std::pair<int, int> after[] = {{0, 0}, {1, 0}, {2, 1}, {3, 7}, {5, 7}, {11, 1}, {17, 7}, {18, 2}};
+  for (const auto& [index, count] : after) EXPECT_EQ(g.HandStats[index], count) << index;
   EXPECT_EQ(g.RollCounts[0], 7);
 }
 
@@ -117,88 +75,77 @@ TEST_F(RollTest, SnapshotsFrameEachRoll) {
   EXPECT_EQ(g.PointBeforeRoll, 5);
 }
 
-TEST_F(RollTest, ComeBoxBetTravelsToItsNumberAsAContract) {
+TEST_F(RollTest, ComeBoxBetsTravelToTheirNumberAfterItIsSettled) {
+  g.AutoRemovePlaceBets = true;
   Roll(4, 1);  // point 5
+  Bet(bet::Place(6), 6);
   Bet(bet::kCome, 10);
   Roll(4, 2);
   EXPECT_EQ(g.BetAmount[bet::kCome], 0);
   EXPECT_EQ(g.BetAmount[bet::Come(6)], 10);
   EXPECT_EQ(g.BetCommitted[bet::Come(6)], 10);
+  EXPECT_EQ(g.BetAmount[bet::Place(6)], 0);  // taken down for the Come bet
   Bet(bet::kDontCome, 5);
   Roll(2, 2);
   EXPECT_EQ(g.BetAmount[bet::DontCome(4)], 5);
   EXPECT_EQ(g.TotalOnTable, 15);
-}
 
-TEST_F(RollTest, AutoRemovePlaceBetsClearsTheNumberAComeBetTakes) {
-  g.AutoRemovePlaceBets = true;
-  Roll(4, 1);
-  Bet(bet::Place(6), 6);
+  // Come 6 wins and comes down; then the box bet moves onto it.
   Bet(bet::kCome, 10);
-  Roll(4, 2);
+  const Currency before = g.Bankroll();
+  Roll(3, 3);
+  EXPECT_EQ(g.Bankroll() - before, Currency(10));
+  EXPECT_EQ(g.BetAmount[bet::kCome], 0);
   EXPECT_EQ(g.BetAmount[bet::Come(6)], 10);
-  EXPECT_EQ(g.BetAmount[bet::Place(6)], 0);
 }
 
-TEST_F(RollTest, RollCountStopsARunAndReloads) {
-  g.RollCountStop = 3;
-  g.RollCountLeft = 3;
-  g.HyperDriveOn = true;
-  g.KeepRolling = true;
+TEST_F(RollTest, RunsStopByRollCountOrMarkedTotal) {
+  g.RollCountStop = g.RollCountLeft = 3;
+  g.HyperDriveOn = g.KeepRolling = true;
   RollDice(g);
   EXPECT_EQ(g.RollCounts[0], 3);
   EXPECT_FALSE(g.HyperDriveOn);
-  EXPECT_EQ(g.RollCountLeft, 3);
-  EXPECT_EQ(ui.lastStopReason, "Stopped by roll count on Auto-Play screen.");
-  ASSERT_EQ(ui.titles.size(), 1u);
-  EXPECT_EQ(ui.titles[0], "Hyper-Drive Stopped");
+  EXPECT_EQ(g.RollCountLeft, 3);  // reloaded for the next run
+  EXPECT_EQ(ui.stopReason, "Stopped by roll count on Auto-Play screen.");
+  ASSERT_EQ(ui.messages.size(), 1u);
+  EXPECT_EQ(ui.messages[0].title, "Hyper-Drive Stopped");
   EXPECT_EQ(ui.throws, 0);  // nothing is drawn under Hyper-Drive
   EXPECT_TRUE(g.StopReason.empty());
-}
 
-TEST_F(RollTest, AutoRollStopsOnTheMarkedTotalAndSaysNothing) {
-  g.AutoRollOn = true;
+  // Auto-Roll stops on a marked total and says nothing.
+  g.AutoRollOn = g.KeepRolling = true;
   g.StopOnRoll[9] = true;  // any 7
   g.RollCountLeft = 1000;
-  g.KeepRolling = true;
   RollDice(g);
   EXPECT_EQ(g.DiceTotal, 7);
   EXPECT_FALSE(g.KeepRolling);
-  EXPECT_EQ(ui.throws, g.RollCounts[0]);
-  EXPECT_TRUE(ui.lastStopReason.empty());
+  EXPECT_EQ(ui.throws, g.RollCounts[0] - 3);
+  EXPECT_TRUE(ui.stopReason.empty());
 }
 
-TEST_F(RollTest, NoRollAtTheCeiling) {
+TEST_F(RollTest, NoRollAtTheCeilingOrBeyondTheBankLimit) {
+  const std::string newGame = "\r\rSelect \"New\" from the \"Game\" menu to reset the table.";
   g.RollCounts[0] = MaxRolls;
   Roll(3, 4);
   EXPECT_EQ(g.RollCounts[0], MaxRolls);
-  ASSERT_EQ(ui.titles.size(), 1u);
-  EXPECT_EQ(ui.titles[0], "Reached Maximum Roll Limit");
-  EXPECT_EQ(ui.texts[0],
-            "Sorry ... you've reached the maximum limit of 100,000,000 rolls.\r\r"
-            "Select \"New\" from the \"Game\" menu to reset the table.");
+  ASSERT_EQ(ui.messages.size(), 1u);
+  EXPECT_EQ(Last().title, "Reached Maximum Roll Limit");
+  EXPECT_EQ(Last().text, "Sorry ... you've reached the maximum limit of 100,000,000 rolls." + newGame);
   g.HyperDriveOn = g.KeepRolling = true;
   RollDice(g);
-  EXPECT_EQ(ui.lastStopReason,
-            "Stopped due to reaching the maximum limit of 100,000,000 rolls.\r\r"
-            "Select \"New\" from the \"Game\" menu to reset the table.");
-}
+  EXPECT_EQ(ui.stopReason, "Stopped due to reaching the maximum limit of 100,000,000 rolls." + newGame);
 
-TEST_F(RollTest, BankLimitRefusesTheRollAndEndsARun) {
+  g.RollCounts[0] = 0;
   g.Bankroll() = 10'000'000;
   Roll(3, 4);
   EXPECT_EQ(g.RollCounts[0], 0);
-  ASSERT_EQ(ui.titles.size(), 1u);
-  EXPECT_EQ(ui.titles[0], "Congratulations!");
-  EXPECT_EQ(ui.texts[0],
-            "You broke the bank limit of $9,999,999\r\rSelect \"New\" from the \"Game\" menu to reset the table.");
+  EXPECT_EQ(Last().title, "Congratulations!");
+  EXPECT_EQ(Last().text, "You broke the bank limit of $9,999,999" + newGame);
   g.Bankroll() = -10'000'000;
   g.HyperDriveOn = g.KeepRolling = true;
   RollDice(g);
   EXPECT_FALSE(g.HyperDriveOn);
-  EXPECT_EQ(ui.lastStopReason,
-            "Stopped by exceeding the max loss limit of $9,999,999\r\r"
-            "Select \"New\" from the \"Game\" menu to reset the table.");
+  EXPECT_EQ(ui.stopReason, "Stopped by exceeding the max loss limit of $9,999,999" + newGame);
 }
 
 TEST_F(RollTest, SoundsFollowTheThrow) {
