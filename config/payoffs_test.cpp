@@ -81,13 +81,11 @@ TEST(Payoffs, LineOddsFollowThePoint) {
 }
 
 TEST(Payoffs, FieldPresets) {
-  const char* captions[kFieldPresetCount] = {
-      "&Field w/ 2x on Two and Twelve", "&Pass Line", "&Don't Pass (bar 12)", "Place &6",
-      "Place to &Lose 8", "Buy &10 (5 % vig)", "Lay &4 (5% vig on win only)", "H&ard 8",
-      "&Horn", "&World", "H&op 13", "&Crapless Craps Pass Line"};
-  for (int i = 0; i < kFieldPresetCount; ++i) EXPECT_STREQ(FieldPresetCaption(i), captions[i]);
-  EXPECT_STREQ(FieldPresetCaption(12), "");
-
+  const char* captions[kFieldPresetCount + 1] = {
+      "&Field w/ 2x on Two and Twelve", "&Pass Line", "&Don't Pass (bar 12)", "Place &6", "Place to &Lose 8",
+      "Buy &10 (5 % vig)", "Lay &4 (5% vig on win only)", "H&ard 8", "&Horn", "&World", "H&op 13",
+      "&Crapless Craps Pass Line", ""};
+  for (int i = 0; i <= kFieldPresetCount; ++i) EXPECT_STREQ(FieldPresetCaption(i), captions[i]);
   Table t;
   Game& g = t.g;
   // Presets reproduce a bet's value per roll: Pass -7/495 a roll, Don't Pass
@@ -99,16 +97,11 @@ TEST(Payoffs, FieldPresets) {
   }
   // Horn and World rows are in the "for" form; the rest keep "to".
   ASSERT_TRUE(SetFieldPreset(g, 8));
-  EXPECT_TRUE(Is(g.FieldPayoff[21], 27, 4, 0));
-  EXPECT_TRUE(Is(g.FieldPayoff[20], 12, 4, 0));
-  EXPECT_TRUE(Is(g.FieldPayoff[10], -1, 1));
+  EXPECT_TRUE(Is(g.FieldPayoff[21], 27, 4, 0) && Is(g.FieldPayoff[20], 12, 4, 0) && Is(g.FieldPayoff[10], -1, 1));
   ASSERT_TRUE(SetFieldPreset(g, 9));
   EXPECT_TRUE(Is(g.FieldPayoff[12], 0, 5, 0));
-  ASSERT_TRUE(SetFieldPreset(g, 0));
-  EXPECT_TRUE(Is(g.FieldPayoff[1], 2, 1));
-  EXPECT_FALSE(SetFieldPreset(g, -1));
-  EXPECT_FALSE(SetFieldPreset(g, 12));
-  EXPECT_TRUE(Is(g.FieldPayoff[1], 2, 1));
+  EXPECT_FALSE(SetFieldPreset(g, -1) || SetFieldPreset(g, 12));
+  EXPECT_TRUE(Is(g.FieldPayoff[12], 0, 5, 0));
 }
 
 TEST(Payoffs, GridRowsAndLabels) {
@@ -123,9 +116,8 @@ TEST(Payoffs, GridRowsAndLabels) {
       {30, "Pass/Come 10 Odds"},    {9, "DP/DC 6"},                 {17, "DP/DC 9 Odds"}, {33, "Place 6"},
       {83, "Hop 5-5"}};
   for (const auto& [id, label] : labels) EXPECT_EQ(PayoffRowLabel(t.g, id), label);
-  EXPECT_STREQ(FieldRowLabel(1), "2    (1-1)");
-  EXPECT_STREQ(FieldRowLabel(18), "10   (4-6) (6-4)");
-  EXPECT_STREQ(FieldRowLabel(22), "");
+  for (const auto& [row, label] : {std::pair{1, "2    (1-1)"}, {18, "10   (4-6) (6-4)"}, {22, ""}})
+    EXPECT_STREQ(FieldRowLabel(row), label);
 }
 
 TEST(Payoffs, EditingCells) {
@@ -136,10 +128,8 @@ TEST(Payoffs, EditingCells) {
   EXPECT_TRUE(EditPayoff(g, PayoffTable::Bets, 33, 1, 'f'));
   EXPECT_TRUE(Is(p, 7, 6, 0));
   EXPECT_EQ(PayoffShownAmount(p), Currency(13));
-  EXPECT_STREQ(PayoffFormWord(p), "for");
   EXPECT_EQ(PayoffWording("Payoff at ", p), "Payoff at 13 for 6:");
   EXPECT_FALSE(EditPayoff(g, PayoffTable::Bets, 33, 1, 'F'));  // already "for"
-
   EXPECT_TRUE(EditPayoff(g, PayoffTable::Bets, 33, 0, Currency(14)));  // 14 for 6
   EXPECT_TRUE(Is(p, 8, 6, 0));
   EXPECT_TRUE(EditPayoff(g, PayoffTable::Bets, 33, 2, Currency(5)));  // the total stays: 14 for 5
@@ -149,9 +139,8 @@ TEST(Payoffs, EditingCells) {
   EXPECT_TRUE(EditPayoff(g, PayoffTable::Bets, 33, 0, Currency(7)));
   EXPECT_TRUE(EditPayoff(g, PayoffTable::Bets, 33, 2, Currency(6)));
   EXPECT_TRUE(Is(p, 7, 6));
-
-  // Refused: a Per of zero, typing into the word, keys on a number, rows
-  // outside the grid. Nothing changes.
+  // Refused, with nothing changed: a Per of zero, typing into the word, keys
+  // on a number, rows outside the grid.
   EXPECT_FALSE(EditPayoff(g, PayoffTable::Bets, 33, 2, Currency(0)));
   EXPECT_FALSE(EditPayoff(g, PayoffTable::Bets, 33, 1, Currency(3)));
   EXPECT_FALSE(EditPayoff(g, PayoffTable::Bets, 33, 0, 'f'));

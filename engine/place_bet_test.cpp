@@ -9,31 +9,39 @@ namespace {
 
 Currency Money(double v) { return Currency::FromDouble(v); }
 
+const Currency kStackLimit = Currency::FromRaw(999'999'999'999'999'999);
 const std::string kPutTail = "(Unless you check \"Allow Put Bets\" on\rthe Configuration screen.)";
-const std::string kNoBankroll = "You don't have enough bankroll remaining to bet the full amount requested.\r\r"
-                                "Your options are: \r";
 
 TEST(PlaceBet, ChangesMoveInWholeChips) {
   Table t;
   EXPECT_EQ(t.Place(bet::Place(6), Money(7.5)), 8);
   EXPECT_EQ(t.Place(bet::Place(6), Money(-7.5)), -8);
   t.g.BetAmount[bet::kFirstChip] = 5;
-  EXPECT_EQ(t.Place(bet::Place(6), 7), 10);
-  EXPECT_EQ(t.Place(bet::Place(6), -3), -5);
-  EXPECT_EQ(t.Place(bet::Place(6), -20), -5);  // no more than the bet
-  EXPECT_EQ(t.Place(bet::Place(6), Currency::FromRaw(INT64_MAX)), 1000);
-  EXPECT_EQ(t.Place(bet::Place(6), Currency::FromRaw(INT64_MIN)), -1000);
+  const std::pair<Currency, Currency> steps[] = {{7, 10}, {-3, -5}, {-20, -5}, {Currency::FromRaw(INT64_MAX), 1000},
+                                                 {Currency::FromRaw(INT64_MIN), -1000}};
+  for (const auto& [asked, made] : steps) EXPECT_EQ(t.Place(bet::Place(6), asked), made) << asked.raw;
+  EXPECT_EQ(t.Place(150, Currency::FromRaw(INT64_MIN)), -kStackLimit);  // no overflow on a Chip-Stack either
   EXPECT_EQ(t.g.TotalOnTable, 0);
   t.ui.messages.clear();
   t.g.Bankroll() = 0;  // the rack may go negative
   EXPECT_EQ(t.Place(bet::Place(6), 10), 10);
   EXPECT_TRUE(t.ui.messages.empty());
   EXPECT_TRUE(t.g.MsgText.empty());
-
   // Taking a bet down puts its status back to the default.
   t.g.BetStatus[bet::Place(6)] = 2;
   t.Place(bet::Place(6), -10);
   EXPECT_EQ(t.g.BetStatus[bet::Place(6)], 0);
+
+  // Chip-Stacks take any amount within their limit; other slots take any change.
+  EXPECT_EQ(t.Place(101, Money(2.5)), Money(2.5));
+  t.g.TableMaximum = 5;
+  EXPECT_EQ(t.Place(bet::kBankroll, Money(7.25)), Money(7.25));
+  EXPECT_EQ(t.Place(96, 10), 10);
+  EXPECT_EQ(t.Place(bet::kRail, -3), -3);
+  EXPECT_EQ(t.Place(-1, 5), 0);
+  EXPECT_EQ(t.Place(201, 5), 0);
+  EXPECT_EQ(t.g.TotalOnTable, 0);
+  EXPECT_TRUE(t.ui.messages.empty());
 }
 
 TEST(PlaceBet, EveryRefusalWordForWord) {
@@ -82,6 +90,51 @@ TEST(PlaceBet, EveryRefusalWordForWord) {
   }
 }
 
+TEST(PlaceBet, LimitsCutTheChangeAndSayWhy) {
+  const std::string max = "Maximum bet here is $1,000\r\r", short_ = "You don't have enough bankroll remaining to bet "
+      "the full amount requested.\r\rYour options are: \r", others = "      - Bet less on other bets.\r",
+      atm = "      - Make a withdrawal from the ATM.\r      - Allow negative bankroll amounts.\r\r";
+  // The minimum is 5; `field` stands beside the bet; a bankroll of -1 may go negative.
+  const struct { int id; Currency standing, field, bankroll, change, made; std::string title, text; } cases[] = {
+      {bet::Place(6), 0, 0, -1, 2, 5, "Place 6 Bet", "Minimum bet here is $5\r\rwhich is being bet."},
+      {bet::Place(6), 5, 0, -1, -2, -5, "", ""},  // a fall below the minimum takes it all
+      {bet::kHard6, 0, 0, -1, 1, 1, "", ""},      // the one-check minimum of the propositions
+      {bet::Place(8), 990, 0, -1, 20, 10, "Place 8 Bet", max + "which is being bet."},
+      {bet::Place(8), 1000, 0, -1, 6, 0, "Place 8 Bet", max + "which is already bet."},
+      // $6 left in the rack: 5 and its vig of 1 fit; 6 and 1 do not.
+      {bet::Buy(4), 0, 14, 20, 10, 5, "Buy 4 Bet", short_ + others + atm + "which is being bet."},
+      {bet::Place(6), 0, 0, 0, 6, 0, "Place 6 Bet", short_ + atm + "which is already bet."},
+      {bet::Place(6), 0, 0, 3, 10, 0, "Place 6 Bet", short_ + atm + "which is already bet."},  // nor the minimum
+      {bet::Place(6), 5, 0, 5, 10, 0, "Place 6 Bet", short_ + atm + "which is already bet."},  // no other bet
+      {bet::Place(6), 0, 0, 5, 10, 5, "Place 6 Bet", short_ + atm + "which is being bet."},    // the minimum fits
+      {bet::Place(6), 0, 1500, 2000, 1200, 500, "Place 6 Bet", max + short_ + others + atm + "which is being bet."},
+      {bet::Place(6), 500, 0, 0, -100, -100, "", ""},  // taking away is never cut
+      {101, kStackLimit, 0, -1, 1, 0, "Chip-Stack # 1",
+       "Maximum Chip-Stack value is: $99,999,999,999,999.9999\r\rwhich is already stacked."},
+      {150, -5, 0, -1, -kStackLimit, -kStackLimit + 5, "Chip-Stack # 50",
+       "Minimum Chip-Stack value is: $-99,999,999,999,999.9999\r\rwhich is being stacked."},
+  };
+  for (const auto& c : cases) {
+    Table t;
+    t.g.TableMinimum = 5;
+    t.g.BetAmount[c.id] = c.standing;
+    t.g.BetAmount[bet::kField] = c.field;
+    if (bet::IsTableBet(c.id)) t.g.TotalOnTable = c.standing + c.field;
+    t.g.AllowNegativeBankroll = c.bankroll < 0;
+    if (c.bankroll >= 0) t.g.Bankroll() = c.bankroll;
+    EXPECT_EQ(t.Place(c.id, c.change), c.made) << c.title << " " << c.text;
+    EXPECT_EQ(t.ui.messages.empty(), c.text.empty()) << c.text;
+    if (t.ui.messages.empty()) continue;
+    EXPECT_EQ(t.ui.messages[0].title, c.title);
+    EXPECT_EQ(t.ui.messages[0].text, c.text);
+  }
+  // A maximum lowered below an ordinary bet cuts it when it is touched.
+  Table t;
+  t.g.BetAmount[bet::Place(8)] = 1000;
+  t.g.TableMaximum = 500;
+  EXPECT_EQ(t.Place(bet::Place(8), 5), -500);
+}
+
 TEST(PlaceBet, NoticesNeedTheirBitAndAVisibleTable) {
   // Refusals are bit 1, limits bit 2, vig bit 4; none shows under Hyper-Drive.
   const struct { int betId, change, mask; bool hyper, shown; } cases[] = {
@@ -106,123 +159,60 @@ TEST(PlaceBet, NoticesNeedTheirBitAndAVisibleTable) {
   }
 }
 
-TEST(PlaceBet, PutBetsMayBeTakenBackToCommittedAndNoFurther) {
+TEST(PlaceBet, ContractBetsPutBetsAndBetsOnTheMove) {
+  // Put bets may be taken back to what was committed, and no further.
   Table t;
   t.g.AllowPutBets = true;
   t.SetPoint(6);
-  t.g.BetAmount[bet::kPassLine] = t.g.TotalOnTable = 10;
+  t.g.BetAmount[bet::kPassLine] = t.g.TotalOnTable = 50;
   t.Commit();
   EXPECT_EQ(t.Place(bet::kPassLine, 15), 15);
   EXPECT_EQ(t.Place(bet::kPassLine, -20), -15);
   EXPECT_TRUE(t.ui.messages.empty());
   EXPECT_EQ(t.Place(bet::kPassLine, -5), 0);
   EXPECT_EQ(t.Last().title, "Pass Line");
-  EXPECT_EQ(t.g.TotalOnTable, 10);
-}
-
-TEST(PlaceBet, ComeBetsMovedThisRoll) {
-  Table t;
-  t.SetPoint(8);
-  t.g.MovingBet = true;
-  EXPECT_EQ(t.Place(bet::Come(6), 10), 10);  // the rules of adding are lifted
-  t.g.MovingBet = false;
-  EXPECT_TRUE(t.ui.messages.empty());
-  // Committed is 0 until the next roll: adding is refused, taking down is free.
-  EXPECT_EQ(t.Place(bet::Come(6), 5), 0);
-  EXPECT_EQ(t.g.BetAmount[bet::Come(6)], 10);
-  EXPECT_EQ(t.Place(bet::Come(6), -10), -10);
-
-  // Limits still hold for a travelling bet.
-  t.g.TableMaximum = 5;
-  t.g.MovingBet = true;
-  EXPECT_EQ(t.Place(bet::Come(6), 10), 5);
-  EXPECT_EQ(t.Last().text, "Maximum bet here is $5\r\rwhich is being bet.");
-  t.g.AllowNegativeBankroll = false;
-  t.g.Bankroll() = 7;
-  EXPECT_EQ(t.Place(bet::Come(5), 10), 2);
-}
-
-TEST(PlaceBet, LimitNoticesCarryTheirEnding) {
-  Table t;
-  t.g.TableMinimum = 5;
-  EXPECT_EQ(t.Place(bet::Place(6), 2), 5);
-  EXPECT_EQ(t.Last().title, "Place 6 Bet");
-  EXPECT_EQ(t.Last().text, "Minimum bet here is $5\r\rwhich is being bet.");
-  EXPECT_EQ(t.Place(bet::Place(6), -2), -5);  // a fall below the minimum takes it all
-  EXPECT_EQ(t.ui.messages.size(), 1u);
-  EXPECT_EQ(t.Place(bet::kHard6, 1), 1);  // the one-check minimum of the propositions
-
-  t.g.BetAmount[bet::Place(8)] = 990;
-  EXPECT_EQ(t.Place(bet::Place(8), 20), 10);
-  EXPECT_EQ(t.Last().text, "Maximum bet here is $1,000\r\rwhich is being bet.");
-  EXPECT_EQ(t.Place(bet::Place(8), 6), 0);
-  EXPECT_EQ(t.Last().text, "Maximum bet here is $1,000\r\rwhich is already bet.");
-  EXPECT_EQ(t.g.MsgText, t.Last().text);
-  // A maximum lowered below an ordinary bet cuts it when it is touched.
-  t.g.TableMaximum = 500;
-  EXPECT_EQ(t.Place(bet::Place(8), 5), -500);
-}
-
-TEST(PlaceBet, ContractBetAboveALoweredMaximumStaysWithTheLongNotice) {
-  const std::string notice =
-      "Maximum bet here is $20\r\rHowever, because the Pass Line is a contract bet and it was established at $50 "
-      "before the maximum allowed was lowered on the Configuration screen, it must remain unchanged until it "
-      "resolves.";
-  Table t;
-  t.g.AllowPutBets = true;
-  t.SetPoint(6);
-  t.g.BetAmount[bet::kPassLine] = 50;
-  t.Commit();
+  // A maximum lowered below it leaves it as it is, with the long notice; either
+  // bit 1 or bit 2 shows it, the vig bit alone does not.
   t.g.TableMaximum = 20;
   EXPECT_EQ(t.Place(bet::kPassLine, 5), 0);
   EXPECT_EQ(t.g.BetAmount[bet::kPassLine], 50);
-  ASSERT_EQ(t.ui.messages.size(), 1u);
   EXPECT_EQ(t.Last().title, "Pass Line Bet");
-  EXPECT_EQ(t.Last().text, notice);
-  EXPECT_EQ(t.g.MsgText, notice);
-  // Either bit 1 or bit 2 shows it; the vig bit alone does not.
+  EXPECT_EQ(t.Last().text, "Maximum bet here is $20\r\rHowever, because the Pass Line is a contract bet and it was "
+                           "established at $50 before the maximum allowed was lowered on the Configuration screen, "
+                           "it must remain unchanged until it resolves.");
+  EXPECT_EQ(t.g.MsgText, t.Last().text);
   for (int mask : {kNoticeRefusals, kNoticeCharges}) {
     t.g.NoticeMask = mask;
     t.Place(bet::kPassLine, 5);
   }
-  EXPECT_EQ(t.ui.messages.size(), 2u);
-}
+  EXPECT_EQ(t.ui.messages.size(), 3u);
 
-TEST(PlaceBet, BankrollCutsToWhatBetAndVigAllow) {
-  Table t;
-  t.g.AllowNegativeBankroll = false;
-  t.g.Bankroll() = 20;
-  t.Place(bet::kField, 14);                 // $6 left in the rack
-  EXPECT_EQ(t.Place(bet::Buy(4), 10), 5);  // 5 and its vig of 1 fit; 6 and 1 do not
-  EXPECT_EQ(t.g.BuyVigOnBet[0], 1);
-  EXPECT_EQ(t.g.TotalOnTable, 20);
-  ASSERT_EQ(t.ui.messages.size(), 2u);
-  EXPECT_EQ(t.ui.messages[0].title, "Buy 4 Bet");
-  EXPECT_EQ(t.ui.messages[0].text, kNoBankroll + "      - Bet less on other bets.\r"
-                                   "      - Make a withdrawal from the ATM.\r"
-                                   "      - Allow negative bankroll amounts.\r\rwhich is being bet.");
-  EXPECT_EQ(t.ui.messages[1].text, "Total \"Vig\" charge $1");
+  // A Don't Pass bet may be made on the come-out and lowered at any time, but
+  // with a point on it only goes back up to what was committed.
+  Table d;
+  EXPECT_EQ(d.Place(bet::kDontPass, 10), 10);
+  d.Commit();
+  d.SetPoint(4);
+  EXPECT_EQ(d.Place(bet::kDontPass, -5), -5);
+  EXPECT_EQ(d.Place(bet::kDontPass, 10), 5);
+  EXPECT_EQ(d.Last().title, "Don't Pass Bet");
 
-  // Alone on the table, with nothing left: no other bets to mention, nothing bet.
+  // A Come bet travelling to its number is taken whole, within the limits.
   Table u;
+  u.SetPoint(8);
+  u.g.MovingBet = true;
+  EXPECT_EQ(u.Place(bet::Come(6), 10), 10);
+  u.g.MovingBet = false;
+  EXPECT_TRUE(u.ui.messages.empty());
+  // Committed is 0 until the next roll: adding is refused, taking down is free.
+  EXPECT_EQ(u.Place(bet::Come(6), 5), 0);
+  EXPECT_EQ(u.Place(bet::Come(6), -10), -10);
+  u.g.TableMaximum = 5;
+  u.g.MovingBet = true;
+  EXPECT_EQ(u.Place(bet::Come(6), 10), 5);
   u.g.AllowNegativeBankroll = false;
-  u.g.Bankroll() = 0;
-  EXPECT_EQ(u.Place(bet::Place(6), 6), 0);
-  EXPECT_EQ(u.Last().text, kNoBankroll + "      - Make a withdrawal from the ATM.\r"
-                           "      - Allow negative bankroll amounts.\r\rwhich is already bet.");
-  // The minimum is tried again, and given up when it does not fit either.
-  u.g.TableMinimum = 5;
-  u.g.Bankroll() = 3;
-  EXPECT_EQ(u.Place(bet::Place(6), 10), 0);
-  u.g.Bankroll() = 5;
-  EXPECT_EQ(u.Place(bet::Place(6), 10), 5);
-  // A limit notice before it stays in front.
-  u.g.Bankroll() = 2000;
-  u.g.BetAmount[bet::Place(6)] = 0;
-  u.g.TotalOnTable = 1500;
-  EXPECT_EQ(u.Place(bet::Place(6), 1200), 500);
-  EXPECT_EQ(u.Last().text.rfind("Maximum bet here is $1,000\r\rYou don't have enough", 0), 0u);
-  EXPECT_EQ(u.Place(bet::Place(6), -100), -100);  // taking away is never cut
+  u.g.Bankroll() = 7;
+  EXPECT_EQ(u.Place(bet::Come(5), 10), 2);
 }
 
 TEST(PlaceBet, VigNoticesAndTheTotalOnTable) {
@@ -242,54 +232,20 @@ TEST(PlaceBet, VigNoticesAndTheTotalOnTable) {
   t.Place(bet::Lay(4), 40);
   EXPECT_EQ(t.Last().text, "If you win, the \"Vig\" charge will be $1");
   EXPECT_EQ(t.g.TotalOnTable, 40);
-  const size_t shown = t.ui.messages.size();
   t.Place(bet::Lay(4), -40);  // nothing was charged, nothing to say
-  EXPECT_EQ(t.ui.messages.size(), shown);
+  EXPECT_EQ(t.ui.messages.size(), 5u);
   EXPECT_EQ(t.g.LayVigOnBet[0], 0);
 }
 
-TEST(PlaceBet, ChipStacksKeepWithinTheirLimitOnly) {
-  const Currency limit = Currency::FromRaw(999'999'999'999'999'999);
+TEST(PlaceBetOnTable, AutomaticOddsAndSetBetToMaximum) {
   Table t;
-  EXPECT_EQ(t.Place(101, Money(2.5)), Money(2.5));  // no chip rounding, no table limits
-  EXPECT_EQ(t.g.TotalOnTable, 0);
-  t.g.BetAmount[101] = 0;
-  t.Place(101, limit);
-  EXPECT_EQ(t.Place(101, 1), 0);
-  EXPECT_EQ(t.Last().title, "Chip-Stack # 1");
-  EXPECT_EQ(t.Last().text, "Maximum Chip-Stack value is: $99,999,999,999,999.9999\r\rwhich is already stacked.");
-  t.g.BetAmount[150] = -5;
-  EXPECT_EQ(t.Place(150, -limit), -limit + 5);
-  EXPECT_EQ(t.Last().title, "Chip-Stack # 50");
-  EXPECT_EQ(t.Last().text, "Minimum Chip-Stack value is: $-99,999,999,999,999.9999\r\rwhich is being stacked.");
-  t.g.BetAmount[150] = 0;
-  EXPECT_EQ(t.Place(150, Currency::FromRaw(INT64_MIN)), -limit);  // no overflow
-}
-
-TEST(PlaceBet, OtherSlotsPassThrough) {
-  Table t;
-  t.g.TableMaximum = 5;
-  EXPECT_EQ(t.Place(bet::kBankroll, Money(7.25)), Money(7.25));
-  EXPECT_EQ(t.g.Bankroll(), Money(507.25));
-  EXPECT_EQ(t.Place(96, 10), 10);
-  EXPECT_EQ(t.Place(bet::kRail, -3), -3);
-  EXPECT_EQ(t.Place(-1, 5), 0);
-  EXPECT_EQ(t.Place(201, 5), 0);
-  EXPECT_EQ(t.g.TotalOnTable, 0);
-  EXPECT_TRUE(t.ui.messages.empty());
-}
-
-TEST(PlaceBetOnTable, ReappliesAutomaticOdds) {
-  Table t;
-  t.g.AllowPutBets = true;
-  t.g.AutoTakeFullOdds = true;
+  t.g.AllowPutBets = t.g.AutoTakeFullOdds = true;
   t.SetPoint(6);
   t.g.BetChange = 10;
   PlaceBetOnTable(t.g, bet::kPassLine);
   EXPECT_EQ(t.g.BetChangeAllowed, 10);
   EXPECT_EQ(t.g.BetAmount[bet::kPassOdds], 25);
   EXPECT_EQ(t.g.TotalOnTable, 35);
-
   // Odds left above a lowered flat bet come down to the new maximum.
   t.g.BetAmount[bet::DontCome(6)] = 10;
   t.g.BetAmount[bet::DontComeOdds(6)] = 30;
@@ -301,28 +257,26 @@ TEST(PlaceBetOnTable, ReappliesAutomaticOdds) {
   EXPECT_EQ(t.g.TotalOnTable, 52);
   EXPECT_TRUE(t.ui.messages.empty());
   EXPECT_FALSE(t.ui.redrawn.empty());
-}
 
-TEST(PlaceBetOnTable, SetBetToMaximumIsSilentAndLeavesTheMessage) {
-  Table t;
-  t.SetPoint(4);
-  t.Place(bet::kPassLine, 10);  // not allowed with the point on
-  const std::string refusal = t.g.MsgText;
-  const size_t shown = t.ui.messages.size();
-  t.g.BetAmount[bet::kPassLine] = t.g.TotalOnTable = 10;
-  SetBetToMaximum(t.g, bet::kPassOdds);
-  EXPECT_EQ(t.g.BetAmount[bet::kPassOdds], 20);
-  EXPECT_EQ(t.g.BetChangeAllowed, 20);
-  EXPECT_EQ(t.g.NoticeMask, 15);
-  EXPECT_EQ(t.g.MsgText, refusal);
-  t.g.AllowNegativeBankroll = false;
-  t.g.Bankroll() = 22;
-  SetBetToMaximum(t.g, bet::kPassOdds);
-  EXPECT_EQ(t.g.BetAmount[bet::kPassOdds], 12);
-  EXPECT_EQ(t.ui.messages.size(), shown);
-  TakeDownBet(t.g, bet::kPassOdds);
-  EXPECT_EQ(t.g.BetAmount[bet::kPassOdds], 0);
-  EXPECT_EQ(t.g.TotalOnTable, 10);
+  // Setting a maximum is silent and leaves the pending message as it was.
+  Table u;
+  u.SetPoint(4);
+  u.Place(bet::kPassLine, 10);  // refused with the point on
+  const std::string refusal = u.g.MsgText;
+  u.g.BetAmount[bet::kPassLine] = u.g.TotalOnTable = 10;
+  SetBetToMaximum(u.g, bet::kPassOdds);
+  EXPECT_EQ(u.g.BetAmount[bet::kPassOdds], 20);
+  EXPECT_EQ(u.g.BetChangeAllowed, 20);
+  EXPECT_EQ(u.g.NoticeMask, 15);
+  EXPECT_EQ(u.g.MsgText, refusal);
+  u.g.AllowNegativeBankroll = false;
+  u.g.Bankroll() = 22;
+  SetBetToMaximum(u.g, bet::kPassOdds);
+  EXPECT_EQ(u.g.BetAmount[bet::kPassOdds], 12);
+  EXPECT_EQ(u.ui.messages.size(), 1u);
+  TakeDownBet(u.g, bet::kPassOdds);
+  EXPECT_EQ(u.g.BetAmount[bet::kPassOdds], 0);
+  EXPECT_EQ(u.g.TotalOnTable, 10);
 }
 
 }  // namespace

@@ -99,7 +99,9 @@ TEST(SettleBet, OffBetsStandAndOffOddsComeBack) {
   EXPECT_EQ(t.g.BetStatus[bet::Place(6)], 0);
   EXPECT_TRUE(t.ui.notices.empty());
 
-  // Come 4 odds that are off, on a 7: returned, no money moves, spot works.
+  // Come 4 odds that are off, on a 7: returned, no money moves, spot works;
+  // without Put bets they come down even with the Come bet still up.
+  t.Stand(bet::Come(4), 10);
   t.Stand(bet::ComeOdds(4), 10);
   t.g.BetStatus[bet::ComeOdds(4)] = 0;
   EXPECT_EQ(t.Settle(-2, bet::ComeOdds(4)), Currency(0));
@@ -108,7 +110,7 @@ TEST(SettleBet, OffBetsStandAndOffOddsComeBack) {
   EXPECT_EQ(t.ui.notices[0].rows, (Rows{{"Come 4 Odds bet:", "$10"}, {"wasn't working!", ""}}));
   EXPECT_EQ(t.ui.notices[0].buttons, std::vector<std::string>{"&Take Bet and Winnings"});
   EXPECT_EQ(t.g.BetAmount[bet::ComeOdds(4)], Currency(0));
-  EXPECT_EQ(t.g.TotalOnTable, Currency(6));
+  EXPECT_EQ(t.g.TotalOnTable, Currency(16));
   EXPECT_EQ(t.g.BetStatus[bet::ComeOdds(4)], 1);
 
   // With Put bets and the parent still up the odds may stay: the press unit

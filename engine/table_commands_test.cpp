@@ -25,22 +25,25 @@ struct Commands : Table {
 TEST(CallBet, RefusesWithItsOwnWordsAndOnlyWhereAllowed) {
   for (int id : {43, 45, 46, 48, 7, 12, 19, 24}) EXPECT_FALSE(CanBeCalled(id)) << id;
   for (int id : {25, 31, 37, 54, 49, 56, 83, 1, 13, 44, 47}) EXPECT_TRUE(CanBeCalled(id)) << id;
-
   Commands t;
-  t.Put(bet::Come(6), 10);
-  t.Put(bet::ComeOdds(6), 10);
-  t.Put(101, 25);
+  for (int id : {bet::Come(6), bet::ComeOdds(6), bet::kField, 101, 102}) t.Put(id, 10);
   CallBet(t.g, bet::Come(6), kToolCallOff);
   CallBet(t.g, 101, kToolCallOn);
-  CallBet(t.g, bet::ComeOdds(6), kToolCallOn);
+  int id = bet::kField;
+  BuyPlaceBet(t.g, id);
+  id = 102;
+  BuyPlaceBet(t.g, id);
+  const Rows shown = {{"Come 6 Bet", "You may not call this bet ON or OFF."},
+                      {"Chip-Stack # 1", "You may not call Chip-Stacks ON or OFF."},
+                      {"Field Bet", "You may not buy this bet."},
+                      {"Chip-Stack # 2", "You may not buy Chip-Stacks."}};
+  ASSERT_EQ(t.ui.messages.size(), shown.size());
+  for (size_t i = 0; i < shown.size(); ++i) {
+    EXPECT_EQ(t.ui.messages[i].title, shown[i].first);
+    EXPECT_EQ(t.ui.messages[i].text, shown[i].second);
+  }
   EXPECT_EQ(t.g.BetStatus[bet::Come(6)], 1);
-  EXPECT_EQ(t.g.BetStatus[bet::ComeOdds(6)], 2);
-  ASSERT_EQ(t.ui.messages.size(), 2u);
-  EXPECT_EQ(t.ui.messages[0].title, "Come 6 Bet");
-  EXPECT_EQ(t.ui.messages[0].text, "You may not call this bet ON or OFF.");
-  EXPECT_EQ(t.ui.messages[1].title, "Chip-Stack # 1");
-  EXPECT_EQ(t.ui.messages[1].text, "You may not call Chip-Stacks ON or OFF.");
-
+  EXPECT_EQ(t.g.BetAmount[bet::kField], Currency(10));
   // An empty spot is ignored without a word; a silenced or Hyper-Drive table
   // refuses without one.
   CallBet(t.g, bet::kPassLine, kToolCallOff);
@@ -49,7 +52,7 @@ TEST(CallBet, RefusesWithItsOwnWordsAndOnlyWhereAllowed) {
   t.g.NoticeMask = 15;
   t.g.HyperDriveOn = true;
   CallBet(t.g, bet::Come(6), kToolCallOff);
-  EXPECT_EQ(t.ui.messages.size(), 2u);
+  EXPECT_EQ(t.ui.messages.size(), shown.size());
 }
 
 TEST(CallBet, OffOutlivesComeOutAndPointUntilCalledOnOrRemoved) {
@@ -74,23 +77,17 @@ TEST(CallBet, OffOutlivesComeOutAndPointUntilCalledOnOrRemoved) {
   RemoveBet(t.g, place6);
   EXPECT_EQ(t.g.BetAmount[place6], 0);
   EXPECT_EQ(t.g.BetStatus[place6], 0);
-  EXPECT_TRUE(t.ui.messages.empty());
-}
 
-TEST(CallBet, AllBetsSkipsTheUncallableSilentlyAndRestoresTheMask) {
-  Commands t;
-  t.Put(bet::kPassLine, 10);
-  t.Put(bet::Place(8), 12);
-  t.Put(bet::kHard4, 5);
+  // Calling all bets skips the uncallable silently and puts the mask back;
+  // calling all ON withdraws the OFF calls.
+  for (int id : {bet::kPassLine, bet::Place(8), bet::kHard4}) t.Put(id, 10);
   t.g.NoticeMask = 7;
   CallAllBets(t.g, false);
   EXPECT_EQ(t.g.NoticeMask, 7);
   EXPECT_TRUE(t.ui.messages.empty());
-  EXPECT_EQ(t.g.BetStatus[bet::kPassLine], 1);
-  EXPECT_EQ(t.g.BetStatus[bet::Place(8)], -1);
-  EXPECT_EQ(t.g.BetStatus[bet::kHard4], -1);
-  EXPECT_EQ(t.g.BetStatus[bet::Place(4)], 0);  // empty spots keep their status
-  CallAllBets(t.g, true);  // withdraws the OFF calls rather than calling ON
+  const std::pair<int, int> off[] = {{bet::kPassLine, 1}, {bet::Place(8), -1}, {bet::kHard4, -1}, {bet::Place(4), 0}};
+  for (const auto& [id, status] : off) EXPECT_EQ(t.g.BetStatus[id], status) << id;
+  CallAllBets(t.g, true);
   EXPECT_EQ(t.g.BetStatus[bet::Place(8)], 0);
   EXPECT_EQ(t.g.BetStatus[bet::kHard4], 1);
 }
@@ -106,47 +103,29 @@ TEST(BuyPlaceBet, MovesThePlaceAmountOntoTheBuySpot) {
   EXPECT_EQ(t.g.BetAmount[bet::Buy(6)], Currency(30));
   EXPECT_EQ(t.g.BetAmount[bet::Place(6)], Currency(0));
   EXPECT_EQ(t.g.TotalOnTable, Currency(30));
-
   // A call on the Place spot goes with it.
   t.Put(bet::Place(5), 10);
   CallBet(t.g, bet::Place(5), kToolCallOff);
   id = bet::Place(5);
   BuyPlaceBet(t.g, id);
   EXPECT_EQ(t.g.BetStatus[bet::Buy(5)], -1);
-
-  // A Buy bet clicked again, or an empty spot, does nothing; other bets and
-  // Chip-Stacks are refused.
+  // A Buy bet clicked again, or an empty spot, does nothing.
   for (int same : {bet::Buy(6), bet::Place(9)}) {
     id = same;
     BuyPlaceBet(t.g, id);
     EXPECT_EQ(id, same);
   }
-  EXPECT_TRUE(t.ui.messages.empty());
   EXPECT_EQ(t.g.BetAmount[bet::Buy(6)], Currency(30));
-  t.Put(bet::kField, 5);
-  t.Put(102, 5);
-  for (int refused : {bet::kField, 102}) {
-    id = refused;
-    BuyPlaceBet(t.g, id);
-  }
-  ASSERT_EQ(t.ui.messages.size(), 2u);
-  EXPECT_EQ(t.ui.messages[0].title, "Field Bet");
-  EXPECT_EQ(t.ui.messages[0].text, "You may not buy this bet.");
-  EXPECT_EQ(t.ui.messages[1].title, "Chip-Stack # 2");
-  EXPECT_EQ(t.ui.messages[1].text, "You may not buy Chip-Stacks.");
-  EXPECT_EQ(t.g.BetAmount[bet::kField], Currency(5));
+  EXPECT_TRUE(t.ui.messages.empty());
 }
 
 TEST(RemoveBet, TakesEveryBetDownThroughPlacement) {
   Commands t;
-  t.Put(bet::kField, 5);
-  t.Put(bet::Lay(4), 40);
-  t.Put(bet::kLastHop, 1);
-  t.Put(103, 7);
+  for (int id : {bet::kField, bet::Lay(4), bet::kLastHop, 103}) t.Put(id, 40);
   RemoveAllBets(t.g);
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) EXPECT_EQ(t.g.BetAmount[id], 0) << id;
   EXPECT_EQ(t.g.TotalOnTable, 0);
-  EXPECT_EQ(t.g.BetAmount[103], Currency(7));  // Chip-Stacks are not bets on the layout
+  EXPECT_EQ(t.g.BetAmount[103], Currency(40));  // Chip-Stacks are not bets on the layout
   RemoveBet(t.g, 103);
   EXPECT_EQ(t.g.BetAmount[103], 0);
 }
