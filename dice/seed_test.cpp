@@ -78,7 +78,12 @@ TEST(SeedRNG, PromptAsksUntilTheSeedIsWithinLimits) {
   EXPECT_EQ(g.LastSeed, 5);
   EXPECT_EQ(g.Rng.mt.mti, 625);
 
-  // A front end that only ever returns the default cannot trap the prompt.
+  // An out-of-limits default handed back is asked again once; a front end
+  // that only ever returns it cannot trap the prompt.
+  g.LastSeed = 0;
+  t.ui.numberReplies = {Currency(0), Currency(7)};
+  SeedRNG(g, false);
+  EXPECT_EQ(g.LastSeed, 7);
   Game h;
   h.UserSeedMode = true;
   SeedRNG(h, false);

@@ -67,8 +67,12 @@ TEST_F(RollTest, StatusesAndSnapshotsFollowThePoint) {
 }
 
 TEST_F(RollTest, ComeBoxBetsTravelToTheirNumberAfterItIsSettled) {
+  // With Auto-Remove the line bet takes the Place bet of its point down.
   g.AutoRemovePlaceBets = true;
+  Bet(bet::kPassLine, 10);
+  Bet(bet::Place(5), 5);
   Roll(4, 1);  // point 5
+  EXPECT_EQ(g.BetAmount[bet::Place(5)], 0);
   Bet(bet::Place(6), 6);
   Bet(bet::kCome, 10);
   Roll(4, 2);
@@ -79,7 +83,7 @@ TEST_F(RollTest, ComeBoxBetsTravelToTheirNumberAfterItIsSettled) {
   Bet(bet::kDontCome, 5);
   Roll(2, 2);
   EXPECT_EQ(g.BetAmount[bet::DontCome(4)], 5);
-  EXPECT_EQ(g.TotalOnTable, 15);
+  EXPECT_EQ(g.TotalOnTable, 25);
   // Come 6 wins and comes down; then the box bet moves onto it.
   Bet(bet::kCome, 10);
   const Currency before = g.Bankroll();
