@@ -40,7 +40,8 @@ Currency AfterFieldLoss(int handleLosingBets, int per, std::optional<int> button
 
 TEST(WonBetHandling, ByOptionAndByButton) {
   // Take Bet and Winnings takes it down; the others keep the bet for now.
-  for (int option = 1; option <= 7; ++option) EXPECT_EQ(AfterPlace6Win(option), Currency(option == 1 ? 0 : 12)) << option;
+  for (int option = 1; option <= 7; ++option)
+    EXPECT_EQ(AfterPlace6Win(option), Currency(option == 1 ? 0 : 12)) << option;
   for (int button = 0; button <= 6; ++button)
     EXPECT_EQ(AfterPlace6Win(0, button), Currency(button == 0 ? 0 : 12)) << button;
   EXPECT_EQ(AfterPlace6Win(0, std::nullopt), Currency(12));

@@ -88,6 +88,7 @@ TEST(HeadlessFrontEnd, ThrowsStopReasonsAndAnswerWords) {
   s.ui.RollFinished("Stopped by roll count on Auto-Play screen.");
   EXPECT_EQ(s.ui.StopReason(), "Stopped by roll count on Auto-Play screen.");
   EXPECT_TRUE(s.out.str().empty());
-  for (const char* ok : {"cancel", "samebet", "remainder", "-3", "1,000"}) EXPECT_TRUE(HeadlessFrontEnd::IsAnswerWord(ok));
+  for (const char* ok : {"cancel", "samebet", "remainder", "-3", "1,000"})
+    EXPECT_TRUE(HeadlessFrontEnd::IsAnswerWord(ok));
   for (const char* bad : {"", "maybe", "1e3", "ok"}) EXPECT_FALSE(HeadlessFrontEnd::IsAnswerWord(bad)) << bad;
 }

@@ -49,7 +49,8 @@ TEST(PlayEndToEnd, ASessionFromStartToQuit) {
 TEST(PlayEndToEnd, StrictExitsTwoAndTheFolderComesFromTheEnvironment) {
   TempFolder work;
   const fs::path home = work.path() / "home", xdg = work.path() / "xdg";
-  const CliRun run = RunCli(work.path(), "DICEMILL_HOME='" + home.string() + "'", "--strict", "state\nbet 43 ten\nstate\n");
+  const CliRun run =
+      RunCli(work.path(), "DICEMILL_HOME='" + home.string() + "'", "--strict", "state\nbet 43 ten\nstate\n");
   EXPECT_EQ(run.status, 2);
   ASSERT_EQ(run.objects.size(), 2u);
   EXPECT_EQ(run.objects[1].at("error"), "bet: AMOUNT 'ten' is not an amount");

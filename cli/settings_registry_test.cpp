@@ -48,7 +48,8 @@ TEST(SettingsRegistry, RefusesBadNamesValuesAndRangesWithNothingChanged) {
       {"NoticeMask", "32"},      {"StopOnRoll", "true"},     {"StopOnRoll.17", "true"}, {"StopOnRoll.x", "1"},
       {"TableMinimum.1", "5"},   {"WorkOnComeOut.0", "1"},   {"WorkOnComeOut.84", "1"}, {"RollCountStop", "-1"},
       {"AtmAmount", "10000000"}, {"ChargeAllLay", "maybe"},  {"AllowNegativeBankroll", "5"}};
-  for (const auto& [name, value] : bad) EXPECT_THROW(ApplySetting(g, name, value), CommandError) << name << " " << value;
+  for (const auto& [name, value] : bad)
+    EXPECT_THROW(ApplySetting(g, name, value), CommandError) << name << " " << value;
   for (const char* name : {"BarNumber", "OddsCalcMethod", "RngChoice", "TableMinimum", "NoticeMask", "ChargeAllLay",
                            "AllowNegativeBankroll", "AllowPutBets", "RoundLayVig", "AtmAmount"})
     EXPECT_EQ(ReadSetting(g, name), ReadSetting(fresh, name)) << name;

@@ -90,7 +90,8 @@ TEST(Payoffs, FieldPresets) {
   Game& g = t.g;
   // Presets reproduce a bet's value per roll: Pass -7/495 a roll, Don't Pass
   // -3/220, Place 6 -1/216, Hard 8 -1/36.
-  const struct { int preset; double value; } values[] = {{1, -7.0 / 495}, {2, -3.0 / 220}, {3, -1.0 / 216}, {7, -1.0 / 36}};
+  const struct { int preset; double value; } values[] = {
+      {1, -7.0 / 495}, {2, -3.0 / 220}, {3, -1.0 / 216}, {7, -1.0 / 36}};
   for (const auto& v : values) {
     ASSERT_TRUE(SetFieldPreset(g, v.preset));
     EXPECT_NEAR(FieldValuePerRoll(g), v.value, 1e-12) << v.preset;
@@ -172,8 +173,8 @@ TEST(Payoffs, Validation) {
     PayoffFault where;
     EXPECT_FALSE(ValidatePayoffs(t.g, &where));
     ASSERT_EQ(t.ui.messages.size(), 1u);
-    EXPECT_EQ(t.Last().title, std::string("Payoff ratio error on ") + label);
-    EXPECT_EQ(t.Last().text, "The payoff must be a positive amount.");
+    EXPECT_EQ(t.Last(), (RecordedMessage{std::string("Payoff ratio error on ") + label,
+                                         "The payoff must be a positive amount."}));
     EXPECT_EQ(where.table, PayoffTable::Bets);
     EXPECT_EQ(PayoffGridBet(where.row), id);
   }
@@ -181,8 +182,8 @@ TEST(Payoffs, Validation) {
   t.g.FieldPayoff[7] = {-2, -1, 1};
   PayoffFault where;
   EXPECT_FALSE(ValidatePayoffs(t.g, &where));
-  EXPECT_EQ(t.Last().title, "Payoff ratio error on Field");
-  EXPECT_EQ(t.Last().text, "The loss on any Field payoff cannot exceed the amount wagered.");
+  EXPECT_EQ(t.Last(), (RecordedMessage{"Payoff ratio error on Field",
+                                        "The loss on any Field payoff cannot exceed the amount wagered."}));
   EXPECT_EQ(where.table, PayoffTable::Field);
   EXPECT_EQ(where.row, 7);
 
@@ -193,6 +194,6 @@ TEST(Payoffs, Validation) {
   EXPECT_TRUE(ValidatePayoffs(t.g));
   t.g.FieldPayoff[2] = {0, -1, 1};
   EXPECT_FALSE(ValidatePayoffs(t.g));
-  EXPECT_EQ(t.Last().title, "Payoff error on Field");
-  EXPECT_EQ(t.Last().text, "At least one of the Field payoffs must be postiive.");
+  EXPECT_EQ(t.Last(),
+            (RecordedMessage{"Payoff error on Field", "At least one of the Field payoffs must be postiive."}));
 }

@@ -71,8 +71,7 @@ TEST(Vig, ChangeVigRuleIsRefusedWhenUpFrontVigOutrunsTheBankroll) {
   EXPECT_FALSE(t.g.ChargeAllBuy);
   EXPECT_EQ(t.g.TotalOnTable, 20);
   ASSERT_EQ(t.ui.messages.size(), 1u);
-  EXPECT_EQ(t.Last().title, "Buy Bet Vig");
-  EXPECT_EQ(t.Last().text, refusal);
+  EXPECT_EQ(t.Last(), (RecordedMessage{"Buy Bet Vig", refusal}));
   t.g.Bankroll() = 21;
   EXPECT_TRUE(ChangeVigRule(t.g, VigRule::ChargeAllBuy, kTrue));
   EXPECT_TRUE(t.g.ChargeAllBuy);
@@ -152,10 +151,7 @@ TEST(Rules, ValidateConfigurationStopsAtTheFirstFault) {
     EXPECT_EQ(check.control, c.control);
     EXPECT_EQ(check.controlIndex, c.index);
     EXPECT_EQ(t.ui.messages.size(), c.title.empty() ? 0u : 1u) << c.text;
-    if (!c.title.empty()) {
-      EXPECT_EQ(t.Last().title, c.title);
-      EXPECT_EQ(t.Last().text, c.text);
-    }
+    EXPECT_EQ(t.ui.messages.empty() ? RecordedMessage{} : t.Last(), (RecordedMessage{c.title, c.text}));
   }
 }
 

@@ -33,8 +33,7 @@ TEST(SeedRNG, OverflowingSeedIsReportedAndSeedsWhatCameBefore) {
   Game& g = t.g;
   SeedSilently(g, 5, 2'147'428'875);
   ASSERT_EQ(t.ui.messages.size(), 1u);
-  EXPECT_EQ(t.Last().title, "Dicemill");
-  EXPECT_EQ(t.Last().text, "Overflow, Error #6 occurred, at: SeedRNG\r");
+  EXPECT_EQ(t.Last(), (RecordedMessage{"Dicemill", "Overflow, Error #6 occurred, at: SeedRNG\r"}));
   EXPECT_EQ(g.Rng.mt.mti, 624);  // #1 half seeded
   EXPECT_EQ(g.Rng.ran1.iff, 0);  // #5 half not
   EXPECT_EQ(g.ModSeed, 2'147'428'875);
@@ -61,8 +60,7 @@ TEST(SeedRNG, PromptAsksUntilTheSeedIsWithinLimits) {
   SeedRNG(g, false);
   const std::string request = "Please enter a value between 1 and 999,999 to seed the random number generator:\r";
   ASSERT_EQ(t.ui.asked.size(), 3u);
-  EXPECT_EQ(t.ui.asked[0].title, "RNG Seed");
-  EXPECT_EQ(t.ui.asked[0].text, request);
+  EXPECT_EQ(t.ui.asked[0], (RecordedMessage{"RNG Seed", request}));
   EXPECT_EQ(t.ui.asked[1].text, "Your seed value is out of limits.\r\r" + request);
   EXPECT_EQ(t.ui.offered[0], Currency(12));
   EXPECT_FALSE(g.KeepRolling);
@@ -74,7 +72,8 @@ TEST(SeedRNG, PromptAsksUntilTheSeedIsWithinLimits) {
   g.Rng.mt.mti = 625;
   t.ui.numberReplies = {std::nullopt};
   SeedRNG(g, false);
-  EXPECT_EQ(t.ui.asked[3].text, "Please enter a value between 1 and 2,147,483,647 to seed the random number generator:\r");
+  EXPECT_EQ(t.ui.asked[3].text,
+            "Please enter a value between 1 and 2,147,483,647 to seed the random number generator:\r");
   EXPECT_EQ(g.LastSeed, 5);
   EXPECT_EQ(g.Rng.mt.mti, 625);
 

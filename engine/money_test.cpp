@@ -16,7 +16,8 @@ TEST(Currency, RatiosRoundHalfToEvenAndIntegerPartsFloor) {
   const struct { int64_t a, unit, part; } parts[] = {{35000, 10000, 3},   {-35000, 10000, -4}, {100000, 2500, 40},
                                                     {99995, 100000, 1},  {99994, 100000, 0},  {70000, -50000, -2},
                                                     {-70000, 50000, -2}};
-  for (const auto& p : parts) EXPECT_EQ(IntegerPartOf(Currency::FromRaw(p.a), Currency::FromRaw(p.unit)), p.part) << p.a;
+  for (const auto& p : parts)
+    EXPECT_EQ(IntegerPartOf(Currency::FromRaw(p.a), Currency::FromRaw(p.unit)), p.part) << p.a;
   EXPECT_EQ(Floor(Currency::FromRaw(-5)), -1);
 }
 

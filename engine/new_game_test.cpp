@@ -17,8 +17,7 @@ TEST(NewGame, ClearsTheTableAndSetsTheBankrollByItsType) {
   t.ui.numberReplies = {Currency(300)};
   g.KeepRolling = true;
   NewGame(g, true);
-  EXPECT_EQ(t.ui.asked.at(0).title, "Set Beginning Bankroll");
-  EXPECT_EQ(t.ui.asked[0].text, "Enter your beginning bankroll: ");
+  EXPECT_EQ(t.ui.asked.at(0), (RecordedMessage{"Set Beginning Bankroll", "Enter your beginning bankroll: "}));
   EXPECT_EQ(t.ui.offered[0], Currency(500));
   EXPECT_EQ(g.Bankroll(), Currency(300));
   EXPECT_EQ(g.BankrollInitAmount, Currency(300));

@@ -50,7 +50,8 @@ TEST(OddsMaximum, EveryMethod) {
       {2, 0, 5, 6, 5, 1, -1, 0}, {2, 3, 5, 0, 1, 1, 2000, 10}, {2, 3, 5, 6, 5, 0, 2000, 10},
   };
   for (const auto& c : cases) {
-    const OddsLimitInput in{Money(c.x), c.method, Money(c.flat), Money(c.win), Money(c.per), Money(c.chip), Money(c.cap)};
+    const OddsLimitInput in{Money(c.x), c.method, Money(c.flat), Money(c.win),
+                            Money(c.per), Money(c.chip), Money(c.cap)};
     EXPECT_EQ(FigureOddsMaximum(in), Money(c.max))
         << "X " << c.x << " method " << c.method << " flat " << c.flat << " at " << c.win << " to " << c.per;
   }

@@ -84,8 +84,7 @@ TEST(PlaceBet, EveryRefusalWordForWord) {
     EXPECT_EQ(t.Place(c.betId, c.change), 0) << c.text;
     EXPECT_EQ(t.g.BetAmount[c.betId], c.standing) << c.text;
     ASSERT_EQ(t.ui.messages.size(), 1u) << c.text;
-    EXPECT_EQ(t.Last().title, c.title);
-    EXPECT_EQ(t.Last().text, c.text);
+    EXPECT_EQ(t.Last(), (RecordedMessage{c.title, c.text}));
     EXPECT_EQ(t.g.MsgText, c.text);  // left for the roll to see
   }
 }
@@ -123,10 +122,7 @@ TEST(PlaceBet, LimitsCutTheChangeAndSayWhy) {
     t.g.AllowNegativeBankroll = c.bankroll < 0;
     if (c.bankroll >= 0) t.g.Bankroll() = c.bankroll;
     EXPECT_EQ(t.Place(c.id, c.change), c.made) << c.title << " " << c.text;
-    EXPECT_EQ(t.ui.messages.empty(), c.text.empty()) << c.text;
-    if (t.ui.messages.empty()) continue;
-    EXPECT_EQ(t.ui.messages[0].title, c.title);
-    EXPECT_EQ(t.ui.messages[0].text, c.text);
+    EXPECT_EQ(t.ui.messages.empty() ? RecordedMessage{} : t.ui.messages[0], (RecordedMessage{c.title, c.text}));
   }
   // A maximum lowered below an ordinary bet cuts it when it is touched.
   Table t;
@@ -224,8 +220,7 @@ TEST(PlaceBet, VigNoticesAndTheTotalOnTable) {
       {-30, 0, "\"Vig\" charge returned $1"}};
   for (const auto& b : buys) {
     EXPECT_EQ(t.Place(bet::Buy(4), b.change), b.change);
-    EXPECT_EQ(t.Last().title, "Buy 4 Bet");
-    EXPECT_EQ(t.Last().text, b.text);
+    EXPECT_EQ(t.Last(), (RecordedMessage{"Buy 4 Bet", b.text}));
     EXPECT_EQ(t.g.TotalOnTable, b.total);
   }
   t.g.ChargeAllLay = false;

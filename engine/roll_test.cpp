@@ -121,8 +121,8 @@ TEST_F(RollTest, NoRollAtTheCeilingOrBeyondTheBankLimit) {
   g.RollCounts[0] = MaxRolls;
   Roll(3, 4);
   EXPECT_EQ(g.RollCounts[0], MaxRolls);
-  EXPECT_EQ(Last().title, "Reached Maximum Roll Limit");
-  EXPECT_EQ(Last().text, "Sorry ... you've reached the maximum limit of 100,000,000 rolls." + newGame);
+  EXPECT_EQ(Last(), (RecordedMessage{"Reached Maximum Roll Limit",
+                                     "Sorry ... you've reached the maximum limit of 100,000,000 rolls." + newGame}));
   g.HyperDriveOn = g.KeepRolling = true;
   RollDice(g);
   EXPECT_EQ(ui.stopReason, "Stopped due to reaching the maximum limit of 100,000,000 rolls." + newGame);
@@ -131,8 +131,7 @@ TEST_F(RollTest, NoRollAtTheCeilingOrBeyondTheBankLimit) {
   g.Bankroll() = 10'000'000;
   Roll(3, 4);
   EXPECT_EQ(g.RollCounts[0], 0);
-  EXPECT_EQ(Last().title, "Congratulations!");
-  EXPECT_EQ(Last().text, "You broke the bank limit of $9,999,999" + newGame);
+  EXPECT_EQ(Last(), (RecordedMessage{"Congratulations!", "You broke the bank limit of $9,999,999" + newGame}));
   g.Bankroll() = -10'000'000;
   g.HyperDriveOn = g.KeepRolling = true;
   RollDice(g);

@@ -42,10 +42,10 @@ TEST(SettleBet, WonNoticesAndRounding) {
   t.Dice(2, 4, 5);
   EXPECT_EQ(t.Settle(1, bet::Place(6)), Currency(14));
   EXPECT_EQ(t.ui.notices.at(0).rows.at(1), (Rows::value_type{"Payoff at 13 for 6:", "$14"}));
-  EXPECT_EQ(t.ui.notices[0].buttons, (std::vector<std::string>{"&Take Bet and Winnings", "&Same Bet - Take Winnings",
-                                                               "Press 1 &Unit - Add $6 to Bet",
-                                                               "Press - Add Winnings to &Double Bet",
-                                                               "Parlay - Add &All Winnings to Bet", "Sa&me Bet:", "&Bet:"}));
+  EXPECT_EQ(t.ui.notices[0].buttons,
+            (std::vector<std::string>{"&Take Bet and Winnings", "&Same Bet - Take Winnings",
+                                      "Press 1 &Unit - Add $6 to Bet", "Press - Add Winnings to &Double Bet",
+                                      "Parlay - Add &All Winnings to Bet", "Sa&me Bet:", "&Bet:"}));
 
   // A loser's odd cents grow: half a check lost costs a whole one, unless
   // the checks are quarters.
@@ -130,7 +130,8 @@ TEST(SettleBet, OffBetsStandAndOffOddsComeBack) {
 TEST(SettleBet, BuyAndLayVig) {
   // Buy 4 of $20 at 5%: lost, up front it costs 21, on a win only 20; a win
   // pays 39 at 2 to 1 either way.
-  const struct { bool upFront; int outcome, net; } cases[] = {{true, -1, -21}, {false, -1, -20}, {true, 1, 39}, {false, 1, 39}};
+  const struct { bool upFront; int outcome, net; } cases[] = {
+      {true, -1, -21}, {false, -1, -20}, {true, 1, 39}, {false, 1, 39}};
   for (const auto& c : cases) {
     Table t;
     t.g.ChargeAllBuy = c.upFront;

@@ -33,15 +33,11 @@ TEST(CallBet, RefusesWithItsOwnWordsAndOnlyWhereAllowed) {
   BuyPlaceBet(t.g, id);
   id = 102;
   BuyPlaceBet(t.g, id);
-  const Rows shown = {{"Come 6 Bet", "You may not call this bet ON or OFF."},
-                      {"Chip-Stack # 1", "You may not call Chip-Stacks ON or OFF."},
-                      {"Field Bet", "You may not buy this bet."},
-                      {"Chip-Stack # 2", "You may not buy Chip-Stacks."}};
-  ASSERT_EQ(t.ui.messages.size(), shown.size());
-  for (size_t i = 0; i < shown.size(); ++i) {
-    EXPECT_EQ(t.ui.messages[i].title, shown[i].first);
-    EXPECT_EQ(t.ui.messages[i].text, shown[i].second);
-  }
+  const std::vector<RecordedMessage> shown = {{"Come 6 Bet", "You may not call this bet ON or OFF."},
+                                              {"Chip-Stack # 1", "You may not call Chip-Stacks ON or OFF."},
+                                              {"Field Bet", "You may not buy this bet."},
+                                              {"Chip-Stack # 2", "You may not buy Chip-Stacks."}};
+  EXPECT_EQ(t.ui.messages, shown);
   EXPECT_EQ(t.g.BetStatus[bet::Come(6)], 1);
   EXPECT_EQ(t.g.BetAmount[bet::kField], Currency(10));
   // An empty spot is ignored without a word; a silenced or Hyper-Drive table

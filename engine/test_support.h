@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <optional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,9 @@ using Rows = std::vector<std::pair<std::string, std::string>>;
 
 struct RecordedMessage {
   std::string title, text;
+  bool operator==(const RecordedMessage&) const = default;
 };
+inline void PrintTo(const RecordedMessage& m, std::ostream* os) { *os << '"' << m.title << "\": \"" << m.text << '"'; }
 
 // An empty queue answers as SilentFrontEnd does.
 class RecordingFrontEnd : public FrontEnd {
