@@ -22,14 +22,70 @@ std::pair<int, int> Roll(Game& g) {
   return {g.Die1, g.Die2};
 }
 
-// Two faces from two draws, in order.
-template <typename Draw>
-std::pair<int, int> Faces(Draw draw) {
-  const int first = static_cast<int>(draw() * 6) + 1;
-  return {first, static_cast<int>(draw() * 6) + 1};
-}
+int Face(double unit) { return static_cast<int>(unit * 6) + 1; }
+
+// The base generators seeded as SeedRNG seeds them, and the dice each
+// numbered generator should draw from them.
+struct Reference {
+  Mt19937 mt;
+  CokusMt cokus;
+  Ran1State r1;
+  Ran2State r2;
+  int32_t one = 1;
+  std::string err;
+
+  explicit Reference(int32_t seed) {
+    init_genrand(mt, seed);
+    srandMT(cokus, seed);
+    int32_t idum = -seed;
+    Ran1(r1, idum, err);
+    idum = -seed;
+    Ran2(r2, idum, err);
+  }
+  double Draw(int base) {
+    return base == 0 ? genrand_real2(mt) : base == 1 ? randomMT(cokus) : base == 3 ? Ran2(r2, one, err) : Ran1(r1, one, err);
+  }
+  // #6 and #7 take #1 and #2 on odd roll counts, #5 and #4 on even ones.
+  std::pair<int, int> Roll(int choice, int rollCount) {
+    if (choice == 7) {
+      const DicePair d = DiceFromSingleDraw(static_cast<int32_t>(genrand_real2(mt) * 36));
+      return {d.die1, d.die2};
+    }
+    const int base = choice == 5 ? (rollCount % 2 ? 0 : 4) : choice == 6 ? (rollCount % 2 ? 1 : 3) : choice;
+    const int first = Face(Draw(base));
+    return {first, Face(Draw(base))};
+  }
+};
 
 }  // namespace
+
+TEST(DrawDice, EachGeneratorDrawsFromItsBaseGenerators) {
+  for (int choice : {0, 1, 3, 4, 5, 6, 7}) {
+    Game g;
+    SeedSilently(g, choice, 42);
+    Reference reference(42);
+    for (int i = 0; i < 1000; ++i) ASSERT_EQ(Roll(g), reference.Roll(choice, i)) << RngListText(choice) << " roll " << i;
+    EXPECT_EQ(g.ErrorText, "");
+  }
+  // #8 splits its one draw: 0 is 1-1, 35 is 6-6, 6 is 1 and 2.
+  const struct { int v, die1, die2; } splits[] = {{0, 1, 1}, {35, 6, 6}, {6, 1, 2}};
+  for (const auto& s : splits) {
+    EXPECT_EQ(DiceFromSingleDraw(s.v).die1, s.die1) << s.v;
+    EXPECT_EQ(DiceFromSingleDraw(s.v).die2, s.die2) << s.v;
+  }
+}
+
+TEST(DrawDice, SeedingAgainRepeatsTheStream) {
+  for (int choice = 0; choice < kRngCount; ++choice) {
+    Game g, fresh;
+    SeedSilently(g, choice, 31337);
+    for (int i = 0; i < 25; ++i) Roll(g);
+    SeedSilently(g, choice, 31337);
+    SeedSilently(fresh, choice, 31337);
+    g.RollCounts[0] = 0;
+    for (int i = 0; i < 50; ++i) ASSERT_EQ(Roll(g), Roll(fresh)) << RngListText(choice) << " roll " << i;
+  }
+}
 
 TEST(RanMod, StepsAndShrinksAnOverflowingSeed) {
   Game g;
@@ -44,70 +100,11 @@ TEST(RanMod, StepsAndShrinksAnOverflowingSeed) {
     RanMod(g, 6);
     EXPECT_EQ(g.ModSeed, next) << seed;
   }
-}
-
-TEST(DrawDice, EveryGeneratorShowsEveryFaceAndRepeatsItsStream) {
-  for (int choice = 0; choice < kRngCount; ++choice) {
-    Game g, h;
-    SeedSilently(g, choice, 20240);
-    int seen[7] = {};
-    for (int i = 0; i < 20000; ++i) {
-      auto [a, b] = Roll(g);
-      ASSERT_TRUE(a >= 1 && a <= 6 && b >= 1 && b <= 6) << RngListText(choice) << " roll " << i;
-      ++seen[a];
-      ++seen[b];
-    }
-    for (int face = 1; face <= 6; ++face) EXPECT_GT(seen[face], 5000) << RngListText(choice) << " face " << face;
-    EXPECT_EQ(g.ErrorText, "");
-    // Seeding again gives the stream again, in this game as in a fresh one.
-    SeedSilently(g, choice, 31337);
-    SeedSilently(h, choice, 31337);
-    g.RollCounts[0] = 0;
-    for (int i = 0; i < 50; ++i) ASSERT_EQ(Roll(g), Roll(h)) << RngListText(choice) << " roll " << i;
-  }
-}
-
-TEST(DrawDice, CombinedGeneratorsAlternateByRollCount) {
-  std::string err;
-  // #6: the first roll of a game from Ran1, the second from genrand_real2.
-  Game g;
-  SeedSilently(g, 5, 42);
-  Mt19937 mt;
-  init_genrand(mt, 42);
-  Ran1State r1;
-  int32_t idum = -42;
-  Ran1(r1, idum, err);
-  EXPECT_EQ(Roll(g), Faces([&] { return Ran1(r1, idum, err); }));
-  EXPECT_EQ(Roll(g), Faces([&] { return genrand_real2(mt); }));
-
-  // #7: Ran2 first, then the Cokus generator.
-  SeedSilently(g, 6, 42);
-  g.RollCounts[0] = 0;
-  CokusMt cokus;
-  srandMT(cokus, 42);
-  Ran2State r2;
-  idum = -42;
-  Ran2(r2, idum, err);
-  idum = 1;
-  EXPECT_EQ(Roll(g), Faces([&] { return Ran2(r2, idum, err); }));
-  EXPECT_EQ(Roll(g), Faces([&] { return randomMT(cokus); }));
-}
-
-TEST(DrawDice, SingleCallGeneratorSplitsOneDraw) {
-  const struct { int v, die1, die2; } splits[] = {{0, 1, 1}, {35, 6, 6}, {6, 1, 2}};
-  for (const auto& s : splits) {
-    EXPECT_EQ(DiceFromSingleDraw(s.v).die1, s.die1) << s.v;
-    EXPECT_EQ(DiceFromSingleDraw(s.v).die2, s.die2) << s.v;
-  }
-  // One draw per roll: the stream moves on by one value each time.
-  Game g;
-  SeedSilently(g, 7, 5);
-  Mt19937 mt;
-  init_genrand(mt, 5);
-  for (int i = 0; i < 100; ++i) {
-    DicePair expected = DiceFromSingleDraw(static_cast<int32_t>(genrand_real2(mt) * 36));
-    ASSERT_EQ(Roll(g), std::make_pair(expected.die1, expected.die2)) << i;
-  }
+  // Every face shows, and no other.
+  int seen[8] = {};
+  for (int i = 0; i < 6000; ++i) ++seen[RanMod(g, 6)];
+  for (int face = 1; face <= 6; ++face) EXPECT_GT(seen[face], 800) << face;
+  EXPECT_EQ(seen[0] + seen[7], 0);
 }
 
 TEST(DrawPercentageX, OneDrawScaledPerGenerator) {
