@@ -99,6 +99,8 @@ struct Variation {
   bool changedPayoffs;
 };
 
+void PrintTo(const Variation& v, std::ostream* os) { *os << v.name; }
+
 class SettleMatrix : public ::testing::TestWithParam<Variation> {};
 
 // Scrambles the payoff table: other ratios, some in the "for" form, so that a
