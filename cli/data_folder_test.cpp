@@ -9,32 +9,27 @@
 
 namespace fs = std::filesystem;
 
-namespace {
-EnvLookup Env(std::map<std::string, std::string> vars) {
-  return [vars](const char* name) -> const char* {
-    auto it = vars.find(name);
-    return it == vars.end() ? nullptr : it->second.c_str();
-  };
-}
-}  // namespace
-
 TEST(DataFolder, OptionThenDicemillHomeThenXdgThenHome) {
-  const auto all = Env({{"DICEMILL_HOME", "/d"}, {"XDG_DATA_HOME", "/x"}, {"HOME", "/h"}});
+  auto env = [](std::map<std::string, std::string> vars) -> EnvLookup {
+    return [vars](const char* name) -> const char* {
+      auto it = vars.find(name);
+      return it == vars.end() ? nullptr : it->second.c_str();
+    };
+  };
+  const auto all = env({{"DICEMILL_HOME", "/d"}, {"XDG_DATA_HOME", "/x"}, {"HOME", "/h"}});
   EXPECT_EQ(ChooseDataFolder("/opt", all), fs::path("/opt"));
   EXPECT_EQ(ChooseDataFolder("", all), fs::path("/d"));
-  EXPECT_EQ(ChooseDataFolder("", Env({{"DICEMILL_HOME", ""}, {"XDG_DATA_HOME", "/x"}, {"HOME", "/h"}})),
+  EXPECT_EQ(ChooseDataFolder("", env({{"DICEMILL_HOME", ""}, {"XDG_DATA_HOME", "/x"}, {"HOME", "/h"}})),
             fs::path("/x/dicemill"));
-  EXPECT_EQ(ChooseDataFolder("", Env({{"HOME", "/h"}})), fs::path("/h/.local/share/dicemill"));
+  EXPECT_EQ(ChooseDataFolder("", env({{"HOME", "/h"}})), fs::path("/h/.local/share/dicemill"));
 }
 
 TEST(DataFolder, CreatesMissingFoldersAndRefusesFiles) {
   TempFolder temp;
-  const fs::path root = temp.path();
   std::string error;
-  EXPECT_TRUE(EnsureFolder(root / "a" / "b", error)) << error;
-  EXPECT_TRUE(fs::is_directory(root / "a" / "b"));
-  EXPECT_TRUE(EnsureFolder(root / "a" / "b", error));
-  std::ofstream(root / "file") << "x";
-  EXPECT_FALSE(EnsureFolder(root / "file", error));
+  EXPECT_TRUE(EnsureFolder(temp.path() / "a" / "b", error)) << error;
+  EXPECT_TRUE(EnsureFolder(temp.path() / "a" / "b", error));
+  std::ofstream(temp.path() / "file") << "x";
+  EXPECT_FALSE(EnsureFolder(temp.path() / "file", error));
   EXPECT_NE(error.find("cannot use the data folder"), std::string::npos);
 }

@@ -5,7 +5,6 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <sstream>
 
 #include "cli/json_lines.h"
 #include "cli/temp_folder_for_test.h"
@@ -36,40 +35,28 @@ CliRun RunCli(const fs::path& work, const std::string& env, const std::string& a
 
 TEST(PlayEndToEnd, ASessionFromStartToQuit) {
   TempFolder work;
-  const fs::path data = work.path() / "data";
-  const CliRun run = RunCli(work.path(), "", "--folder '" + data.string() + "'",
-                         "# a short session\n"
-                         "set TableMinimum 5\n"
-                         "bet 49 10\n"
-                         "bet 200 1\n"
-                         "state\n"
-                         "quit\n"
-                         "state\n");
+  const std::string folder = "--folder '" + (work.path() / "data").string() + "'";
+  const CliRun run = RunCli(work.path(), "", folder, "# a short session\nbet 49 10\nbet 200 1\nstate\nquit\nstate\n");
   EXPECT_EQ(run.status, 0);
-  EXPECT_TRUE(fs::is_directory(data));  // created on the way in
+  EXPECT_TRUE(fs::is_directory(work.path() / "data"));  // created on the way in
   ASSERT_EQ(run.objects.size(), 2u);
   EXPECT_TRUE(run.objects[0].contains("error"));
-  const Json& state = run.objects[1].at("state");
-  EXPECT_EQ(state.at("bets").at("49"), 10);
-  EXPECT_TRUE(state.at("stacks").empty());
-
+  EXPECT_EQ(run.objects[1].at("state").at("bets").at("49"), 10);
   // No quit: end of input ends the session just as well.
-  EXPECT_EQ(RunCli(work.path(), "", "--folder '" + data.string() + "'", "state").status, 0);
+  EXPECT_EQ(RunCli(work.path(), "", folder, "state").status, 0);
 }
 
 TEST(PlayEndToEnd, StrictExitsTwoAndTheFolderComesFromTheEnvironment) {
   TempFolder work;
-  const fs::path home = work.path() / "home";
-  const CliRun run = RunCli(work.path(), "DICEMILL_HOME='" + home.string() + "'", "--strict", "state\nbet 43 ten\nstate\n");
+  const fs::path home = work.path() / "home", xdg = work.path() / "xdg";
+  const CliRun run =
+      RunCli(work.path(), "DICEMILL_HOME='" + home.string() + "'", "--strict", "state\nbet 43 ten\nstate\n");
   EXPECT_EQ(run.status, 2);
   ASSERT_EQ(run.objects.size(), 2u);
   EXPECT_EQ(run.objects[1].at("error"), "bet: AMOUNT 'ten' is not an amount");
   EXPECT_TRUE(fs::is_directory(home));
-
-  const fs::path xdg = work.path() / "xdg";
   EXPECT_EQ(RunCli(work.path(), "env -u DICEMILL_HOME XDG_DATA_HOME='" + xdg.string() + "'", "", "").status, 0);
   EXPECT_TRUE(fs::is_directory(xdg / "dicemill"));
-
   // A bad option is the argument parser's business, not the session's.
   EXPECT_NE(RunCli(work.path(), "", "--no-such-option", "").status, 0);
 }

@@ -8,78 +8,28 @@
 
 TEST(SettingsRegistry, SetsEachTypeAndReadsItBack) {
   Game g;
-  ApplySetting(g, "TableMinimum", "5");
-  EXPECT_EQ(g.TableMinimum, Currency(5));
-  ApplySetting(g, "BuyVigRate", "0.0125");
-  EXPECT_EQ(g.BuyVigRate.raw, 125);
-  EXPECT_EQ(ReadSetting(g, "BuyVigRate"), Json(0.0125));
-  ApplySetting(g, "OddsCalcMethod", "5");
-  EXPECT_EQ(g.OddsCalcMethod, 5);
-  ApplySetting(g, "AllowPutBets", "-1");
-  EXPECT_TRUE(g.AllowPutBets);
-  EXPECT_EQ(ReadSetting(g, "AllowPutBets"), Json(true));
-  ApplySetting(g, "allowputbets", "FALSE");  // names match without regard to case
-  EXPECT_FALSE(g.AllowPutBets);
-  ApplySetting(g, "BarNumber", "2");
-  EXPECT_EQ(g.BarNumber, 2);
-  ApplySetting(g, "NoticeMask", "0");
-  EXPECT_EQ(g.NoticeMask, 0);
-  ApplySetting(g, "AllowNegativeBankroll", "false");
-  EXPECT_FALSE(g.AllowNegativeBankroll);
-  ApplySetting(g, "RoundLayVig", "1");
-  ApplySetting(g, "ChargeAllBuy", "0");
-  EXPECT_EQ(ReadSetting(g, "RoundLayVig"), Json(g.RoundLayVig));
-  EXPECT_EQ(ReadSetting(g, "ChargeAllBuy"), Json(g.ChargeAllBuy));
-  ApplySetting(g, "BankrollInitAmount", "-250.5");
-  EXPECT_EQ(g.BankrollInitAmount.raw, -2505000);
-}
-
-TEST(SettingsRegistry, RefusesBadNamesValuesAndRangesWithNothingChanged) {
-  Game g;
-  const struct {
-    const char* name;
-    const char* value;
-  } bad[] = {
-      {"NoSuchSetting", "1"}, {"BarNumber", "7"},        {"BarNumber", "12.0"},     {"OddsCalcMethod", "6"},
-      {"RngChoice", "8"},     {"RngChoice", "-1"},       {"RoundLayVig", "3"},      {"RoundBuyVig", "x"},
-      {"WonBetAction", "8"},  {"HandleLosingBets", "8"}, {"AutoAdjustMode", "3"},   {"BankrollInitType", "4"},
-      {"AllowPutBets", "2"},  {"AllowPutBets", "yes"},   {"TableMinimum", "-1"},    {"TableMaximum", "abc"},
-      {"NoticeMask", "32"},   {"StopOnRoll", "true"},    {"StopOnRoll.17", "true"}, {"StopOnRoll.x", "1"},
-      {"TableMinimum.1", "5"}, {"WorkOnComeOut.0", "1"}, {"WorkOnComeOut.84", "1"}, {"RollCountStop", "-1"},
-      {"AtmAmount", "10000000"}, {"ChargeAllLay", "maybe"}, {"AllowNegativeBankroll", "5"},
-  };
-  for (const auto& b : bad) {
-    Game fresh;
-    EXPECT_THROW(ApplySetting(g, b.name, b.value), CommandError) << b.name << " " << b.value;
-    for (const char* name : {"BarNumber", "OddsCalcMethod", "RngChoice", "TableMinimum", "NoticeMask"})
-      EXPECT_EQ(ReadSetting(g, name), ReadSetting(fresh, name)) << b.name;
-  }
-  EXPECT_TRUE(g.ChargeAllLay);
-  EXPECT_TRUE(g.AllowNegativeBankroll);
-  try {
-    ApplySetting(g, "StopOnRoll.17", "1");
-  } catch (const CommandError& e) {
-    EXPECT_STREQ(e.what(), "StopOnRoll index 17 is out of range (0..16)");
-  }
-}
-
-TEST(SettingsRegistry, ArraysTakeAnIndexAndComeOutStatusFollows) {
-  Game g;
   FillDefaults(g);
-  ApplySetting(g, "StopOnRoll.9", "true");
-  ApplySetting(g, "StopOnRoll.0", "1");
-  EXPECT_TRUE(g.StopOnRoll[9]);
-  EXPECT_TRUE(g.StopOnRoll[0]);
-  EXPECT_FALSE(g.StopOnRoll[16]);
-  EXPECT_EQ(ReadSetting(g, "StopOnRoll.9"), Json(true));
+  // Name, value given, value read back; names match without regard to case.
+  const struct { const char* name; const char* value; Json read; } cases[] = {
+      {"TableMinimum", "5", 5},          {"BuyVigRate", "0.0125", 0.0125},      {"OddsCalcMethod", "5", 5},
+      {"AllowPutBets", "-1", true},      {"allowputbets", "FALSE", false},      {"BarNumber", "2", 2},
+      {"NoticeMask", "0", 0},            {"AllowNegativeBankroll", "false", false}, {"RoundLayVig", "1", 1},
+      {"ChargeAllBuy", "0", false},      {"BankrollInitAmount", "-250.5", -250.5}, {"StopOnRoll.9", "true", true},
+      {"StopOnRoll.0", "1", true}};
+  for (const auto& c : cases) {
+    ApplySetting(g, c.name, c.value);
+    EXPECT_EQ(ReadSetting(g, c.name), c.read) << c.name;
+  }
+  EXPECT_EQ(g.BuyVigRate.raw, 125);
+  EXPECT_TRUE(g.StopOnRoll[9] && g.StopOnRoll[0] && !g.StopOnRoll[16]);
+  EXPECT_EQ(g.BankrollInitAmount.raw, -2505000);
 
-  // Place 4 is off on the come-out by default; working now, at once.
-  ASSERT_EQ(g.Point, 0);
+  // Place 4 is off on the come-out by default: working now, at once. A
+  // called bet keeps its call.
   EXPECT_EQ(g.BetStatus[31], 0);
   ApplySetting(g, "WorkOnComeOut.31", "1");
   EXPECT_EQ(g.WorkOnComeOut[31], 1);
   EXPECT_EQ(g.BetStatus[31], 1);
-  // A called bet keeps its call.
   g.BetStatus[32] = -1;
   ApplySetting(g, "WorkOnComeOut.32", "true");
   EXPECT_EQ(g.WorkOnComeOut[32], 1);
@@ -88,11 +38,31 @@ TEST(SettingsRegistry, ArraysTakeAnIndexAndComeOutStatusFollows) {
   EXPECT_EQ(g.BetStatus[31], 0);
 }
 
+TEST(SettingsRegistry, RefusesBadNamesValuesAndRangesWithNothingChanged) {
+  Game g, fresh;
+  const std::pair<const char*, const char*> bad[] = {
+      {"NoSuchSetting", "1"},    {"BarNumber", "7"},         {"BarNumber", "12.0"},     {"OddsCalcMethod", "6"},
+      {"RngChoice", "8"},        {"RngChoice", "-1"},        {"RoundLayVig", "3"},      {"RoundBuyVig", "x"},
+      {"WonBetAction", "8"},     {"HandleLosingBets", "8"},  {"AutoAdjustMode", "3"},   {"BankrollInitType", "4"},
+      {"AllowPutBets", "2"},     {"AllowPutBets", "yes"},    {"TableMinimum", "-1"},    {"TableMaximum", "abc"},
+      {"NoticeMask", "32"},      {"StopOnRoll", "true"},     {"StopOnRoll.17", "true"}, {"StopOnRoll.x", "1"},
+      {"TableMinimum.1", "5"},   {"WorkOnComeOut.0", "1"},   {"WorkOnComeOut.84", "1"}, {"RollCountStop", "-1"},
+      {"AtmAmount", "10000000"}, {"ChargeAllLay", "maybe"},  {"AllowNegativeBankroll", "5"}};
+  for (const auto& [name, value] : bad)
+    EXPECT_THROW(ApplySetting(g, name, value), CommandError) << name << " " << value;
+  for (const char* name : {"BarNumber", "OddsCalcMethod", "RngChoice", "TableMinimum", "NoticeMask", "ChargeAllLay",
+                           "AllowNegativeBankroll", "AllowPutBets", "RoundLayVig", "AtmAmount"})
+    EXPECT_EQ(ReadSetting(g, name), ReadSetting(fresh, name)) << name;
+  try {
+    ApplySetting(g, "StopOnRoll.17", "1");
+  } catch (const CommandError& e) {
+    EXPECT_STREQ(e.what(), "StopOnRoll index 17 is out of range (0..16)");
+  }
+}
+
 TEST(SettingsRegistry, EveryNameTakesBackWhatItReads) {
   Game g;
-  const auto names = SettingNames();
-  EXPECT_GE(names.size(), 40u);
-  for (std::string name : names) {
+  for (std::string name : SettingNames()) {
     if (auto dots = name.find(".."); dots != std::string::npos) name = name.substr(0, name.rfind('.', dots - 1)) + ".1";
     const Json value = ReadSetting(g, name);
     const std::string text = value.is_boolean() ? (value.get<bool>() ? "true" : "false") : value.dump();

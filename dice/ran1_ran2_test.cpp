@@ -9,27 +9,20 @@
 TEST(Ran1Ran2, KnownStreamsAndReinitialisation) {
   std::string err;
   Ran1State r1;
-  int32_t idum = -1;
-  EXPECT_EQ(Ran1(r1, idum, err), 0.3900425136089325f);
-  EXPECT_EQ(idum, 1);  // Ran1 hands back 1 after initialising
-  EXPECT_EQ(Ran1(r1, idum, err), 0.171148419380188f);
-  EXPECT_EQ(Ran1(r1, idum, err), 0.6423839330673218f);
-  idum = -1;
-  EXPECT_EQ(Ran1(r1, idum, err), 0.3900425136089325f);
-  idum = -12345;
-  EXPECT_EQ(Ran1(r1, idum, err), 0.1444481760263443f);
-
   Ran2State r2;
-  idum = -1;
-  EXPECT_EQ(Ran2(r2, idum, err), 0.22098246216773987f);
-  EXPECT_EQ(idum, -1);  // Ran2 keeps its state to itself
-  idum = 1;
-  EXPECT_EQ(Ran2(r2, idum, err), 0.1670921891927719f);
-  EXPECT_EQ(Ran2(r2, idum, err), 0.5601876974105835f);
-  idum = -12345;
-  EXPECT_EQ(Ran2(r2, idum, err), 0.9612828493118286f);
-  idum = 1;
-  EXPECT_EQ(Ran2(r2, idum, err), 0.4660901129245758f);
+  // idum before each draw (0: left as the last draw left it), and the draw.
+  const struct { bool ran1; int32_t idum; float value; } draws[] = {
+      {true, -1, 0.3900425136089325f},  {true, 0, 0.171148419380188f},  {true, 0, 0.6423839330673218f},
+      {true, -1, 0.3900425136089325f},  {true, -12345, 0.1444481760263443f},
+      {false, -1, 0.22098246216773987f}, {false, 1, 0.1670921891927719f}, {false, 1, 0.5601876974105835f},
+      {false, -12345, 0.9612828493118286f}, {false, 1, 0.4660901129245758f}};
+  int32_t idum = 0;
+  for (const auto& d : draws) {
+    if (d.idum != 0) idum = d.idum;
+    EXPECT_EQ(d.ran1 ? Ran1(r1, idum, err) : Ran2(r2, idum, err), d.value) << d.ran1 << " " << d.idum;
+    // Ran1 hands back 1 after initialising; Ran2 keeps its state to itself.
+    EXPECT_EQ(idum, d.ran1 ? 1 : d.idum);
+  }
   EXPECT_EQ(err, "");
 
   // Far enough in for the decimal reciprocals to tell from exact ones.
@@ -41,8 +34,6 @@ TEST(Ran1Ran2, KnownStreamsAndReinitialisation) {
   idum = 1;
   for (int i = 1; i < 999; ++i) Ran2(r2, idum, err);
   EXPECT_EQ(Ran2(r2, idum, err), 0.6909828186035156f);
-
-  // Every draw stays in [0,1).
   for (int i = 0; i < 200000; ++i) {
     float a = Ran1(r1, idum, err), b = Ran2(r2, idum, err);
     ASSERT_TRUE(a >= 0 && a < 1 && b >= 0 && b < 1) << i;

@@ -1,65 +1,47 @@
 #include <gtest/gtest.h>
 
 #include "engine/place_bet.h"
-#include "engine/place_test_support.h"
+#include "engine/test_support.h"
 
-namespace {
-
-using place_test::Table;
-
-TEST(BetMaximum, TableMaximumInWholeChips) {
+TEST(BetMaximum, TableMaximumPropositionsAndOdds) {
   Table t;
-  EXPECT_EQ(GetBetMaximum(t.g, bet::Place(6)), 1000);
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kField), 1000);
-  t.g.BetAmount[bet::kFirstChip] = 5;
-  t.g.TableMaximum = Currency::FromDouble(1003.5);
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kPassLine), 1000);
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kRail), 1000);
-}
+  Game& g = t.g;
+  // Propositions by what they would pay (MaxPropBetPayoff 3000); the split
+  // bets by the largest ratio among their numbers, less the parts that lose.
+  const std::pair<int, int> props[] = {{bet::Place(6), 1000}, {bet::kField, 1000}, {bet::kHard6, 333},
+                                       {bet::kHard4, 428},    {bet::kTwo, 100},    {bet::kFirstHop, 200},
+                                       {bet::kCandE, 428},    {bet::kHorn, 444},   {bet::kWorld, 576}};
+  for (const auto& [id, maximum] : props) EXPECT_EQ(GetBetMaximum(g, id), maximum) << id;
+  g.Payoff[bet::kFirstHop] = {1, -1, 1};
+  EXPECT_EQ(GetBetMaximum(g, bet::kFirstHop), 3000);  // the payoff limit, not the table maximum
+  g.Payoff[bet::kSeven] = {60, -1, 1};                // World includes the Seven
+  EXPECT_EQ(GetBetMaximum(g, bet::kWorld), 267);
+  g.BetAmount[bet::kFirstChip] = 5;
+  EXPECT_EQ(GetBetMaximum(g, bet::kHard6), 330);
+  g.Payoff[bet::kHard6] = {0, -1, 1};  // cannot win: the table maximum
+  EXPECT_EQ(GetBetMaximum(g, bet::kHard6), 1000);
+  g.TableMaximum = Currency::FromDouble(1003.5);
+  EXPECT_EQ(GetBetMaximum(g, bet::kPassLine), 1000);
+  EXPECT_EQ(GetBetMaximum(g, bet::kRail), 1000);
+  g.BetAmount[bet::kFirstChip] = 1;
 
-TEST(BetMaximum, PropositionsByTheirPayoff) {
-  Table t;  // MaxPropBetPayoff 3000
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kHard6), 333);  // 9 to 1
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kHard4), 428);  // 7 to 1
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kTwo), 100);
-  t.g.Payoff[bet::kFirstHop] = {1, -1, 1};
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kFirstHop), 3000);  // 1 to 1: the payoff limit, not the table maximum
-  t.g.Payoff[bet::kFirstHop] = {15, -1, 1};
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kFirstHop), 200);
-  // The split bets use the largest ratio among their numbers.
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kCandE), 428);  // 15 / 2 - 0.5 = 7
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kHorn), 444);   // 30 / 4 - 0.75 = 6.75
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kWorld), 576);  // 30 / 5 - 0.8 = 5.2
-  t.g.Payoff[bet::kSeven] = {60, -1, 1};            // World includes the Seven
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kWorld), 267);  // 60 / 5 - 0.8 = 11.2
-  t.g.BetAmount[bet::kFirstChip] = 5;
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kHard6), 330);
-  t.g.Payoff[bet::kHard6] = {0, -1, 1};  // cannot win: the table maximum
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kHard6), 1000);
-}
-
-TEST(BetMaximum, OddsFollowTheirNumberAndParent) {
-  Table t;
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kPassOdds), 0);  // no point
+  // Odds by their number and parent; lays by what the take would win.
+  EXPECT_EQ(GetBetMaximum(g, bet::kPassOdds), 0);  // no point
   t.SetPoint(6);
-  t.g.BetAmount[bet::kPassLine] = 10;
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kPassOdds), 25);  // 2.5 x on 6
-  t.g.BetAmount[bet::kDontPass] = 10;
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kDontPassOdds), 30);  // lay 30 to win 25
+  g.BetAmount[bet::kPassLine] = g.BetAmount[bet::kDontPass] = 10;
+  EXPECT_EQ(GetBetMaximum(g, bet::kPassOdds), 25);
+  EXPECT_EQ(GetBetMaximum(g, bet::kDontPassOdds), 30);
   t.SetPoint(4);
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kPassOdds), 20);
-  EXPECT_EQ(GetBetMaximum(t.g, bet::kDontPassOdds), 40);
-
-  t.g.BetAmount[bet::Come(5)] = 5;
-  EXPECT_EQ(GetBetMaximum(t.g, bet::ComeOdds(5)), 10);
-  t.g.BetAmount[bet::DontCome(5)] = 10;
-  EXPECT_EQ(GetBetMaximum(t.g, bet::DontComeOdds(5)), 30);  // take 20 at 3 to 2, lay 30 at 2 to 3
-  EXPECT_EQ(GetBetMaximum(t.g, bet::ComeOdds(9)), 0);       // no Come 9
-  t.g.OddsAllowed59 = 3;
-  t.g.OddsCalcMethod = 1;
-  EXPECT_EQ(GetBetMaximum(t.g, bet::ComeOdds(5)), 15);
-  t.g.MaxOddsBet = 12;
-  EXPECT_EQ(GetBetMaximum(t.g, bet::ComeOdds(5)), 12);
+  EXPECT_EQ(GetBetMaximum(g, bet::kPassOdds), 20);
+  EXPECT_EQ(GetBetMaximum(g, bet::kDontPassOdds), 40);
+  g.BetAmount[bet::Come(5)] = 5;
+  g.BetAmount[bet::DontCome(5)] = 10;
+  EXPECT_EQ(GetBetMaximum(g, bet::ComeOdds(5)), 10);
+  EXPECT_EQ(GetBetMaximum(g, bet::DontComeOdds(5)), 30);
+  EXPECT_EQ(GetBetMaximum(g, bet::ComeOdds(9)), 0);  // no Come 9
+  g.OddsAllowed59 = 3;
+  g.OddsCalcMethod = 1;
+  EXPECT_EQ(GetBetMaximum(g, bet::ComeOdds(5)), 15);
+  g.MaxOddsBet = 12;
+  EXPECT_EQ(GetBetMaximum(g, bet::ComeOdds(5)), 12);
 }
-
-}  // namespace

@@ -5,13 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <ostream>
 #include <string>
 
-#include "config/payoffs.h"
-#include "engine/game.h"
-#include "engine/new_game.h"
-#include "engine/roll.h"
+#include "engine/test_support.h"
 
 namespace {
 
@@ -43,14 +39,9 @@ Decision Oracle(int id, int a, int b, int point, int barNumber) {
   const int t = a + b;
   const bool craps = t == 2 || t == 3 || t == 12;
   const bool barred = t == barNumber || (barNumber != 2 && barNumber != 12 && (t == 2 || t == 12));
-  auto number = [](int first, int id) { return bet::NumberAt(id - first); };
-  if (id <= 6) { const int n = number(1, id); return t == 7 ? Win(id) : t == n ? Lose() : NoDecision(); }
-  if (id <= 12) { const int n = number(7, id); return t == 7 ? Win(id) : t == n ? Lose() : NoDecision(); }
-  if (id <= 18) { const int n = number(13, id); return t == 7 ? Win(id) : t == n ? Lose() : NoDecision(); }
-  if (id <= 42) {  // Come numbers, their odds, Place and Buy: the number wins, 7 loses
-    const int n = number(19 + (id - 19) / 6 * 6, id);
-    return t == n ? Win(id) : t == 7 ? Lose() : NoDecision();
-  }
+  if (id <= 18) return t == 7 ? Win(id) : t == bet::NumberAt((id - 1) % 6) ? Lose() : NoDecision();
+  // Come numbers, their odds, Place and Buy: the number wins, 7 loses.
+  if (id <= 42) return t == bet::NumberAt((id - 19) % 6) ? Win(id) : t == 7 ? Lose() : NoDecision();
   switch (id) {
     case 43:
       if (point == 0) return t == 7 || t == 11 ? Win(45) : craps ? Lose() : NoDecision();
@@ -91,24 +82,14 @@ Decision Oracle(int id, int a, int b, int point, int barNumber) {
   return (a == hop.low && b == hop.high) || (a == hop.high && b == hop.low) ? Win(id) : Lose();
 }
 
-// The net of a win of `stake` on payoff record p, before rounding.
 double Ratio(const PayoffRecord& p) { return p.Win.ToDouble() / p.Per.ToDouble(); }
 
 Currency ExpectedNet(const Game& g, int id, const Decision& d) {
-  if (d.kind == Decision::None) return 0;
-  if (d.kind == Decision::Lose) return -kStake;
-  double net;
-  if (d.row < 0) {
-    net = kStake * Ratio(g.FieldPayoff[-d.row]);
-  } else if (id == bet::kCandE) {
-    net = Ratio(g.Payoff[d.row]) * kStake / 2 - kStake / 2.0;
-  } else if (id == bet::kHorn) {
-    net = Ratio(g.Payoff[d.row]) * kStake / 4 - 3.0 * kStake / 4;
-  } else if (id == bet::kWorld) {
-    net = Ratio(g.Payoff[d.row]) * kStake / 5 - 4.0 * kStake / 5;
-  } else {
-    net = kStake * Ratio(g.Payoff[d.row]);
-  }
+  if (d.kind != Decision::Win) return d.kind == Decision::Lose ? -kStake : 0;
+  if (d.row < 0) return static_cast<int>(std::floor(kStake * Ratio(g.FieldPayoff[-d.row]) + 1e-9));
+  // A split bet wins one part by that number's row and loses the others.
+  const int parts = id == bet::kCandE ? 2 : id == bet::kHorn ? 4 : id == bet::kWorld ? 5 : 1;
+  const double net = Ratio(g.Payoff[d.row]) * kStake / parts - kStake * (parts - 1.0) / parts;
   return static_cast<int>(std::floor(net + 1e-9));  // whole chips, the odd cents to the house
 }
 
@@ -141,27 +122,19 @@ TEST_P(SettleMatrix, EveryBetOnEveryPairAndPoint) {
       if ((id == bet::kPassOdds || id == bet::kDontPassOdds) && point == 0) continue;
       for (int a = 1; a <= 6; ++a) {
         for (int b = 1; b <= 6; ++b) {
-          Game g;
-          g.ReSeedNewGames = false;
+          Table t;
+          Game& g = t.g;
           g.BuyVigRate = g.LayVigRate = 0;
           g.BarNumber = v.barNumber;
-          FillDefaults(g);
           if (v.changedPayoffs) ChangePayoffs(g);
-          NewGame(g, false);
-          g.Point = point;
-          SyncOddsPayoffs(g);
-          // The bet is put down as it would stand, working, bypassing the
-          // placement rules: settlement is under test here.
-          g.BetAmount[id] = kStake;
-          g.TotalOnTable = kStake;
-          g.BetStatus[id] = 1;
+          t.SetPoint(point);
+          // The bet stands as it would, working, past the placement rules:
+          // settlement is under test here.
+          t.Stand(id, kStake);
           const Currency before = g.Bankroll();
           const Decision d = Oracle(id, a, b, point, v.barNumber);
           const Currency expected = ExpectedNet(g, id, d);
-          g.Die1 = a;
-          g.Die2 = b;
-          g.DiceAlreadySet = true;
-          RollDice(g);
+          t.Roll(a, b);
           ASSERT_EQ((g.Bankroll() - before).raw, expected.raw)
               << v.name << ": " << g.BetName[id] << " dice " << a << "-" << b << " point " << point;
           ++checked;

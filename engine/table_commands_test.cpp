@@ -2,42 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 #include "engine/bet_status.h"
-#include "engine/game.h"
-#include "engine/new_game.h"
-#include "engine/place_bet.h"
+#include "engine/test_support.h"
 
 namespace {
 
-struct Shown {
-  std::string title, text;
-};
-
-class RecordingFrontEnd : public SilentFrontEnd {
- public:
-  Reply ShowMessage(const std::string& title, const std::string& text, Buttons b) override {
-    shown.push_back({title, text});
-    return SilentFrontEnd::ShowMessage(title, text, b);
-  }
-  std::vector<Shown> shown;
-};
-
-struct Table {
-  Game g;
-  RecordingFrontEnd ui;
-  Table() {
-    FillDefaults(g);
-    UpdateBetStatusForPoint(g);
-    g.Ui = &ui;
-  }
+struct Commands : Table {
   // Come numbers only arrive by travelling from the box.
   void Put(int id, int amount) {
-    g.BetChange = amount;
     g.MovingBet = bet::IsComeNumber(id);
-    PlaceBet(g, id);
+    Place(id, amount);
     g.MovingBet = false;
   }
   // The point moves as the roll moves it, then statuses follow.
@@ -48,31 +22,24 @@ struct Table {
   }
 };
 
-}  // namespace
-
-TEST(CallBet, RefusesLineAndComeBetsWithTheirOwnWords) {
-  Table t;
-  t.Put(bet::Come(6), 10);
-  CallBet(t.g, bet::Come(6), kToolCallOff);
-  ASSERT_EQ(t.ui.shown.size(), 1u);
-  EXPECT_EQ(t.ui.shown[0].title, "Come 6 Bet");
-  EXPECT_EQ(t.ui.shown[0].text, "You may not call this bet ON or OFF.");
-  EXPECT_EQ(t.g.BetStatus[bet::Come(6)], 1);
-
+TEST(CallBet, RefusesWithItsOwnWordsAndOnlyWhereAllowed) {
   for (int id : {43, 45, 46, 48, 7, 12, 19, 24}) EXPECT_FALSE(CanBeCalled(id)) << id;
-  for (int id : {bet::ComeOdds(6), bet::Place(6), bet::Buy(6), bet::kHard8, bet::kField, 56, 83, 1, 13, 44, 47})
-    EXPECT_TRUE(CanBeCalled(id)) << id;
-
-  t.Put(bet::ComeOdds(6), 10);
-  CallBet(t.g, bet::ComeOdds(6), kToolCallOn);
-  EXPECT_EQ(t.g.BetStatus[bet::ComeOdds(6)], 2);
-
-  t.Put(101, 25);
+  for (int id : {25, 31, 37, 54, 49, 56, 83, 1, 13, 44, 47}) EXPECT_TRUE(CanBeCalled(id)) << id;
+  Commands t;
+  for (int id : {bet::Come(6), bet::ComeOdds(6), bet::kField, 101, 102}) t.Put(id, 10);
+  CallBet(t.g, bet::Come(6), kToolCallOff);
   CallBet(t.g, 101, kToolCallOn);
-  ASSERT_EQ(t.ui.shown.size(), 2u);
-  EXPECT_EQ(t.ui.shown[1].title, "Chip-Stack # 1");
-  EXPECT_EQ(t.ui.shown[1].text, "You may not call Chip-Stacks ON or OFF.");
-
+  int id = bet::kField;
+  BuyPlaceBet(t.g, id);
+  id = 102;
+  BuyPlaceBet(t.g, id);
+  const std::vector<RecordedMessage> shown = {{"Come 6 Bet", "You may not call this bet ON or OFF."},
+                                              {"Chip-Stack # 1", "You may not call Chip-Stacks ON or OFF."},
+                                              {"Field Bet", "You may not buy this bet."},
+                                              {"Chip-Stack # 2", "You may not buy Chip-Stacks."}};
+  EXPECT_EQ(t.ui.messages, shown);
+  EXPECT_EQ(t.g.BetStatus[bet::Come(6)], 1);
+  EXPECT_EQ(t.g.BetAmount[bet::kField], Currency(10));
   // An empty spot is ignored without a word; a silenced or Hyper-Drive table
   // refuses without one.
   CallBet(t.g, bet::kPassLine, kToolCallOff);
@@ -81,116 +48,82 @@ TEST(CallBet, RefusesLineAndComeBetsWithTheirOwnWords) {
   t.g.NoticeMask = 15;
   t.g.HyperDriveOn = true;
   CallBet(t.g, bet::Come(6), kToolCallOff);
-  EXPECT_EQ(t.ui.shown.size(), 2u);
+  EXPECT_EQ(t.ui.messages.size(), shown.size());
 }
 
 TEST(CallBet, OffOutlivesComeOutAndPointUntilCalledOnOrRemoved) {
-  Table t;
+  Commands t;
   const int place6 = bet::Place(6);
   t.Put(place6, 30);
   CallBet(t.g, place6, kToolCallOff);
-  EXPECT_EQ(t.g.BetStatus[place6], -1);
-  t.PointTo(6);
-  EXPECT_EQ(t.g.BetStatus[place6], -1);
-  t.PointTo(0);
-  EXPECT_EQ(t.g.BetStatus[place6], -1);
-  t.PointTo(9);
-  EXPECT_EQ(t.g.BetStatus[place6], -1);
-
+  for (int point : {6, 0, 9}) {
+    t.PointTo(point);
+    EXPECT_EQ(t.g.BetStatus[place6], -1) << point;
+  }
   // A press the other way withdraws the call: back to working with a point on.
-  CallBet(t.g, place6, kToolCallOn);
-  EXPECT_EQ(t.g.BetStatus[place6], 1);
+  const int steps[][2] = {{kToolCallOn, 1}, {kToolCallOn, 2}, {kToolCallOff, 1}};
+  for (const auto& [tool, status] : steps) {
+    CallBet(t.g, place6, tool);
+    EXPECT_EQ(t.g.BetStatus[place6], status);
+  }
   EXPECT_TRUE(t.g.TableDirty);
-  CallBet(t.g, place6, kToolCallOn);
-  EXPECT_EQ(t.g.BetStatus[place6], 2);
-  CallBet(t.g, place6, kToolCallOff);
-  EXPECT_EQ(t.g.BetStatus[place6], 1);
-
   // Removal ends a call too; on the come-out the default is off.
   CallBet(t.g, place6, kToolCallOff);
   t.PointTo(0);
   RemoveBet(t.g, place6);
   EXPECT_EQ(t.g.BetAmount[place6], 0);
   EXPECT_EQ(t.g.BetStatus[place6], 0);
-  EXPECT_TRUE(t.ui.shown.empty());
-}
 
-TEST(CallBet, AllBetsSkipsTheUncallableSilentlyAndRestoresTheMask) {
-  Table t;
-  t.Put(bet::kPassLine, 10);
-  t.Put(bet::Place(8), 12);
-  t.Put(bet::kHard4, 5);
+  // Calling all bets skips the uncallable silently and puts the mask back;
+  // calling all ON withdraws the OFF calls.
+  for (int id : {bet::kPassLine, bet::Place(8), bet::kHard4}) t.Put(id, 10);
   t.g.NoticeMask = 7;
   CallAllBets(t.g, false);
   EXPECT_EQ(t.g.NoticeMask, 7);
-  EXPECT_TRUE(t.ui.shown.empty());
-  EXPECT_EQ(t.g.BetStatus[bet::kPassLine], 1);
-  EXPECT_EQ(t.g.BetStatus[bet::Place(8)], -1);
-  EXPECT_EQ(t.g.BetStatus[bet::kHard4], -1);
-  EXPECT_EQ(t.g.BetStatus[bet::Place(4)], 0);  // empty spots keep their status
-
-  CallAllBets(t.g, true);  // withdraws the OFF calls rather than calling ON
+  EXPECT_TRUE(t.ui.messages.empty());
+  const std::pair<int, int> off[] = {{bet::kPassLine, 1}, {bet::Place(8), -1}, {bet::kHard4, -1}, {bet::Place(4), 0}};
+  for (const auto& [id, status] : off) EXPECT_EQ(t.g.BetStatus[id], status) << id;
+  CallAllBets(t.g, true);
   EXPECT_EQ(t.g.BetStatus[bet::Place(8)], 0);
   EXPECT_EQ(t.g.BetStatus[bet::kHard4], 1);
 }
 
 TEST(BuyPlaceBet, MovesThePlaceAmountOntoTheBuySpot) {
-  Table t;
+  Commands t;
   t.g.BuyVigRate = 0;  // the vig of a Buy has tests of its own
   t.Put(bet::Place(6), 30);
   t.Put(bet::Buy(6), 10);
-  const Currency before = t.g.TotalOnTable;
   int id = bet::Place(6);
   BuyPlaceBet(t.g, id);
   EXPECT_EQ(id, bet::Buy(6));
   EXPECT_EQ(t.g.BetAmount[bet::Buy(6)], Currency(30));
   EXPECT_EQ(t.g.BetAmount[bet::Place(6)], Currency(0));
-  EXPECT_EQ(t.g.TotalOnTable, before - Currency(10));
-  EXPECT_TRUE(t.ui.shown.empty());
-
-  // A call on either spot: the Buy spot takes the Place bet's status.
+  EXPECT_EQ(t.g.TotalOnTable, Currency(30));
+  // A call on the Place spot goes with it.
   t.Put(bet::Place(5), 10);
   CallBet(t.g, bet::Place(5), kToolCallOff);
   id = bet::Place(5);
   BuyPlaceBet(t.g, id);
   EXPECT_EQ(t.g.BetStatus[bet::Buy(5)], -1);
-
   // A Buy bet clicked again, or an empty spot, does nothing.
-  id = bet::Buy(6);
-  BuyPlaceBet(t.g, id);
-  id = bet::Place(9);
-  BuyPlaceBet(t.g, id);
-  EXPECT_EQ(id, bet::Place(9));
-  EXPECT_TRUE(t.ui.shown.empty());
+  for (int same : {bet::Buy(6), bet::Place(9)}) {
+    id = same;
+    BuyPlaceBet(t.g, id);
+    EXPECT_EQ(id, same);
+  }
   EXPECT_EQ(t.g.BetAmount[bet::Buy(6)], Currency(30));
-}
-
-TEST(BuyPlaceBet, RefusesOtherBetsAndChipStacks) {
-  Table t;
-  t.Put(bet::kField, 5);
-  t.Put(102, 5);
-  int id = bet::kField;
-  BuyPlaceBet(t.g, id);
-  id = 102;
-  BuyPlaceBet(t.g, id);
-  ASSERT_EQ(t.ui.shown.size(), 2u);
-  EXPECT_EQ(t.ui.shown[0].title, "Field Bet");
-  EXPECT_EQ(t.ui.shown[0].text, "You may not buy this bet.");
-  EXPECT_EQ(t.ui.shown[1].title, "Chip-Stack # 2");
-  EXPECT_EQ(t.ui.shown[1].text, "You may not buy Chip-Stacks.");
-  EXPECT_EQ(t.g.BetAmount[bet::kField], Currency(5));
+  EXPECT_TRUE(t.ui.messages.empty());
 }
 
 TEST(RemoveBet, TakesEveryBetDownThroughPlacement) {
-  Table t;
-  t.Put(bet::kField, 5);
-  t.Put(bet::Lay(4), 40);
-  t.Put(bet::kLastHop, 1);
-  t.Put(103, 7);
+  Commands t;
+  for (int id : {bet::kField, bet::Lay(4), bet::kLastHop, 103}) t.Put(id, 40);
   RemoveAllBets(t.g);
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) EXPECT_EQ(t.g.BetAmount[id], 0) << id;
   EXPECT_EQ(t.g.TotalOnTable, 0);
-  EXPECT_EQ(t.g.BetAmount[103], Currency(7));  // Chip-Stacks are not bets on the layout
+  EXPECT_EQ(t.g.BetAmount[103], Currency(40));  // Chip-Stacks are not bets on the layout
   RemoveBet(t.g, 103);
   EXPECT_EQ(t.g.BetAmount[103], 0);
 }
+
+}  // namespace
