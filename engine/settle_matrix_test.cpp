@@ -4,14 +4,16 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 #include <string>
 
+#include "config/rules.h"
 #include "engine/test_support.h"
 
 namespace {
 
-constexpr int kStake = 20;  // whole payoffs on the split bets at the default ratios
 constexpr int kPoints[] = {0, 4, 5, 6, 8, 9, 10};
 
 struct Decision {
@@ -84,20 +86,44 @@ Decision Oracle(int id, int a, int b, int point, int barNumber) {
 
 double Ratio(const PayoffRecord& p) { return p.Win.ToDouble() / p.Per.ToDouble(); }
 
-Currency ExpectedNet(const Game& g, int id, const Decision& d) {
-  if (d.kind != Decision::Win) return d.kind == Decision::Lose ? -kStake : 0;
-  if (d.row < 0) return static_cast<int>(std::floor(kStake * Ratio(g.FieldPayoff[-d.row]) + 1e-9));
-  // A split bet wins one part by that number's row and loses the others.
-  const int parts = id == bet::kCandE ? 2 : id == bet::kHorn ? 4 : id == bet::kWorld ? 5 : 1;
-  const double net = Ratio(g.Payoff[d.row]) * kStake / parts - kStake * (parts - 1.0) / parts;
-  return static_cast<int>(std::floor(net + 1e-9));  // whole chips, the odd cents to the house
-}
-
 struct Variation {
   const char* name;
-  int barNumber;
-  bool changedPayoffs;
+  int barNumber = 12;
+  bool changedPayoffs = false;
+  int stake = 20;         // 20 pays the split bets whole at the default ratios
+  double chip = 1;        // the smallest check
+  int vigPercent = 0;     // Buy and Lay alike
+  bool chargeAll = true;  // vig up front
+  int roundVig = 0;       // 0 normally, 1 down, 2 up
+  bool putBets = false;
 };
+
+// Whole checks, toward minus infinity.
+double FloorToChip(double amount, double chip) { return std::floor(amount / chip + 1e-9) * chip; }
+
+// The vig of a Buy or Lay of the stake: a percentage of the bet for a Buy and
+// of its win for a Lay, rounded in checks, never below one check once charged.
+double OracleVig(const Game& g, const Variation& v, int id) {
+  if (v.vigPercent == 0 || !(bet::IsBuy(id) || bet::IsLay(id))) return 0;
+  const double base = bet::IsLay(id) ? v.stake * Ratio(g.Payoff[id]) : v.stake;
+  const double q = base * v.vigPercent / 100 / v.chip;
+  const double whole = std::floor(q + 1e-9);
+  double checks = whole;
+  if (v.roundVig == 0 && q - whole > 0.5 + 1e-9) checks = whole + 1;
+  if (v.roundVig == 2 && q - whole > 1e-9) checks = whole + 1;
+  return std::max(checks, 1.0) * v.chip;
+}
+
+double ExpectedNet(const Game& g, const Variation& v, int id, const Decision& d) {
+  const double vig = OracleVig(g, v, id);
+  if (d.kind == Decision::None) return 0;
+  if (d.kind == Decision::Lose) return FloorToChip(-v.stake - (v.chargeAll ? vig : 0), v.chip);
+  if (d.row < 0) return FloorToChip(v.stake * Ratio(g.FieldPayoff[-d.row]), v.chip);
+  // A split bet wins one part by that number's row and loses the others.
+  const int parts = id == bet::kCandE ? 2 : id == bet::kHorn ? 4 : id == bet::kWorld ? 5 : 1;
+  const double net = Ratio(g.Payoff[d.row]) * v.stake / parts - v.stake * (parts - 1.0) / parts;
+  return FloorToChip(net - vig, v.chip);  // the odd cents go to the house
+}
 
 void PrintTo(const Variation& v, std::ostream* os) { *os << v.name; }
 
@@ -124,18 +150,22 @@ TEST_P(SettleMatrix, EveryBetOnEveryPairAndPoint) {
         for (int b = 1; b <= 6; ++b) {
           Table t;
           Game& g = t.g;
-          g.BuyVigRate = g.LayVigRate = 0;
+          g.BuyVigRate = g.LayVigRate = Currency::FromRaw(v.vigPercent * 100);
+          g.ChargeAllBuy = g.ChargeAllLay = v.chargeAll;
+          g.RoundBuyVig = g.RoundLayVig = v.roundVig;
+          g.BetAmount[bet::kFirstChip] = Currency::FromDouble(v.chip);
+          g.AllowPutBets = v.putBets;
           g.BarNumber = v.barNumber;
           if (v.changedPayoffs) ChangePayoffs(g);
           t.SetPoint(point);
-          // The bet stands as it would, working, past the placement rules:
-          // settlement is under test here.
-          t.Stand(id, kStake);
+          // The bet stands as it would, working, with its vig, past the
+          // placement rules: settlement is under test here.
+          t.Stand(id, v.stake);
+          RefigureVigs(g);
           const Currency before = g.Bankroll();
-          const Decision d = Oracle(id, a, b, point, v.barNumber);
-          const Currency expected = ExpectedNet(g, id, d);
+          const Currency expected = Currency::FromDouble(ExpectedNet(g, v, id, Oracle(id, a, b, point, v.barNumber)));
           t.Roll(a, b);
-          ASSERT_EQ((g.Bankroll() - before).raw, expected.raw)
+          ASSERT_EQ(g.Bankroll() - before, expected)
               << v.name << ": " << g.BetName[id] << " dice " << a << "-" << b << " point " << point;
           ++checked;
         }
@@ -145,10 +175,31 @@ TEST_P(SettleMatrix, EveryBetOnEveryPairAndPoint) {
   EXPECT_EQ(checked, 83 * 7 * 36 - 2 * 36);
 }
 
-INSTANTIATE_TEST_SUITE_P(Tables, SettleMatrix,
-                         ::testing::Values(Variation{"default_payoffs_bar_12", 12, false},
-                                           Variation{"default_payoffs_bar_2", 2, false},
-                                           Variation{"changed_payoffs_bar_12", 12, true}),
+Variation Named(const char* name) {
+  Variation v;
+  v.name = name;
+  return v;
+}
+
+std::vector<Variation> Variations() {
+  std::vector<Variation> list(7);
+  list[0] = Named("default_payoffs_bar_12");
+  list[1] = Named("default_payoffs_bar_2");
+  list[1].barNumber = 2;
+  list[2] = Named("changed_payoffs");
+  list[2].changedPayoffs = true;
+  list[3] = Named("vig_up_front_rounded_normally");
+  list[3].stake = 30, list[3].vigPercent = 5;
+  list[4] = Named("vig_on_wins_rounded_up");
+  list[4].stake = 30, list[4].vigPercent = 5, list[4].chargeAll = false, list[4].roundVig = 2;
+  list[5] = Named("vig_rounded_down_check_5_put_bets");
+  list[5].stake = 30, list[5].vigPercent = 5, list[5].roundVig = 1, list[5].chip = 5, list[5].putBets = true;
+  list[6] = Named("changed_payoffs_quarter_check_bar_2");
+  list[6].changedPayoffs = true, list[6].chip = 0.25, list[6].barNumber = 2, list[6].stake = 7;
+  return list;
+}
+
+INSTANTIATE_TEST_SUITE_P(Tables, SettleMatrix, ::testing::ValuesIn(Variations()),
                          [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace
