@@ -60,3 +60,18 @@ TEST(PlayEndToEnd, StrictExitsTwoAndTheFolderComesFromTheEnvironment) {
   // A bad option is the argument parser's business, not the session's.
   EXPECT_NE(RunCli(work.path(), "", "--no-such-option", "").status, 0);
 }
+
+TEST(PlayEndToEnd, TheSameSeedGivesTheSameDiceInANewProcess) {
+  TempFolder work;
+  const std::string folder = "--folder '" + (work.path() / "data").string() + "'";
+  for (int rng = 0; rng <= 7; ++rng) {
+    const std::string input = "set RngChoice " + std::to_string(rng) + "\nseed 777\n" + "roll\nroll\nroll\nroll\nroll\n";
+    const CliRun first = RunCli(work.path(), "", folder, input);
+    const CliRun second = RunCli(work.path(), "", folder, input);
+    std::vector<Json> rolled;
+    for (const Json& o : first.objects)
+      if (o.contains("rolled")) rolled.push_back(o);
+    EXPECT_EQ(rolled.size(), 5u) << "RNG #" << rng + 1;
+    EXPECT_EQ(first.objects, second.objects) << "RNG #" << rng + 1;
+  }
+}
