@@ -40,23 +40,19 @@ void ReportOverflow(Game& g) { ShowMessage(g, "Dicemill", RunTimeErrorText("Over
 // Ran1 and Ran2 are seeded by a negated seed subtracted from their
 // increment, which leaves 32 bits for seeds near the top of the range.
 // Such a seed is reported and leaves the generator as it was.
-void SeedRan1(Game& g, int32_t seed) {
+template <typename State>
+void SeedShuffled(Game& g, int32_t seed, State& state, bool (*overflows)(int32_t),
+                  float (*draw)(State&, int32_t&, std::string&)) {
   int32_t idum = -seed;
-  if (Ran1InitOverflows(idum)) {
+  if (overflows(idum)) {
     ReportOverflow(g);
     return;
   }
-  Ran1(g.Rng.ran1, idum, g.ErrorText);
+  draw(state, idum, g.ErrorText);
 }
 
-void SeedRan2(Game& g, int32_t seed) {
-  int32_t idum = -seed;
-  if (Ran2InitOverflows(idum)) {
-    ReportOverflow(g);
-    return;
-  }
-  Ran2(g.Rng.ran2, idum, g.ErrorText);
-}
+void SeedRan1(Game& g, int32_t seed) { SeedShuffled(g, seed, g.Rng.ran1, Ran1InitOverflows, Ran1); }
+void SeedRan2(Game& g, int32_t seed) { SeedShuffled(g, seed, g.Rng.ran2, Ran2InitOverflows, Ran2); }
 
 void SeedSelected(Game& g, int32_t seed) {
   uint32_t word = static_cast<uint32_t>(seed);
