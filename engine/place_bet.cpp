@@ -58,7 +58,7 @@ bool AnyOtherBet(const Game& g, int id) {
 }
 
 // Appends to the pending limit notice, which lives in g.MsgText so that the
-// adjustment of step 8 may add to it or replace it.
+// automatic adjustment may add to it or replace it.
 void AddNotice(Game& g, int id, const std::string& text) {
   g.MsgText = g.MsgText.empty() ? text : g.MsgText + kTwoBreaks + text;
   if (g.MsgTitle.empty()) g.MsgTitle = BetTitle(g, id);

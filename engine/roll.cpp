@@ -10,14 +10,11 @@
 #include "engine/game.h"
 #include "engine/notices.h"
 #include "engine/place_bet.h"
-#include "engine/settle.h"
+#include "engine/settle_order.h"
 
 namespace {
 
 // Sound slots of the roll.
-constexpr int kSoundLineWin = 13;
-constexpr int kSoundLineLoss = 14;
-constexpr int kSoundBarred = 15;
 constexpr int kSoundDouble = 16;
 constexpr int kSoundComeOut = 17;
 constexpr int kSoundNewShooter = 18;
@@ -34,6 +31,8 @@ void Sound(Game& g, int slot) {
   if (!g.HyperDriveOn && !g.DisableAllSound) g.Ui->PlaySound(slot);
 }
 
+bool Doubles(const Game& g) { return g.Die1 == g.Die2; }
+
 // The StopOnRoll index of a total (2..12), and of a hard way (4, 6, 8, 10).
 int TotalStopIndex(int total) {
   static constexpr std::array<int, 13> kIndex = {0, 0, 2, 3, 4, 6, 7, 9, 10, 12, 13, 15, 16};
@@ -41,178 +40,18 @@ int TotalStopIndex(int total) {
 }
 int HardStopIndex(int total) { return total == 4 ? 5 : total == 6 ? 8 : total == 8 ? 11 : 14; }
 
-// One throw's settling: every SettleBet call in its order, with the Hop
-// winners remembered so that the rest of the Hops lose at the end, and the
-// won and lost events noted for the Auto-Roll stops.
-class Settler {
- public:
-  explicit Settler(Game& g) : g_(g) {}
-
-  void operator()(int outcome, int betId) {
-    bool real = g_.BetAmount[betId] > 0 && g_.BetStatus[betId] >= 1;
-    if (outcome > 0 && bet::IsHop(betId)) hopWon_[betId - bet::kFirstHop] = true;
-    SettleBet(g_, outcome, betId);
-    if (real && g_.NetPayoff > 0) anyWon_ = true;
-    if (real && g_.NetPayoff < 0) anyLost_ = true;
-  }
-  void Range(int outcome, int first, int last) {
-    for (int id = first; id <= last; ++id) (*this)(outcome, id);
-  }
-  bool HopWon(int hopId) const { return hopWon_[hopId - bet::kFirstHop]; }
-  bool AnyWon() const { return anyWon_; }
-  bool AnyLost() const { return anyLost_; }
-
- private:
-  Game& g_;
-  std::array<bool, 17> hopWon_{};
-  bool anyWon_ = false, anyLost_ = false;
-};
-
-bool Has(const Game& g, int face) { return g.Die1 == face || g.Die2 == face; }
-bool Doubles(const Game& g) { return g.Die1 == g.Die2; }
-
-// Step 17: the bets of the total, in the order of settling.
-void SettleTotal(Game& g, Settler& settle) {
-  const int total = g.DiceTotal;
-  const bool comeOut = g.PointBeforeRoll == 0;
-  switch (total) {
-    case 2:
-    case 12: {
-      // Don't Pass and Don't Come win on the crap that is not barred.
-      const bool dontWins = g.BarNumber == (total == 2 ? 12 : 2);
-      settle(-1, bet::kCome);
-      if (comeOut) {
-        settle(-1, bet::kPassLine);
-        if (dontWins) {
-          LineLoss(g);
-          settle(1, bet::kDontPass);
-        } else {
-          LineBarred(g);
-        }
-      }
-      settle(1, total == 2 ? bet::kTwo : bet::kTwelve);
-      for (int id : {bet::kCraps, bet::kCandE, bet::kHorn, bet::kWorld}) settle(1, id);
-      if (dontWins) settle(1, bet::kDontCome);
-      break;
-    }
-    case 3:
-      settle(-1, bet::kCome);
-      if (comeOut) {
-        LineLoss(g);
-        settle(-1, bet::kPassLine);
-        settle(1, bet::kDontPass);
-      }
-      for (int id : {bet::kThree, bet::kCraps, bet::kCandE, bet::kDontCome, bet::kHorn, bet::kWorld})
-        settle(1, id);
-      break;
-    case 7:
-      if (comeOut) LineWin(g); else LineLoss(g);
-      settle(-1, bet::kDontCome);
-      settle(-1, bet::kBig6);
-      settle(-1, bet::kBig8);
-      settle.Range(-1, bet::kHard4, bet::kHard10);
-      settle.Range(-1, bet::kPlaceBase, bet::kBuyBase + 5);
-      for (int id = bet::kComeNumberBase; id < bet::kComeNumberBase + 6; ++id) {
-        settle(-1, id);
-        settle(-2, id + 6);
-      }
-      if (comeOut) {
-        settle(-1, bet::kDontPass);
-        settle(1, bet::kPassLine);
-      } else {
-        settle(-1, bet::kPassLine);
-        settle(-2, bet::kPassOdds);
-        settle(1, bet::kDontPass);
-        settle(2, bet::kDontPassOdds);
-      }
-      settle.Range(1, bet::kLayBase, bet::kLayBase + 5);
-      for (int id = bet::kDontComeBase; id < bet::kDontComeBase + 6; ++id) {
-        settle(1, id);
-        settle(2, id + 6);
-      }
-      settle(1, bet::kCome);
-      settle(1, bet::kSeven);
-      settle(1, bet::kWorld);
-      if (Has(g, 1)) settle(1, bet::HopFor(1, 6));
-      if (Has(g, 2)) settle(1, bet::HopFor(2, 5));
-      if (Has(g, 3)) settle(1, bet::HopFor(3, 4));
-      break;
-    case 11:
-      settle(-1, bet::kDontCome);
-      if (comeOut) {
-        LineWin(g);
-        settle(1, bet::kPassLine);
-        settle(-1, bet::kDontPass);
-      }
-      for (int id : {bet::kEleven, bet::kCandE, bet::kCome, bet::kHorn, bet::kWorld}) settle(1, id);
-      break;
-    default: {  // 4, 5, 6, 8, 9, 10
-      settle(-1, bet::Lay(total));
-      settle(-1, bet::DontCome(total));
-      settle(-2, bet::DontComeOdds(total));
-      settle(1, bet::Come(total));
-      settle(2, bet::ComeOdds(total));
-      settle(1, bet::Place(total));
-      settle(1, bet::Buy(total));
-      if (total == 6) settle(1, bet::kBig6);
-      if (total == 8) settle(1, bet::kBig8);
-      if (total % 2 == 0) {
-        const int hard = bet::kHard4 + (total - 4) / 2;
-        if (Doubles(g)) {
-          settle(1, hard);
-          settle(1, bet::HopFor(g.Die1, g.Die2));
-        } else {
-          settle(-1, hard);
-        }
-      }
-      // The easy Hops of the total, in the order of their lower face.
-      if (!Doubles(g)) {
-        for (int low = 1; low <= 6; ++low) {
-          const int high = total - low;
-          if (high <= low || high > 6 || !Has(g, low)) continue;
-          settle(1, bet::HopFor(low, high));
-        }
-      }
-      MoveBet(g, bet::kDontCome, bet::DontCome(total));
-      MoveBet(g, bet::kCome, bet::Come(total));
-      break;
-    }
-  }
-}
-
-// Step 18: what every roll settles.
-void SettleEveryRoll(Game& g, Settler& settle) {
-  const int total = g.DiceTotal;
-  settle(1, bet::kField);
-  if (total != 2) settle(-1, bet::kTwo);
-  if (total != 3) settle(-1, bet::kThree);
-  if (total != 7) settle(-1, bet::kSeven);
-  if (total != 11) settle(-1, bet::kEleven);
-  if (total != 12) settle(-1, bet::kTwelve);
-  if (total >= 4 && total <= 11) settle(-1, bet::kCraps);
-  if (total >= 4 && total <= 10) {
-    settle(-1, bet::kCandE);
-    settle(-1, bet::kHorn);
-    if (total != 7) settle(-1, bet::kWorld);
-  }
-  settle(total < 8 ? -1 : 1, bet::kOver7);
-  settle(total > 6 ? -1 : 1, bet::kUnder7);
-  for (int hop = bet::kFirstHop; hop <= bet::kLastHop; ++hop)
-    if (!settle.HopWon(hop)) settle(-1, hop);
-}
-
 // After the total, an Auto-Roll stops on the rolls the player marked.
-void TestStopOnRoll(Game& g, const Settler& settle) {
+void TestStopOnRoll(Game& g, const ThrowDecisions& decided) {
   if (g.HyperDriveOn || !g.AutoRollOn) return;
   const int total = g.DiceTotal;
   bool stop = g.StopOnRoll[TotalStopIndex(total)];
   if (Doubles(g) && total != 2 && total != 12) stop = stop || g.StopOnRoll[HardStopIndex(total)];
-  if (settle.AnyWon() && g.StopOnRoll[kStopOnWin]) stop = true;
-  if (settle.AnyLost() && g.StopOnRoll[kStopOnLoss]) stop = true;
+  if (decided.anyWon && g.StopOnRoll[kStopOnWin]) stop = true;
+  if (decided.anyLost && g.StopOnRoll[kStopOnLoss]) stop = true;
   if (stop) Stop(g);
 }
 
-// Step 19: a new point or a new come-out.
+// A new point or a new come-out.
 void AfterPointMoved(Game& g) {
   g.Ui->RefreshTable();  // the puck moves
   UpdateBetStatusForPoint(g);
@@ -294,7 +133,7 @@ void MovePoint(Game& g) {
   g.Point = next;
 }
 
-// One throw from step 5 to step 30.
+// One throw: snapshots, dice, point, settling and the end-of-roll books.
 void Throw(Game& g) {
   TakeSnapshots(g);
   GetDice(g);
@@ -310,17 +149,7 @@ void Throw(Game& g) {
   if (g.PointBeforeRoll == 0) ++g.HandStats[14];
   // Every category of the roll is counted here once roll statistics exist.
 
-  Settler settle(g);
-  if (g.DiceTotal == g.PointBeforeRoll) {
-    LineWin(g);
-    settle(1, bet::kPassLine);
-    settle(2, bet::kPassOdds);
-    settle(-1, bet::kDontPass);
-    settle(-2, bet::kDontPassOdds);
-  }
-  SettleTotal(g, settle);
-  SettleEveryRoll(g, settle);
-  TestStopOnRoll(g, settle);
+  TestStopOnRoll(g, SettleTheThrow(g));
 
   if (g.Point != g.PointBeforeRoll) AfterPointMoved(g);
   if (g.TableDirty && !g.HyperDriveOn) {
@@ -343,7 +172,7 @@ void Throw(Game& g) {
   }
 }
 
-// Step 4: no roll is thrown at or beyond the ceiling. False stops the run.
+// No roll is thrown at or beyond the ceiling. False stops the run.
 bool BelowMaxRolls(Game& g) {
   if (g.RollCounts[0] < MaxRolls) return true;
   Stop(g);
@@ -449,43 +278,4 @@ void CheckBankLimit(Game& g) {
 void PlayComeOutSound(Game& g) {
   if (g.HandStats[0] == 0) Sound(g, kSoundNewShooter);
   Sound(g, kSoundComeOut);
-}
-
-void LineWin(Game& g) {
-  auto& h = g.HandStats;
-  ++h[1];
-  ++h[10];
-  ++h[g.PointBeforeRoll > 0 ? 8 : 9];
-  Sound(g, kSoundLineWin);
-}
-
-void LineLoss(Game& g) {
-  auto& h = g.HandStats;
-  ++h[15];
-  ++h[13];
-  if (g.PointBeforeRoll > 0) {  // a seven-out ends the hand
-    ++h[11];
-    ++h[2];
-    h[3] = std::max(h[3], h[0]);
-    h[4] = std::max(h[4], h[1]);
-    h[5] += h[0];
-    h[6] += h[1];
-    h[16] = std::max(h[16], h[15]);
-    h[17] = h[0];
-    h[0] = 0;
-    h[18] = h[1];
-    h[1] = 0;
-    h[19] = h[15];
-    h[15] = 0;
-  } else {
-    ++h[12];
-  }
-  Sound(g, kSoundLineLoss);
-}
-
-void LineBarred(Game& g) {
-  ++g.HandStats[15];
-  ++g.HandStats[13];
-  ++g.HandStats[12];
-  Sound(g, kSoundBarred);
 }

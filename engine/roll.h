@@ -14,6 +14,3 @@ void MoveBet(Game& g, int fromBet, int toBet);
 // Ends a run, or tells the player, once the bankroll is beyond the bank limit.
 void CheckBankLimit(Game& g);
 void PlayComeOutSound(Game& g);
-void LineWin(Game& g);
-void LineLoss(Game& g);
-void LineBarred(Game& g);
