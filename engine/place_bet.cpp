@@ -146,6 +146,7 @@ bool TablePlacement::ApplyMinimum() {
 }
 
 bool TablePlacement::ApplyMaximum() {
+  if (bet_ + change_ <= 0) return true;  // no maximum is below nothing
   const Currency maximum = GetBetMaximum(g_, id_);
   if (bet_ + change_ <= maximum) return true;
   const bool contract = id_ == bet::kPassLine || bet::IsComeNumber(id_);
