@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "dice/skewed_draw.h"
 #include "engine/game.h"
 
 namespace {
@@ -75,9 +76,8 @@ int32_t RanMod(Game& g, int32_t range) {
 DicePair DiceFromSingleDraw(int32_t v) { return {v - 6 * (v / 6) + 1, v / 6 + 1}; }
 
 void DrawDice(Game& g) {
-  // Percentage dice will branch here on UseSkewedProbability: one
-  // DrawPercentageX per roll, mapped to a pair by the probability table.
-  // Until that mapping exists the flag is ignored and the dice drawn plainly.
+  // Percentage dice: one draw per roll, mapped to a pair by the table.
+  if (g.UseSkewedProbability) return DrawSkewed(g, DrawPercentageX(g));
   if (g.RngChoice == 7) {
     DicePair pair = DiceFromSingleDraw(static_cast<int32_t>(genrand_real2(g.Rng.mt) * 36));
     g.Die1 = pair.die1;

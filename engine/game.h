@@ -8,6 +8,8 @@
 #include <string>
 
 #include "dice/generators.h"
+#include "dice/prob_table.h"
+#include "dice/skewed_draw.h"
 #include "engine/catalogue.h"
 #include "engine/frontend.h"
 #include "engine/money.h"
@@ -116,6 +118,15 @@ struct Game {
   bool UseSkewedProbability = false;
   int32_t DiceFileMode = 0;  // 0 none, 1 recording, 2 playing
   Generators Rng;
+
+  // --- Percentage dice --------------------------------------------------------
+  // The table the roll walks when UseSkewedProbability is set, and its editor.
+  ProbTable Prob = TrueTable();
+  int32_t ProbDisplayMode = 0;  // 0 percent, 1 +/- true %, 2 rolls out of, 3 +/- true rolls
+  int32_t ProbRollsOutOf = 36;  // the "rolls out of" count of modes 2 and 3
+  bool ProbModified = false;
+  std::string ProbFileName = "untitled";
+  uint32_t RndState = kRndStartState;  // Rnd, for the second walk of a short table
 
   // --- Simulation and sound -------------------------------------------------
   bool DisableAllSound = false;
