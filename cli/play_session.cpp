@@ -66,6 +66,7 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
       {"answer", 1, 99, "answer yes|no|cancel|WORD|VALUE ...", &PlaySession::Answer},
       {"state", 0, 0, "state", &PlaySession::State},
       {"quit", 0, 0, "quit", &PlaySession::Quit},
+      {"prob", 1, 6, "prob show|reset|open|save|set|lock|unlock|axis ...", &PlaySession::Prob},
   };
   return commands;
 }

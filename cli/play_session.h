@@ -64,6 +64,7 @@ class PlaySession {
   void Answer(const Args& a);
   void State(const Args& a);
   void Quit(const Args& a);
+  void Prob(const Args& a);  // cli/prob_commands.cpp
 
   // Runs RollDice as a run and prints the `stopped` object.
   void RunAndReport();

@@ -109,6 +109,8 @@ std::vector<Setting> BuildRegistry() {
       Integer("LastSeed", &Game::LastSeed, kInt32Min, kInt32Max),
       Money("SeedRequest", &Game::SeedRequest, std::nullopt),
       Flag("UseSkewedProbability", &Game::UseSkewedProbability),
+      Integer("ProbDisplayMode", &Game::ProbDisplayMode, 0, 3),
+      Integer("ProbRollsOutOf", &Game::ProbRollsOutOf, 1, kInt32Max),
       // Simulation and sound
       Flag("DisableAllSound", &Game::DisableAllSound),
       Integer("ThrottleValue", &Game::ThrottleValue, 0, 100),
