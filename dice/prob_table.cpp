@@ -8,8 +8,13 @@
 
 namespace {
 
-// Rounding of weights is to nearest, ties to even.
-int32_t RoundUnits(double v) { return static_cast<int32_t>(std::nearbyint(v)); }
+// Rounding of weights is to nearest, ties to even. A table read from a damaged
+// file may hold any values, so results saturate instead of wrapping.
+int32_t Saturate(double v) {
+  if (!(v == v)) return 0;
+  return static_cast<int32_t>(std::clamp(v, -2147483648.0, 2147483647.0));
+}
+int32_t RoundUnits(double v) { return Saturate(std::nearbyint(v)); }
 
 int WaysOfRow(int row) { return 6 - std::abs(6 - row); }
 
@@ -67,7 +72,7 @@ std::optional<int32_t> RebalanceGroup(ProbTable& t, const std::function<bool(int
   if (freeInGroup == 0 || freeElsewhere == 0) return std::nullopt;
   const int32_t available = AvailableAfter(lockedElsewhereSum);
   entry = std::min(entry, available);
-  entry = std::max<int64_t>(entry, groupLockedSum);
+  entry = Saturate(double(std::max<int64_t>(entry, groupLockedSum)));
   const int32_t groupShare = RoundUnits(double(entry - groupLockedSum) / freeInGroup);
   const int32_t otherShare = RoundUnits(double(std::max(0, available - entry)) / freeElsewhere);
   ForEachOutcome([&](int r, int c) {
@@ -125,21 +130,21 @@ std::optional<int32_t> SetFaceAlone(ProbTable& t, int row, int column, int32_t e
 void RecomputeTotals(ProbTable& t) {
   for (int r = 1; r <= 11; ++r) {
     if (t.at(r, 1).flags & kUserLock) continue;
-    int32_t sum = 0;
+    int64_t sum = 0;
     for (int c = 2; c <= 7 - std::abs(6 - r); ++c) sum += t.at(r, c).value;
-    t.at(r, 1).value = sum;
+    t.at(r, 1).value = Saturate(double(sum));
   }
 }
 
 void RecomputeFaces(ProbTable& t) {
-  std::array<int32_t, 7> die1{}, die2{};
+  std::array<int64_t, 7> die1{}, die2{};
   ForEachOutcome([&](int r, int c) {
     die1[Die1OfCell(r, c)] += t.at(r, c).value;
     die2[Die2OfCell(r, c)] += t.at(r, c).value;
   });
   for (int face = 1; face <= 6; ++face) {
-    if (!(t.at(kDie1FaceRow, face + 1).flags & kUserLock)) t.at(kDie1FaceRow, face + 1).value = die1[face];
-    if (!(t.at(kDie2FaceRow, face + 1).flags & kUserLock)) t.at(kDie2FaceRow, face + 1).value = die2[face];
+    if (!(t.at(kDie1FaceRow, face + 1).flags & kUserLock)) t.at(kDie1FaceRow, face + 1).value = Saturate(double(die1[face]));
+    if (!(t.at(kDie2FaceRow, face + 1).flags & kUserLock)) t.at(kDie2FaceRow, face + 1).value = Saturate(double(die2[face]));
   }
 }
 

@@ -144,6 +144,22 @@ TEST(SetCell, TotalsOutcomesAndRefusals) {
   EXPECT_EQ(t.Mode(), kFreeFormDice);
 }
 
+TEST(SetCell, ADamagedTableIsEditedWithoutOverflow) {
+  for (int32_t fill : {INT32_MAX, INT32_MIN, -5}) {
+    ProbTable t;
+    for (auto& row : t.cell)
+      for (ProbCell& c : row) c.value = fill;
+    SetCell(t, 1, 6, 50000);
+    SetCell(t, OutcomeCell(2, 3).column, OutcomeCell(2, 3).row, 1000);
+    SetCell(t, 3, kDie2FaceRow, 1000);
+    UnlockAll(t);
+    SetCell(t, 3, kDie1FaceRow, 1000);
+    uint32_t rnd = kRndStartState;
+    const DicePair p = DrawSkewed(t, 99999, rnd);
+    EXPECT_TRUE(p.die1 >= 1 && p.die1 <= 6 && p.die2 >= 1 && p.die2 <= 6);
+  }
+}
+
 TEST(SetCell, FacesAndTheAxis) {
   // A face at 0 in Percentage Dice mode: outcomes are products, and the face
   // never shows.
