@@ -67,6 +67,16 @@ TEST(ProbCommand, EditSaveOpenAndRoll) {
   s.Run("prob unlock all\nprob lock 12 2");
   EXPECT_EQ(s.Show()["locked"].dump(), "[[12,2]]");
 
+  // Yes saves the changes to the table's own file before the true table loads.
+  s.Run("answer yes\nprob reset");
+  t = s.Show();
+  EXPECT_EQ(t["totals"][5], 16667);
+  EXPECT_EQ(t["file"], "untitled");
+  s.Run("prob open \"" + file + "\"");
+  t = s.Show();
+  EXPECT_EQ(t["locked"].dump(), "[[12,2]]");
+  EXPECT_EQ(t["totals"][5], 100000);
+
   // Bad lines are errors and change nothing.
   for (const char* line : {"prob set 1 3 5", "prob set 6 1 x", "prob axis 17 50 16 50", "prob axis 16 -1 16 5",
                            "prob lock 0 0", "prob frob", "prob set 6 1 5 4"}) {
