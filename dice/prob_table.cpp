@@ -172,7 +172,10 @@ double TrueWeight(int row, int column) {
 }
 
 void ResetToTrue(ProbTable& t) {
+  const int32_t editColumn = t.at(1, 0).flags, editRow = t.at(2, 0).flags;
   t = ProbTable{};
+  t.at(1, 0).flags = editColumn;
+  t.at(2, 0).flags = editRow;
   t.Mode() = kPercentageDice;
   for (int r = 0; r < kProbRows; ++r)
     for (int c = 1; c < kProbColumns; ++c)
@@ -230,6 +233,8 @@ bool SetCell(ProbTable& t, int column, int row, int32_t value) {
   }
   if (!entry) return false;
   target.value = *entry;
+  work.at(1, 0).flags = column;  // the cell under edit, kept in the file
+  work.at(2, 0).flags = row;
   RecomputeTotals(work);
   if (work.Mode() == kFreeFormDice) RecomputeFaces(work);
   ClearInherited(work);
