@@ -8,6 +8,7 @@
 #include <string>
 
 #include "dice/generators.h"
+#include "store/dice_roll_file.h"
 #include "engine/catalogue.h"
 #include "engine/frontend.h"
 #include "engine/money.h"
@@ -124,6 +125,11 @@ struct Game {
 
   // --- Statistics -----------------------------------------------------------
   std::array<int32_t, 91> RollCounts{};  // element 0: all rolls of the game
+
+  // --- Dice Roll File ---------------------------------------------------------
+  // The open file, its positions and its handle (closed with the game).
+  // DiceFileMode above is the recorder status.
+  DiceFileState DiceFile;
 
   // --- Files ----------------------------------------------------------------
   std::string DataFolder;  // where "default.crp" and the other files live
