@@ -66,6 +66,8 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
       {"answer", 1, 99, "answer yes|no|cancel|WORD|VALUE ...", &PlaySession::Answer},
       {"state", 0, 0, "state", &PlaySession::State},
       {"quit", 0, 0, "quit", &PlaySession::Quit},
+      {"dicefile", 1, 99, "dicefile SUBCOMMAND ...", &PlaySession::DiceFile},
+      {"pad", 1, 2, "pad D1 D2|TOTAL", &PlaySession::Pad},
   };
   return commands;
 }

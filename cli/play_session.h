@@ -64,6 +64,8 @@ class PlaySession {
   void Answer(const Args& a);
   void State(const Args& a);
   void Quit(const Args& a);
+  void DiceFile(const Args& a);  // cli/dicefile_commands.cpp
+  void Pad(const Args& a);
 
   // Runs RollDice as a run and prints the `stopped` object.
   void RunAndReport();
