@@ -333,7 +333,10 @@ std::string RollTextLine(int64_t number, int die1, int die2, const RollTextOptio
     line += part;
   };
   if (options.rollNums) add(std::to_string(number));
-  if (options.dieNums) add("(" + std::to_string(die1) + "-" + std::to_string(die2) + ")");
+  if (options.dieNums) {
+    const char pair[] = {'(', static_cast<char>('0' + die1), '-', static_cast<char>('0' + die2), ')', '\0'};
+    add(pair);
+  }
   if (options.numbersCalled) add(std::to_string(die1 + die2));
   return line;
 }
