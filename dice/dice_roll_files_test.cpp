@@ -103,6 +103,7 @@ TEST(DiceRollFiles, RecordedRunPlaysBackTheSameDiceAndBankroll) {
       bankroll.push_back(rec.g.Bankroll());
     }
     EXPECT_EQ(rec.g.DiceFile.LastRollNum, kRolls);
+    EXPECT_LE(rec.g.DiceFile.File.Seeks(), 2);  // one byte written per roll, no seek
     EXPECT_EQ(TotalRolls(rec.g), kRolls);
     std::filesystem::copy_file(rec.Path("run.rol"), std::filesystem::temp_directory_path() / "dicemill_run_copy.rol",
                                std::filesystem::copy_options::overwrite_existing);
@@ -131,8 +132,10 @@ TEST(DiceRollFiles, RecordedRunPlaysBackTheSameDiceAndBankroll) {
   EXPECT_EQ(play.g.DiceFileMode, kRecorderPlayback);
 
   play.g.HyperDriveOn = play.g.KeepRolling = true;
+  const int64_t seeksBefore = play.g.DiceFile.File.Seeks();
   RollDice(play.g);
   EXPECT_EQ(play.g.RollCounts[0], 2 * kRolls);
+  EXPECT_LE(play.g.DiceFile.File.Seeks() - seeksBefore, 2);  // one byte read per roll, no seek
   EXPECT_FALSE(play.g.HyperDriveOn);
   const auto& m = play.answers.messages;
   EXPECT_EQ(m[m.size() - 2], (RecordedMessage{"Hyper-Drive Stopped", kEndOfRollFileReason}));
@@ -263,4 +266,24 @@ TEST(DiceRollFiles, TextConversionAndCopyToTextOptions) {
 
   EXPECT_EQ(ConvertTextToRolls(t.Path("missing.txt").string(), t.Path("x.rol").string()), -1);
   EXPECT_FALSE(std::filesystem::exists(t.Path("x.rol")));
+}
+
+TEST(DiceRollFiles, NewGameAsksAboutAFileInUseAndCloseForgetsIt) {
+  FileTable t;
+  t.Open("a.rol");
+  ASSERT_TRUE(HandEntry(t.g, 1, 1));
+  ASSERT_TRUE(SetRecorderStatus(t.g, kRecorderRecord));
+  t.answers.replies = {Reply::Yes};
+  NewGame(t.g, false);
+  EXPECT_EQ(t.Last(), (RecordedMessage{"Dice Roll File", "Recording stopped.\rRewind for playback?"}));
+  EXPECT_EQ(t.g.DiceFileMode, kRecorderPlayback);
+  EXPECT_EQ(t.g.DiceFile.NextRollNum, 1);
+
+  CloseRollFile(t.g);
+  EXPECT_TRUE(t.g.DiceFile.RollFileName.empty());
+  EXPECT_EQ(t.g.DiceFile.NextRollNum, 0);
+  EXPECT_EQ(t.g.DiceFileMode, kRecorderOff);
+  const size_t asked = t.answers.messages.size();
+  NewGame(t.g, false);  // nothing open: nothing asked
+  EXPECT_EQ(t.answers.messages.size(), asked);
 }

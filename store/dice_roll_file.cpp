@@ -28,6 +28,7 @@ void DiceRollFile::Close() {
 bool DiceRollFile::SeekTo(int64_t offset, bool forWrite) {
   // A stream must be repositioned between a write and a read, in either order.
   if (offset == offset_ && forWrite == writing_) return true;
+  ++seeks_;
   if (std::fseek(file_, static_cast<long>(offset), SEEK_SET) != 0) {
     offset_ = -1;
     return false;

@@ -33,6 +33,9 @@ class DiceRollFile {
   // Cuts the file to `rolls` rolls. The file is reopened to do it.
   bool Truncate(int64_t rolls);
   bool Flush();
+  // Repositionings of the stream so far: playback and recording in order
+  // need none per roll.
+  int64_t Seeks() const { return seeks_; }
 
  private:
   bool SeekTo(int64_t offset, bool forWrite);
@@ -41,6 +44,7 @@ class DiceRollFile {
   std::string path_;
   int64_t offset_ = -1;  // where the stream stands; -1 when unknown
   bool writing_ = false;  // the last operation wrote (a read then needs a seek)
+  int64_t seeks_ = 0;
 };
 
 // The state of the game's Dice Roll File; the recorder status itself is
