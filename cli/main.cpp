@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "cli/dice_tool.h"
 #include "cli/play_session.h"
 
 int main(int argc, char** argv) {
@@ -14,9 +15,13 @@ int main(int argc, char** argv) {
   play->add_option("--game", options.gameFile, "Game file to open after start-up");
   play->add_flag("--strict", options.strict, "Exit with status 2 at the first error");
 
+  DiceToolOptions diceOptions;
+  CLI::App* dice = AddDiceTool(app, diceOptions);
+
   CLI11_PARSE(app, argc, argv);
 
   std::ios::sync_with_stdio(false);
   if (play->parsed()) return RunPlay(std::cin, std::cout, options);
+  if (dice->parsed()) return RunDiceTool(*dice, diceOptions, std::cout, std::cerr);
   return 0;
 }

@@ -67,6 +67,8 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
       {"state", 0, 0, "state", &PlaySession::State},
       {"quit", 0, 0, "quit", &PlaySession::Quit},
       {"prob", 1, 6, "prob show|reset|open|save|set|lock|unlock|axis ...", &PlaySession::Prob},
+      {"dicefile", 1, 99, "dicefile SUBCOMMAND ...", &PlaySession::DiceFile},
+      {"pad", 1, 2, "pad D1 D2|TOTAL", &PlaySession::Pad},
   };
   return commands;
 }

@@ -65,6 +65,8 @@ class PlaySession {
   void State(const Args& a);
   void Quit(const Args& a);
   void Prob(const Args& a);  // cli/prob_commands.cpp
+  void DiceFile(const Args& a);  // cli/dicefile_commands.cpp
+  void Pad(const Args& a);
 
   // Runs RollDice as a run and prints the `stopped` object.
   void RunAndReport();

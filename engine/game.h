@@ -10,6 +10,7 @@
 #include "dice/generators.h"
 #include "dice/prob_table.h"
 #include "dice/skewed_draw.h"
+#include "store/dice_roll_file.h"
 #include "engine/catalogue.h"
 #include "engine/frontend.h"
 #include "engine/money.h"
@@ -135,6 +136,11 @@ struct Game {
 
   // --- Statistics -----------------------------------------------------------
   std::array<int32_t, 91> RollCounts{};  // element 0: all rolls of the game
+
+  // --- Dice Roll File ---------------------------------------------------------
+  // The open file, its positions and its handle (closed with the game).
+  // DiceFileMode above is the recorder status.
+  DiceFileState DiceFile;
 
   // --- Files ----------------------------------------------------------------
   std::string DataFolder;  // where "default.crp" and the other files live

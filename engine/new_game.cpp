@@ -3,6 +3,7 @@
 #include <chrono>
 
 #include "config/payoffs.h"
+#include "dice/dice_roll_files.h"
 #include "dice/rng.h"
 #include "engine/bet_status.h"
 #include "engine/game.h"
@@ -93,7 +94,8 @@ void NewGame(Game& g, bool keepChipStacks) {
   g.Point = g.PointBeforeRoll = g.PointTwoRollsAgo = 0;
   g.TotalOnTable = 0;
   g.TableUsed = false;
-  // An open Dice Roll File is asked about here, and the games log takes its
-  // row, once those exist.
+  // A file being played or recorded: rewind it for the new game, or not.
+  if (g.DiceFileMode != 0 && g.DiceFile.File.IsOpen()) OfferRewind(g);
+  // The games log takes its row here once it exists.
   g.Ui->RefreshTable();
 }

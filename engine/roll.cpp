@@ -5,6 +5,7 @@
 #include <chrono>
 
 #include "config/payoffs.h"
+#include "dice/dice_roll_files.h"
 #include "dice/rng.h"
 #include "engine/bet_status.h"
 #include "engine/game.h"
@@ -95,7 +96,7 @@ void AutoRollWait(Game& g) {
 }
 
 void Finish(Game& g) {
-  // Offering to rewind a Dice Roll File at its end joins here with the files.
+  if (g.StopReason == kEndOfRollFileReason && !g.Ui->IsMinimised()) OfferRewind(g);
   g.Ui->RollFinished(g.StopReason);
   if (!g.Ui->IsMinimised()) g.StopReason.clear();
   if (g.Point == 0) PlayComeOutSound(g);
@@ -113,18 +114,26 @@ void TakeSnapshots(Game& g) {
   g.PointBeforeRoll = g.Point;
 }
 
-void GetDice(Game& g) {
+// False when a Dice Roll File being played gives no roll: the run stops
+// with its reason and this throw settles nothing.
+bool GetDice(Game& g) {
   if (g.DiceAlreadySet) {
     g.DiceAlreadySet = false;
-    return;
+    return true;
   }
-  // Playback of a Dice Roll File takes the dice here, before the generators,
-  // once Dice Roll Files exist.
+  if (g.DiceFileMode == kRecorderPlayback) {
+    const FileRoll got = NextRollFromFile(g);
+    if (got == FileRoll::Rolled) return true;
+    Stop(g);
+    g.StopReason = got == FileRoll::EndOfFile ? kEndOfRollFileReason : kOutOfLimitsReason;
+    return false;
+  }
   DrawDice(g);
   if (!g.ErrorText.empty()) {
     ShowMessage(g, "Dicemill", g.ErrorText);
     g.ErrorText.clear();
   }
+  return true;
 }
 
 void MovePoint(Game& g) {
@@ -136,9 +145,9 @@ void MovePoint(Game& g) {
 // One throw: snapshots, dice, point, settling and the end-of-roll books.
 void Throw(Game& g) {
   TakeSnapshots(g);
-  GetDice(g);
+  if (!GetDice(g)) return;
   if (!g.HyperDriveOn) g.Ui->ShowThrow(g.Die1, g.Die2, NextPoint(g.Point, g.Die1 + g.Die2));
-  // A Dice Roll File being recorded takes the pair here once files exist.
+  if (g.DiceFileMode == kRecorderRecord) RecordRoll(g, g.Die1, g.Die2);
   g.DiceTotal = g.Die1 + g.Die2;
   Sound(g, g.DiceTotal);
   if (Doubles(g) && g.DiceTotal != 2 && g.DiceTotal != 12) Sound(g, kSoundDouble);

@@ -1,0 +1,89 @@
+#include <gtest/gtest.h>
+
+#include <CLI/CLI.hpp>
+
+#include <fstream>
+#include <sstream>
+
+#include "cli/dice_tool.h"
+#include "cli/json_lines.h"
+#include "cli/play_session.h"
+#include "cli/temp_folder_for_test.h"
+#include "engine/game.h"
+
+namespace {
+
+struct Session {
+  TempFolder folder;
+  std::ostringstream out;
+  PlaySession play{out, PlayOptions{folder.path().string(), "", false}};
+
+  std::string Path(const char* name) const { return (folder.path() / name).string(); }
+  std::vector<Json> Run(const std::string& lines) {
+    out.str("");
+    std::istringstream in(lines);
+    for (std::string line; std::getline(in, line);) play.RunLine(line);
+    std::vector<Json> objects;
+    std::istringstream printed(out.str());
+    for (std::string line; std::getline(printed, line);) objects.push_back(Json::parse(line));
+    return objects;
+  }
+  Json Info() { return Run("dicefile info").at(0).at("dicefile"); }
+};
+
+}  // namespace
+
+TEST(DiceFileCommands, RecordEditAndPlayBackThroughTheSession) {
+  Session s;
+  const std::string rol = s.Path("a.rol");
+  auto refused = s.Run("dicefile cut");
+  ASSERT_EQ(refused.size(), 1u);
+  EXPECT_EQ(refused[0]["error"], "dicefile: no Dice Roll File is open");
+
+  s.Run("dicefile open \"" + rol + "\"\ndicefile status record\npad 1 2\npad 11\nroll 6 6");
+  Json info = s.Info();
+  EXPECT_EQ(info["rolls"], 3);
+  EXPECT_EQ(info["status"], "record");
+  EXPECT_EQ(info["last"], 3);
+
+  // Insert a hand entry at roll 2, then cut it again.
+  s.Run("dicefile status off\ndicefile insert\ndicefile position 2\ndicefile enter 4 4\ndicefile position 2 3\ndicefile cut");
+  EXPECT_EQ(s.Info()["rolls"], 3);
+  EXPECT_TRUE(s.Info()["clipboard"].get<bool>());
+
+  // Play the file back: 1-2, an 11, 6-6, then the end of the file.
+  auto played = s.Run("dicefile position 1\ndicefile status play\nroll\nroll\nroll\nroll");
+  std::vector<int> totals;
+  for (const Json& o : played)
+    if (o.contains("rolled")) totals.push_back(o["rolled"]["total"]);
+  EXPECT_EQ(totals, (std::vector<int>{3, 11, 12}));
+  EXPECT_EQ(played.back()["message"]["text"], "Playback stopped.\rRewind for playback?");
+
+  s.Run("dicefile selectall\ndicefile export \"" + s.Path("a.txt") + "\" dice");
+  std::ifstream text(s.Path("a.txt"));
+  std::stringstream lines;
+  lines << text.rdbuf();
+  EXPECT_TRUE(lines.str() == "(1-2)\n(5-6)\n(6-6)\n" || lines.str() == "(1-2)\n(6-5)\n(6-6)\n") << lines.str();
+  EXPECT_EQ(s.Run("pad 1")[0]["error"], "pad: TOTAL 1 is out of range (2..12)");
+}
+
+TEST(DiceTool, TextToRollsAndBackWithASummary) {
+  TempFolder dir;
+  const std::string txt = (dir.path() / "in.txt").string(), rol = (dir.path() / "in.rol").string();
+  std::ofstream(txt) << "1 2 x 3 4 6 6 5";
+  CLI::App app;
+  DiceToolOptions options;
+  CLI::App* dice = AddDiceTool(app, options);
+  std::ostringstream out, err;
+  const char* toRol[] = {"dicemill-cli", "dice", "to-rol", txt.c_str(), rol.c_str()};
+  app.parse(5, toRol);
+  EXPECT_EQ(RunDiceTool(*dice, options, out, err), 0);
+  EXPECT_EQ(out.str(), "{\"rolls\":3}\n");
+
+  out.str("");
+  ASSERT_TRUE(WriteRollFileSummary(rol, out));
+  EXPECT_EQ(out.str(),
+            "{\"rolls\":3,\"totals\":{\"2\":0,\"3\":1,\"4\":0,\"5\":0,\"6\":0,\"7\":1,\"8\":0,\"9\":0,\"10\":0,\"11\":0,"
+            "\"12\":1},\"firstOutOfLimits\":0}\n");
+  EXPECT_FALSE(WriteRollFileSummary((dir.path() / "none.rol").string(), out));
+}
