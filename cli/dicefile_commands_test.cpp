@@ -8,30 +8,8 @@
 #include "cli/dice_tool.h"
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
-#include "cli/temp_folder_for_test.h"
+#include "cli/session_for_test.h"
 #include "engine/game.h"
-
-namespace {
-
-struct Session {
-  TempFolder folder;
-  std::ostringstream out;
-  PlaySession play{out, PlayOptions{folder.path().string(), "", false}};
-
-  std::string Path(const char* name) const { return (folder.path() / name).string(); }
-  std::vector<Json> Run(const std::string& lines) {
-    out.str("");
-    std::istringstream in(lines);
-    for (std::string line; std::getline(in, line);) play.RunLine(line);
-    std::vector<Json> objects;
-    std::istringstream printed(out.str());
-    for (std::string line; std::getline(printed, line);) objects.push_back(Json::parse(line));
-    return objects;
-  }
-  Json Info() { return Run("dicefile info").at(0).at("dicefile"); }
-};
-
-}  // namespace
 
 TEST(DiceFileCommands, RecordEditAndPlayBackThroughTheSession) {
   Session s;
@@ -41,15 +19,15 @@ TEST(DiceFileCommands, RecordEditAndPlayBackThroughTheSession) {
   EXPECT_EQ(refused[0]["error"], "dicefile: no Dice Roll File is open");
 
   s.Run("dicefile open \"" + rol + "\"\ndicefile status record\npad 1 2\npad 11\nroll 6 6");
-  Json info = s.Info();
+  Json info = s.Only("dicefile info", "dicefile");
   EXPECT_EQ(info["rolls"], 3);
   EXPECT_EQ(info["status"], "record");
   EXPECT_EQ(info["last"], 3);
 
   // Insert a hand entry at roll 2, then cut it again.
   s.Run("dicefile status off\ndicefile insert\ndicefile position 2\ndicefile enter 4 4\ndicefile position 2 3\ndicefile cut");
-  EXPECT_EQ(s.Info()["rolls"], 3);
-  EXPECT_TRUE(s.Info()["clipboard"].get<bool>());
+  EXPECT_EQ(s.Only("dicefile info", "dicefile")["rolls"], 3);
+  EXPECT_TRUE(s.Only("dicefile info", "dicefile")["clipboard"].get<bool>());
 
   // Play the file back: 1-2, an 11, 6-6, then the end of the file.
   auto played = s.Run("dicefile position 1\ndicefile status play\nroll\nroll\nroll\nroll");

@@ -6,36 +6,8 @@
 #include <sstream>
 
 #include "cli/json_lines.h"
-#include "cli/temp_folder_for_test.h"
+#include "cli/session_for_test.h"
 #include "engine/game.h"
-
-namespace {
-
-struct Session {
-  TempFolder folder;
-  std::ostringstream out;
-  PlaySession play;
-  explicit Session(bool strict = false, std::string gameFile = "")
-      : play(out, PlayOptions{folder.path().string(), std::move(gameFile), strict}) {}
-
-  // Runs the lines and returns the objects they printed.
-  std::vector<Json> Run(const std::string& lines) {
-    out.str("");
-    std::istringstream in(lines);
-    for (std::string line; std::getline(in, line);) play.RunLine(line);
-    std::vector<Json> objects;
-    std::istringstream printed(out.str());
-    for (std::string line; std::getline(printed, line);) objects.push_back(Json::parse(line));
-    return objects;
-  }
-  Json State() { return Run("state").at(0).at("state"); }
-  std::string Error(const std::string& line) {
-    auto objects = Run(line);
-    return objects.size() == 1 && objects[0].contains("error") ? objects[0]["error"].get<std::string>() : "(none)";
-  }
-};
-
-}  // namespace
 
 TEST(PlaySession, StateCarriesEveryPromisedFieldInOrder) {
   Session s;

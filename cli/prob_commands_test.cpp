@@ -5,41 +5,20 @@
 
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
-#include "cli/temp_folder_for_test.h"
+#include "cli/session_for_test.h"
 #include "engine/game.h"
 
-namespace {
-
-struct ProbSession {
-  TempFolder folder;
-  std::ostringstream out;
-  PlaySession play{out, PlayOptions{folder.path().string(), "", false}};
-
-  std::vector<Json> Run(const std::string& lines) {
-    out.str("");
-    std::istringstream in(lines);
-    for (std::string line; std::getline(in, line);) play.RunLine(line);
-    std::vector<Json> objects;
-    std::istringstream printed(out.str());
-    for (std::string line; std::getline(printed, line);) objects.push_back(Json::parse(line));
-    return objects;
-  }
-  Json Show() { return Run("prob show").at(0).at("prob"); }
-};
-
-}  // namespace
-
 TEST(ProbCommand, EditSaveOpenAndRoll) {
-  ProbSession s;
+  Session s;
   const std::string file = (s.folder.path() / "seven.prb").string();
-  Json t = s.Show();
+  Json t = s.Only("prob show", "prob");
   EXPECT_EQ(t["file"], "untitled");
   EXPECT_EQ(t["mode"], "Percentage Dice");
   EXPECT_EQ(t["totals"][5], 16667);
 
   // A total in "rolls out of" mode: 36 of 36 is all the weight.
   EXPECT_TRUE(s.Run("set ProbDisplayMode 2\nprob set 6 1 36").empty());
-  t = s.Show();
+  t = s.Only("prob show", "prob");
   EXPECT_EQ(t["totals"][5], 100000);
   EXPECT_EQ(t["mode"], "Free Form Dice");
   EXPECT_EQ(t["locked"].dump(), "[[6,1]]");
@@ -51,29 +30,29 @@ TEST(ProbCommand, EditSaveOpenAndRoll) {
 
   s.Run("prob save \"" + file + "\"");
   EXPECT_EQ(std::filesystem::file_size(file), 1280u);
-  EXPECT_EQ(s.Show()["modified"], false);
+  EXPECT_EQ(s.Only("prob show", "prob")["modified"], false);
 
   // Unsaved changes are asked about before an open; Cancel keeps them.
   s.Run("prob axis 16 100 34 100");
   auto asked = s.Run("prob open \"" + file + "\"");
   ASSERT_EQ(asked.size(), 1u);
   EXPECT_EQ(asked[0]["message"]["title"], "Save Probabilities?");
-  EXPECT_EQ(s.Show()["die1"][0], 0);
+  EXPECT_EQ(s.Only("prob show", "prob")["die1"][0], 0);
   s.Run("answer no\nprob open \"" + file + "\"");
-  t = s.Show();
+  t = s.Only("prob show", "prob");
   EXPECT_EQ(t["totals"][5], 100000);
   EXPECT_EQ(t["file"], file);
 
   s.Run("prob unlock all\nprob lock 12 2");
-  EXPECT_EQ(s.Show()["locked"].dump(), "[[12,2]]");
+  EXPECT_EQ(s.Only("prob show", "prob")["locked"].dump(), "[[12,2]]");
 
   // Yes saves the changes to the table's own file before the true table loads.
   s.Run("answer yes\nprob reset");
-  t = s.Show();
+  t = s.Only("prob show", "prob");
   EXPECT_EQ(t["totals"][5], 16667);
   EXPECT_EQ(t["file"], "untitled");
   s.Run("prob open \"" + file + "\"");
-  t = s.Show();
+  t = s.Only("prob show", "prob");
   EXPECT_EQ(t["locked"].dump(), "[[12,2]]");
   EXPECT_EQ(t["totals"][5], 100000);
 
@@ -84,5 +63,5 @@ TEST(ProbCommand, EditSaveOpenAndRoll) {
     ASSERT_EQ(printed.size(), 1u) << line;
     EXPECT_TRUE(printed[0].contains("error")) << line;
   }
-  EXPECT_EQ(s.Show()["totals"][5], 100000);
+  EXPECT_EQ(s.Only("prob show", "prob")["totals"][5], 100000);
 }
