@@ -86,6 +86,7 @@ TEST(DiceRollFiles, RecordedRunPlaysBackTheSameDiceAndBankroll) {
   constexpr int kRolls = 10000;
   std::vector<std::array<int, 2>> dice;
   std::vector<Currency> bankroll;
+  std::array<int32_t, 20> handStats{};
   auto betAndRoll = [](FileTable& t) {
     if (t.g.BetAmount[bet::kPassLine] == 0) t.Place(bet::kPassLine, 5);
     if (t.g.BetAmount[bet::kField] == 0) t.Place(bet::kField, 1);
@@ -102,6 +103,7 @@ TEST(DiceRollFiles, RecordedRunPlaysBackTheSameDiceAndBankroll) {
       dice.push_back({rec.g.Die1, rec.g.Die2});
       bankroll.push_back(rec.g.Bankroll());
     }
+    handStats = rec.g.HandStats;
     EXPECT_EQ(rec.g.DiceFile.LastRollNum, kRolls);
     EXPECT_LE(rec.g.DiceFile.File.Seeks(), 2);  // one byte written per roll, no seek
     EXPECT_EQ(TotalRolls(rec.g), kRolls);
@@ -120,6 +122,7 @@ TEST(DiceRollFiles, RecordedRunPlaysBackTheSameDiceAndBankroll) {
     ASSERT_EQ(play.g.Bankroll(), bankroll[i]) << "roll " << i + 1;
   }
   EXPECT_EQ(play.g.RollCounts[0], kRolls);
+  EXPECT_EQ(play.g.HandStats, handStats);  // hands, points, line wins and losses alike
 
   // The end of the file: no roll, the reason, and the rewind question; a Yes
   // rewinds for playback, and Hyper-Drive then plays the whole file again.
