@@ -1,6 +1,9 @@
 #include "autoplay/bet_handling.h"
 
+#include <string>
+
 #include "engine/game.h"
+#include "engine/notices.h"
 #include "engine/place_bet.h"
 #include "engine/settle.h"
 #include "engine/settle_notice.h"
@@ -12,15 +15,6 @@ enum class WonChoice { TakeBetAndWinnings, SameBetTakeWinnings, PressOneUnit, Pr
                        SameBetModified, BetModified };
 enum class LostChoice { NoBetTakeRemainder, BetRemainder, SameBet, SameBetPlusUnit, DoubleBet,
                         SameBetModified, BetModified };
-
-// Pressing, doubling, parlays and modified amounts come with the rest of
-// Auto-Play; until then a won bet stays as it was and a lost one comes off.
-WonChoice Available(WonChoice c) {
-  return c == WonChoice::TakeBetAndWinnings ? c : WonChoice::SameBetTakeWinnings;
-}
-LostChoice Available(LostChoice c) {
-  return c == LostChoice::BetRemainder || c == LostChoice::SameBet ? c : LostChoice::NoBetTakeRemainder;
-}
 
 WonChoice ChooseWon(Game& g, const SettleNotice* notice) {
   if (notice) {
@@ -88,33 +82,110 @@ void TakeDown(Game& g, int betId) { ChangeBetTo(g, betId, 0); }
 // is figured anew; any other bet moves only by the difference, which keeps a
 // contract bet clear of the rules of taking down.
 void PlaceAgain(Game& g, int betId, Currency amount) {
+  if (amount < 0) amount = 0;
   if (bet::IsBuy(betId) || bet::IsLay(betId)) TakeDown(g, betId);
   ChangeBetTo(g, betId, amount);
+}
+
+// The amount of a "Same Bet:" or "Bet:" form from `base`, the bet it starts
+// from: "$", "%" of the base, or checks of a colour times the bet's Per.
+Currency ModifyUnit(const Game& g, int entry, int betId, Currency base) {
+  const int32_t units = g.ModifyUnits[entry];
+  if (units == 0) return MulRatio(base, 0.01);
+  if (units < 0) return 1;
+  const int slot = 93 + units;
+  if (slot < bet::kFirstChip || slot > bet::kLastChip) return 1;
+  return MulRatio(g.BetAmount[slot], g.Payoff[betId].Per.ToDouble());
+}
+
+Currency SameBetModified(const Game& g, int entry, int betId, Currency base) {
+  const Currency amount = g.ModifyAmount[entry];
+  const Currency unit = ModifyUnit(g, entry, betId, base);
+  switch (g.ModifyOperator[entry]) {
+    case 1: return base - MulRatio(unit, amount.ToDouble());
+    case 2: return MulRatio(base, amount.ToDouble());
+    case 3: return amount > 0 ? MulRatio(base, 1.0 / amount.ToDouble()) : base;
+    default: return base + MulRatio(unit, amount.ToDouble());
+  }
+}
+
+// "Bet:" names the new amount outright, in the form's units.
+Currency BetModified(const Game& g, int entry, int betId, Currency base) {
+  return MulRatio(ModifyUnit(g, entry, betId, base), g.ModifyAmount[entry].ToDouble());
+}
+
+// A parlay never adds more than was won: every bias leans down meanwhile.
+void Parlay(Game& g, int betId) {
+  const int32_t saved[] = {g.LayBias, g.PlaceBias, g.DoBias, g.DontBias};
+  g.LayBias = g.PlaceBias = g.DoBias = g.DontBias = 2;
+  PlaceAgain(g, betId, g.BetAmount[betId] + g.NetPayoff);
+  g.LayBias = saved[0];
+  g.PlaceBias = saved[1];
+  g.DoBias = saved[2];
+  g.DontBias = saved[3];
+}
+
+// The press and parlay results, told against the bet before the roll.
+void TellChange(Game& g, int betId, const char* action) {
+  if (!NoticeAllowed(g, kNoticeCharges)) return;
+  const Currency change = g.BetAmount[betId] - g.BetAtRollStart[betId];
+  std::string text = change > 0   ? "Bet increased by: " + Dollars(change)
+                     : change < 0 ? "Bet decreased by: " + Dollars(-change)
+                                  : "No change in bet amount.";
+  ShowMessage(g, action + g.BetName[betId], text);
+}
+
+// Returns the title of the result notice, or nullptr when none is due.
+const char* ApplyWon(Game& g, int betId, WonChoice choice, bool fromDialog) {
+  const Currency present = g.BetAmount[betId];
+  const Currency prev = g.BetAtRollStart[betId];
+  switch (choice) {
+    case WonChoice::TakeBetAndWinnings: TakeDown(g, betId); return nullptr;
+    case WonChoice::SameBetTakeWinnings: PlaceAgain(g, betId, prev); return nullptr;
+    case WonChoice::PressOneUnit: PlaceAgain(g, betId, present + g.UnitAmount); return "Press 1 Unit ";
+    case WonChoice::PressDouble: PlaceAgain(g, betId, present + present); return "Press Double ";
+    case WonChoice::Parlay: Parlay(g, betId); return "Parlay ";
+    case WonChoice::SameBetModified:
+      PlaceAgain(g, betId, SameBetModified(g, fromDialog ? kModifyDialogSame : kModifyWonSame, betId, prev));
+      return nullptr;
+    case WonChoice::BetModified:
+      PlaceAgain(g, betId, BetModified(g, fromDialog ? kModifyDialogBet : kModifyWonBet, betId, prev));
+      return nullptr;
+  }
+  return nullptr;
 }
 
 }  // namespace
 
 void WonBetHandling(Game& g, int betId, const SettleNotice* notice) {
   SettleVig(g, betId);
-  WonChoice choice = Available(ChooseWon(g, notice));
-  QuietNotices quiet(g);
-  if (g.BetComesDown || choice == WonChoice::TakeBetAndWinnings)
-    TakeDown(g, betId);
-  else
-    PlaceAgain(g, betId, g.BetAtRollStart[betId]);
+  const WonChoice choice = ChooseWon(g, notice);
+  const char* told = nullptr;
+  {
+    QuietNotices quiet(g);
+    if (g.BetComesDown)
+      TakeDown(g, betId);
+    else
+      told = ApplyWon(g, betId, choice, notice != nullptr);
+  }
+  if (told) TellChange(g, betId, told);
 }
 
 void LostBetHandling(Game& g, int betId, const SettleNotice* notice) {
   SettleVig(g, betId);
-  LostChoice choice = Available(ChooseLost(g, notice));
+  const LostChoice choice = ChooseLost(g, notice);
   QuietNotices quiet(g);
-  Currency amount = g.BetAmount[betId];
-  if (g.BetComesDown || choice == LostChoice::NoBetTakeRemainder) {
-    TakeDown(g, betId);
-  } else if (choice == LostChoice::BetRemainder) {
-    Currency remainder = amount + g.NetPayoff;
-    PlaceAgain(g, betId, remainder > 0 ? remainder : Currency{});
-  } else {
-    PlaceAgain(g, betId, amount);
+  const Currency amount = g.BetAmount[betId];
+  const Currency remainder = amount + g.NetPayoff;
+  switch (g.BetComesDown ? LostChoice::NoBetTakeRemainder : choice) {
+    case LostChoice::NoBetTakeRemainder: TakeDown(g, betId); break;
+    case LostChoice::BetRemainder: PlaceAgain(g, betId, remainder); break;
+    case LostChoice::SameBet: PlaceAgain(g, betId, amount); break;
+    case LostChoice::SameBetPlusUnit:
+      PlaceAgain(g, betId, amount + UnitFor(g, amount, g.Payoff[betId].Per));
+      break;
+    case LostChoice::DoubleBet: PlaceAgain(g, betId, amount + amount); break;
+    case LostChoice::SameBetModified: PlaceAgain(g, betId, SameBetModified(g, kModifyLostSame, betId, amount)); break;
+    case LostChoice::BetModified: PlaceAgain(g, betId, BetModified(g, kModifyLostBet, betId, amount)); break;
   }
 }

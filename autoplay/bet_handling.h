@@ -6,6 +6,12 @@
 
 struct Game;
 
+// Entries of ModifyOperator, ModifyAmount and ModifyUnits: each "Same Bet:"
+// and "Bet:" form keeps its own.
+enum ModifyEntry {
+  kModifyWonSame, kModifyWonBet, kModifyLostSame, kModifyLostBet, kModifyDialogSame, kModifyDialogBet,
+};
+
 // Called by settlement for a decided bet, with g.NetPayoff holding the result
 // and g.BetAtRollStart the bet's amount before the roll. With a notice, the
 // player chooses in it; without one, the Auto-Play option decides.

@@ -95,6 +95,7 @@ struct Game {
   bool AllowNegativeBankroll = true;
   Currency AtmAmount = 500;
   Currency AmountInvested;
+  bool ConfigScreenActive = false;  // the ATM speaks up whatever the notice mask
 
   // --- Auto-Play ------------------------------------------------------------
   bool AutoTakeFullOdds = false;
@@ -108,6 +109,12 @@ struct Game {
   int32_t WonBetAction = 0;
   int32_t HandleLosingBets = 1;
   int32_t AutoAdjustMode = 2;
+  int32_t LayBias = 0, PlaceBias = 1, DoBias = 0, DontBias = 0;
+  // The "Same Bet:" and "Bet:" amounts, each form its own entry (kModify*):
+  // operator 0 "+", 1 "-", 2 "x", 3 "/"; units -1 "$", 0 "%", 2..6 checks 95..99.
+  std::array<int32_t, 6> ModifyOperator{};
+  std::array<Currency, 6> ModifyAmount{};
+  std::array<int32_t, 6> ModifyUnits{-1, -1, -1, -1, -1, -1};
 
   // --- Dice ---------------------------------------------------------------
   int32_t RngChoice = 0;
