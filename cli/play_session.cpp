@@ -4,6 +4,7 @@
 #include <exception>
 #include <iostream>
 
+#include "autoplay/atm.h"
 #include "cli/command_error.h"
 #include "cli/command_words.h"
 #include "cli/data_folder.h"
@@ -61,7 +62,7 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
       {"payoff", 3, 4, "payoff ID WIN PER [to|for]", &PlaySession::PayoffRow},
       {"field", 3, 4, "field ROW WIN PER [to|for]", &PlaySession::FieldRow},
       {"seed", 1, 1, "seed N", &PlaySession::Seed},
-      {"atm", 0, 99, "atm withdraw|deposit AMOUNT", &PlaySession::Atm},
+      {"atm", 2, 2, "atm withdraw|deposit AMOUNT", &PlaySession::Atm},
       {"new", 0, 1, "new [keep]", &PlaySession::New},
       {"answer", 1, 99, "answer yes|no|cancel|WORD|VALUE ...", &PlaySession::Answer},
       {"state", 0, 0, "state", &PlaySession::State},
@@ -248,7 +249,20 @@ void PlaySession::Seed(const Args& a) {
 
 // --- Game --------------------------------------------------------------------
 
-void PlaySession::Atm(const Args&) { throw CommandError("the ATM is not available yet"); }
+void PlaySession::Atm(const Args& a) {
+  const std::string word = ToLower(a[0]);
+  if (word != "withdraw" && word != "deposit") throw CommandError("expected: atm withdraw|deposit AMOUNT");
+  const Currency requested = ReadAmount(a[1], "AMOUNT");
+  if (requested < 0) throw CommandError("AMOUNT " + a[1] + " must not be negative");
+  Game& g = *game_;
+  const Currency allowed = ::Atm(g, word == "withdraw" ? kAtmWithdraw : kAtmDeposit, requested);
+  WriteJsonLine(out_, {{"atm", {{"action", word},
+                                {"requested", MoneyJson(requested)},
+                                {"allowed", MoneyJson(allowed)},
+                                {"bankroll", MoneyJson(g.Bankroll())},
+                                {"amountInvested", MoneyJson(g.AmountInvested)},
+                                {"net", MoneyJson(NetResult(g))}}}});
+}
 
 void PlaySession::New(const Args& a) {
   bool keep = false;

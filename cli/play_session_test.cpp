@@ -52,7 +52,8 @@ TEST(PlaySession, MalformedLinesPrintOneErrorAndChangeNothing) {
       {"frobnicate 1", "unknown command 'frobnicate'"},
       {"bet 84 5", "bet: BetId 84 is out of range (1..83 table bets, 101..199 Chip-Stacks)"},
       {"bet 49", "bet: expected: bet ID AMOUNT"},
-      {"atm withdraw 100", "atm: the ATM is not available yet"},
+      {"atm borrow 100", "atm: expected: atm withdraw|deposit AMOUNT"},
+      {"atm deposit -5", "atm: AMOUNT -5 must not be negative"},
       {"hyper", "hyper: no roll count is set (RollCountLeft is 0), so the run would not end: give N"}};
   for (const auto& [line, text] : texts) EXPECT_EQ(s.Error(line), text);
 }
@@ -112,6 +113,15 @@ TEST(PlaySession, TableAndConfigurationCommandsReachTheGame) {
   const auto rolled = s.Run("roll 2 5");
   EXPECT_EQ(rolled.at(0).dump(), R"({"rolled":{"die1":2,"die2":5,"total":7,"point":0}})");
   EXPECT_FALSE(g.KeepRolling);
+
+  s.Run("set ModifyOperator.4 2\nset ModifyAmount.4 2.5\nset ModifyUnits.4 0");
+  EXPECT_EQ(g.ModifyOperator[4], 2);
+  EXPECT_EQ(g.ModifyAmount[4].raw, 25000);
+  EXPECT_EQ(g.ModifyUnits[4], 0);
+  EXPECT_EQ(s.Error("set ModifyUnits.1 1"), "set: ModifyUnits 1 is no unit: -1 $, 0 %, 2..6 a check");
+  s.Run("set AllowNegativeBankroll false\nset NoticeMask 0");
+  EXPECT_EQ(s.Run("atm withdraw 100\natm deposit 700").back().dump(),
+            R"({"atm":{"action":"deposit","requested":700,"allowed":600,"bankroll":0,"amountInvested":0,"net":0}})");
 }
 
 TEST(PlaySession, RunsReportHowTheyStoppedAndPutSettingsBack) {

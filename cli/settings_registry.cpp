@@ -135,6 +135,29 @@ std::vector<Setting> BuildRegistry() {
                  [](Game& g, int i, const std::string& text) { g.StopOnRoll[i] = ReadBool(text, "StopOnRoll"); },
                  [](const Game& g, int i) { return Json(g.StopOnRoll[i]); }});
 
+  // The "Same Bet:" and "Bet:" forms: won option, lost option, dialog, each a
+  // "Same Bet:" and a "Bet:" entry (0..5).
+  const int lastForm = static_cast<int>(std::tuple_size_v<decltype(Game::ModifyOperator)>) - 1;
+  all.push_back({"ModifyOperator", 0, lastForm,
+                 [](Game& g, int i, const std::string& text) {
+                   g.ModifyOperator[i] = static_cast<int32_t>(ReadInteger(text, 0, 3, "ModifyOperator"));
+                 },
+                 [](const Game& g, int i) { return Json(g.ModifyOperator[i]); }});
+  all.push_back({"ModifyAmount", 0, lastForm,
+                 [](Game& g, int i, const std::string& text) {
+                   const Currency amount = ReadAmount(text, "ModifyAmount");
+                   if (amount < 0) throw CommandError("ModifyAmount " + text + " must not be negative");
+                   g.ModifyAmount[i] = amount;
+                 },
+                 [](const Game& g, int i) { return MoneyJson(g.ModifyAmount[i]); }});
+  all.push_back({"ModifyUnits", 0, lastForm,
+                 [](Game& g, int i, const std::string& text) {
+                   const auto units = static_cast<int32_t>(ReadInteger(text, -1, 6, "ModifyUnits"));
+                   if (units == 1) throw CommandError("ModifyUnits 1 is no unit: -1 $, 0 %, 2..6 a check");
+                   g.ModifyUnits[i] = units;
+                 },
+                 [](const Game& g, int i) { return Json(g.ModifyUnits[i]); }});
+
   // A change of come-out working status shows at once on a bet that is not called.
   all.push_back({"WorkOnComeOut", bet::kFirstTableBet, bet::kLastTableBet,
                  [](Game& g, int id, const std::string& text) {
