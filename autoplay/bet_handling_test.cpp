@@ -39,12 +39,66 @@ Currency AfterFieldLoss(int handleLosingBets, int per, std::optional<int> button
 }  // namespace
 
 TEST(WonBetHandling, ByOptionAndByButton) {
-  // Take Bet and Winnings takes it down; the others keep the bet for now.
-  for (int option = 1; option <= 7; ++option)
-    EXPECT_EQ(AfterPlace6Win(option), Currency(option == 1 ? 0 : 12)) << option;
-  for (int button = 0; button <= 6; ++button)
-    EXPECT_EQ(AfterPlace6Win(0, button), Currency(button == 0 ? 0 : 12)) << button;
+  // $12 won $14, unit $6: take, same, press a unit, double, parlay, same +0, bet 0.
+  const int left[] = {0, 12, 18, 24, 26, 12, 0};
+  for (int option = 1; option <= 7; ++option) EXPECT_EQ(AfterPlace6Win(option), Currency(left[option - 1])) << option;
+  for (int button = 0; button <= 6; ++button) EXPECT_EQ(AfterPlace6Win(0, button), Currency(left[button])) << button;
   EXPECT_EQ(AfterPlace6Win(0, std::nullopt), Currency(12));
+}
+
+TEST(WonBetHandling, ModifiedFormsAndResultNotices) {
+  // Entries: operator, amount, units (-1 $, 0 %, 2..6 checks); $12 before the roll.
+  const struct { int option, entry, op; Currency amount; int units, left; } cases[] = {
+      {6, kModifyWonSame, 0, 3, -1, 15},  {6, kModifyWonSame, 1, 5, -1, 7},  {6, kModifyWonSame, 2, 2, -1, 24},
+      {6, kModifyWonSame, 2, 0, -1, 0},   {6, kModifyWonSame, 3, 2, -1, 6},  {6, kModifyWonSame, 3, 0, -1, 12},
+      {6, kModifyWonSame, 0, 50, 0, 18},  {6, kModifyWonSame, 0, 1, 3, 42},  {7, kModifyWonBet, 0, 30, -1, 30},
+      {7, kModifyWonBet, 0, 2, 3, 60},    {7, kModifyWonBet, 0, 200, 0, 24}, {6, kModifyWonBet, 0, 9, -1, 12},
+      {0, kModifyDialogSame, 0, 6, -1, 18}, {0, kModifyWonSame, 0, 6, -1, 12}};
+  for (const auto& c : cases) {
+    Table t;
+    t.g.WonBetAction = c.option;
+    t.ui.settleReplies.push_back(5);
+    t.g.ModifyOperator[c.entry] = c.op;
+    t.g.ModifyAmount[c.entry] = c.amount;
+    t.g.ModifyUnits[c.entry] = c.units;
+    t.Stand(kPlace6, 12);
+    t.Dice(2, 4, 5);
+    t.Settle(1, kPlace6);
+    EXPECT_EQ(t.g.BetAmount[kPlace6], Currency(c.left)) << c.option << " entry " << c.entry << " op " << c.op;
+    EXPECT_EQ(t.g.TotalOnTable, Currency(c.left));
+  }
+
+  // Press, double and parlay tell the result against the bet before the roll.
+  const struct { int option; int32_t mask; bool hyper; std::vector<RecordedMessage> said; } told[] = {
+      {3, 15, false, {{"Press 1 Unit Place 6", "Bet increased by: $6"}}},
+      {4, 15, false, {{"Press Double Place 6", "Bet increased by: $12"}}},
+      {5, 15, false, {{"Parlay Place 6", "Bet increased by: $14"}}},
+      {5, 11, false, {}},
+      {5, 15, true, {}},
+      {2, 15, false, {}}};
+  for (const auto& c : told) {
+    Table t;
+    t.g.WonBetAction = c.option;
+    t.g.NoticeMask = c.mask;
+    t.g.HyperDriveOn = c.hyper;
+    t.g.PlaceBias = 1;
+    t.Stand(kPlace6, 12);
+    t.Dice(2, 4, 5);
+    t.Settle(1, kPlace6);
+    EXPECT_EQ(t.ui.messages, c.said) << c.option;
+    EXPECT_EQ(t.g.BetAmount[kPlace6], Currency(c.option == 2 ? 12 : c.option == 3 ? 18 : c.option == 4 ? 24 : 26));
+    EXPECT_EQ(t.g.PlaceBias, 1);  // a parlay's lean is put back
+    EXPECT_EQ(t.g.NoticeMask, c.mask);
+  }
+
+  // A bet that was raised after the dice went out: the press is told against the old amount.
+  Table u;
+  u.g.WonBetAction = 3;
+  u.Stand(kPlace6, 6);
+  u.g.BetAmount[kPlace6] = u.g.TotalOnTable = 12;
+  u.Dice(2, 4, 5);
+  u.Settle(1, kPlace6);
+  EXPECT_EQ(u.ui.messages, (std::vector<RecordedMessage>{{"Press 1 Unit Place 6", "Bet increased by: $12"}}));
 }
 
 TEST(WonBetHandling, SameBetIsTheAmountBeforeTheRollAndBuysPayTheirVigAnew) {
@@ -74,9 +128,9 @@ TEST(WonBetHandling, SameBetIsTheAmountBeforeTheRollAndBuysPayTheirVigAnew) {
 TEST(LostBetHandling, ByOptionAndByButton) {
   // A Field row of -1 to 2 loses half, leaving $5.
   const struct { int option, per; std::optional<int> button; int left; } cases[] = {
-      {1, 1, {}, 0},  {2, 1, {}, 0},  {2, 2, {}, 5},  {1, 2, {}, 0},  {3, 1, {}, 10}, {4, 1, {}, 0},
-      {5, 1, {}, 0},  {6, 1, {}, 0},  {7, 1, {}, 0},  {0, 2, {}, 0},  {0, 2, 0, 0},   {0, 2, 1, 5},
-      {0, 2, 2, 10},  {0, 2, 3, 0},   {0, 2, 4, 0}};
+      {1, 1, {}, 0},  {2, 1, {}, 0},  {2, 2, {}, 5},  {1, 2, {}, 0},  {3, 1, {}, 10}, {4, 1, {}, 15},
+      {5, 1, {}, 20}, {6, 1, {}, 10}, {7, 1, {}, 0},  {0, 2, {}, 0},  {0, 2, 0, 0},   {0, 2, 1, 5},
+      {0, 2, 2, 10},  {0, 2, 3, 15},  {0, 2, 4, 20}};
   for (const auto& c : cases)
     EXPECT_EQ(AfterFieldLoss(c.option, c.per, c.button), Currency(c.left))
         << c.option << " per " << c.per << " button " << c.button.value_or(-1);
