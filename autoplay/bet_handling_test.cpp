@@ -180,3 +180,50 @@ TEST(LostBetHandling, TheNotice) {
     EXPECT_EQ(w.g.BetAmount[kPlace6], Currency(0));
   }
 }
+
+TEST(BetHandling, EveryOptionOverAHandOfRolls) {
+  // Won option i and lost option i together; 0 is the dialogs left to their defaults.
+  const int place6[] = {12, 0, 12, 18, 24, 26, 12, 0};  // after the hard 6 that paid it $14
+  const int hard6[] = {5, 0, 5, 10, 10, 50, 5, 0};      // $5 paid 9 to 1
+  const int lay4[] = {0, 0, 0, 40, 50, 80, 40, 0};      // $40 lost to the 4
+  const int field[] = {0, 0, 0, 10, 15, 20, 10, 0};     // $10 lost to the 6
+  const int buy10[] = {20, 0, 20, 25, 40, 60, 20, 0};   // $20 won $40
+  const int buyVig[] = {1, 0, 1, 1, 2, 3, 1, 0};      // 5% of the kept Buy
+  const int line[] = {10, 0, 10, 15, 20, 20, 10, 0};    // $10 won $10
+  for (int option = 0; option <= 7; ++option) {
+    Table t;
+    t.g.WonBetAction = option;
+    t.g.HandleLosingBets = option;
+    auto onTable = [&] {
+      Currency sum;
+      for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) sum += t.g.BetAmount[id];
+      for (Currency vig : t.g.LayVigOnBet) sum += vig;
+      for (Currency vig : t.g.BuyVigOnBet) sum += vig;
+      return sum;
+    };
+    t.Place(bet::kPassLine, 10);
+    t.Roll(1, 3);  // point 4
+    t.Place(bet::kPassOdds, 10);
+    t.Place(bet::kField, 10);
+    t.Place(bet::kHard6, 5);
+    t.Place(kPlace6, 12);
+    t.Place(bet::Buy(10), 20);
+    t.Place(bet::Lay(4), 40);
+    t.Place(bet::kCome, 10);
+    t.Roll(3, 3);
+    EXPECT_EQ(t.g.BetAmount[kPlace6], Currency(place6[option])) << option;
+    EXPECT_EQ(t.g.BetAmount[bet::kHard6], Currency(hard6[option])) << option;
+    EXPECT_EQ(t.g.BetAmount[bet::kField], Currency(field[option])) << option;
+    EXPECT_EQ(t.g.BetAmount[bet::Come(6)], Currency(10)) << option;
+    EXPECT_EQ(t.g.TotalOnTable, onTable()) << option;
+    t.Roll(4, 6);  // the Buy wins $40 less its vig, which is charged anew on a kept bet
+    EXPECT_EQ(t.g.BetAmount[bet::Buy(10)], Currency(buy10[option])) << option;
+    EXPECT_EQ(t.g.BuyVigOnBet[5], Currency(buyVig[option])) << option;
+    EXPECT_EQ(t.g.TotalOnTable, onTable()) << option;
+    t.Roll(2, 2);  // the point made: the line and its odds win, the Lay loses
+    EXPECT_EQ(t.g.BetAmount[bet::Lay(4)], Currency(lay4[option])) << option;
+    EXPECT_EQ(t.g.TotalOnTable, onTable()) << option;
+    EXPECT_EQ(t.g.BetAmount[bet::kPassOdds], Currency(0)) << option;  // odds never stand on the come-out
+    EXPECT_EQ(t.g.BetAmount[bet::kPassLine], Currency(line[option])) << option;
+  }
+}
