@@ -91,6 +91,16 @@ TEST(WonBetHandling, ModifiedFormsAndResultNotices) {
     EXPECT_EQ(t.g.NoticeMask, c.mask);
   }
 
+  // The table's limits hold: a double past the maximum is cut, and the cut is told.
+  Table m;
+  m.g.WonBetAction = 4;
+  m.g.TableMaximum = 20;
+  m.Stand(kPlace6, 12);
+  m.Dice(2, 4, 5);
+  m.Settle(1, kPlace6);
+  EXPECT_EQ(m.g.BetAmount[kPlace6], Currency(20));
+  EXPECT_EQ(m.ui.messages, (std::vector<RecordedMessage>{{"Press Double Place 6", "Bet increased by: $8"}}));
+
   // A bet that was raised after the dice went out: the press is told against the old amount.
   Table u;
   u.g.WonBetAction = 3;
