@@ -5,5 +5,9 @@
 
 struct Game;
 
-// Takes the requested change and returns the adjusted one.
+// Takes the requested change and returns the adjusted one. With no candidate
+// placeable it returns 0 and leaves the refusal in g.MsgText and g.MsgTitle.
 Currency AdjustBet(Game& g, int betId, Currency requestedChange);
+
+// Sets AutoAdjustMode (0..2); a mode above 0 adjusts the bets on the table.
+void SetAutoAdjustMode(Game& g, int mode);
