@@ -95,9 +95,11 @@ Currency AdjustBet(Game& g, int betId, Currency request) {
   if (per <= 0 || g.SmallestChip() <= 0) return request;
 
   const Currency maximum = GetBetMaximum(g, betId);
-  int mode = g.AutoAdjustMode;
+  // A full-odds request is the maximum the odds rule figured; it stands as
+  // asked, whatever that rule made of the payoff.
   const bool fullOddsRow = bet::IsOdds(betId) || bet::IsComeNumber(betId);
-  if (fullOddsRow && amount + request == maximum) mode = 1;
+  if (fullOddsRow && amount + request == maximum) return request;
+  const int mode = g.AutoAdjustMode;
 
   Currency unit = Times(g.SmallestChip(), per);
   Candidates c = Figure(amount, request, unit);
