@@ -87,7 +87,7 @@ void Refuse(Game& g, const std::string& what, const std::string& title, Currency
 
 }  // namespace
 
-Currency AdjustBet(Game& g, int betId, Currency request) {
+Currency AdjustBet(Game& g, int betId, Currency request, bool neverUp) {
   if (g.AutoAdjustMode <= 0 || !bet::IsTableBet(betId)) return request;
   const Currency amount = g.BetAmount[betId];
   if (amount + request < 0) return request;
@@ -113,7 +113,7 @@ Currency AdjustBet(Game& g, int betId, Currency request) {
     }
   }
 
-  Currency chosen = Pick(BiasOf(g, betId), request, c);
+  Currency chosen = Pick(neverUp ? 2 : BiasOf(g, betId), request, c);
   const Currency minimum = MinimumOf(g, betId);
   auto placeable = [&](Currency change) {
     const Currency after = amount + change;
@@ -121,6 +121,7 @@ Currency AdjustBet(Game& g, int betId, Currency request) {
   };
   if (IsFlatWithLimit(betId) && !placeable(c.up)) chosen = c.down;
   if (placeable(chosen)) return chosen;
+  if (neverUp) return 0;
   const Currency other = chosen == c.up ? c.down : c.up;
   if (placeable(other)) return other;
 

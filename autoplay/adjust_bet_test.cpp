@@ -93,3 +93,12 @@ TEST(AdjustBet, TurningAModeOnAdjustsTheTable) {
 }
 
 }  // namespace
+
+TEST(AdjustBet, AfterABankrollCutGoesDown) {
+  Table t;
+  t.g.AutoAdjustMode = 1;
+  t.g.AllowNegativeBankroll = false;
+  t.g.Bankroll() = 10;
+  t.Place(bet::Place(6), 12);  // cut to 10; up to 12 would not fit
+  EXPECT_EQ(t.g.BetAmount[bet::Place(6)], 6);
+}
