@@ -102,3 +102,20 @@ TEST(AdjustBet, AfterABankrollCutGoesDown) {
   t.Place(bet::Place(6), 12);  // cut to 10; up to 12 would not fit
   EXPECT_EQ(t.g.BetAmount[bet::Place(6)], 6);
 }
+
+TEST(AdjustBet, OddsFollowTheirOwnBias) {
+  struct Case { int bias; Currency pass, dont; } cases[] = {{0, 10, 9}, {1, 12, 12}, {2, 10, 9}};
+  for (const auto& c : cases) {
+    Table t;
+    t.g.AutoAdjustMode = 1;
+    t.g.Bankroll() = 1000;
+    t.g.DoBias = t.g.DontBias = c.bias;
+    t.SetPoint(5);  // odds pay 3 to 2, lays 2 to 3
+    t.Stand(bet::kPassLine, 10);
+    t.Stand(bet::kDontPass, 10);
+    t.Place(bet::kPassOdds, 11);
+    t.Place(bet::kDontPassOdds, 10);
+    EXPECT_EQ(t.g.BetAmount[bet::kPassOdds], c.pass) << c.bias;
+    EXPECT_EQ(t.g.BetAmount[bet::kDontPassOdds], c.dont) << c.bias;
+  }
+}
