@@ -11,8 +11,9 @@ void ExpectFull(const Game& g, const std::string& where) {
   for (int id = 1; id <= bet::kLastTableBet; ++id) {
     if (!bet::IsOdds(id)) continue;
     EXPECT_LE(g.BetAmount[id], g.MaxOddsBet) << where << " bet " << id;
-    if (g.BetAmount[bet::ParentOf(id)] > 0 && (bet::IsComeOdds(id) || bet::IsDontComeOdds(id) || g.Point > 0))
+    if (g.BetAmount[bet::ParentOf(id)] > 0 && (bet::IsComeOdds(id) || bet::IsDontComeOdds(id) || g.Point > 0)) {
       EXPECT_EQ(g.BetAmount[id], GetBetMaximum(g, id)) << where << " bet " << id;
+    }
   }
 }
 
