@@ -9,6 +9,8 @@
 #include "cli/command_error.h"
 #include "cli/command_words.h"
 #include "cli/json_lines.h"
+#include "autoplay/adjust_bet.h"
+#include "autoplay/auto_odds.h"
 #include "config/rules.h"
 #include "engine/bet_status.h"
 #include "engine/game.h"
@@ -91,16 +93,18 @@ std::vector<Setting> BuildRegistry() {
       Money("AmountInvested", &Game::AmountInvested, std::nullopt),
       Integer("NoticeMask", &Game::NoticeMask, 0, 31),
       // Auto-Play
-      Flag("AutoTakeFullOdds", &Game::AutoTakeFullOdds),
-      Flag("AutoLayFullOdds", &Game::AutoLayFullOdds),
       Flag("AutoRemovePlaceBets", &Game::AutoRemovePlaceBets),
+      Flag("AutoArrangeChips", &Game::AutoArrangeChips),
       Flag("AutoRollOn", &Game::AutoRollOn),
       Integer("RollCountStop", &Game::RollCountStop, 0, MaxRolls),
       Integer("RollCountLeft", &Game::RollCountLeft, 0, MaxRolls),
       Integer("AutoRollDelay", &Game::AutoRollDelay, 0, kInt32Max),
       Integer("WonBetAction", &Game::WonBetAction, 0, 7),
       Integer("HandleLosingBets", &Game::HandleLosingBets, 0, 7),
-      Integer("AutoAdjustMode", &Game::AutoAdjustMode, 0, 2),
+      Integer("LayBias", &Game::LayBias, 0, 2),
+      Integer("PlaceBias", &Game::PlaceBias, 0, 2),
+      Integer("DoBias", &Game::DoBias, 0, 2),
+      Integer("DontBias", &Game::DontBias, 0, 2),
       // Dice
       Integer("RngChoice", &Game::RngChoice, 0, 7),
       Flag("UserSeedMode", &Game::UserSeedMode),
@@ -116,6 +120,23 @@ std::vector<Setting> BuildRegistry() {
       Integer("ThrottleValue", &Game::ThrottleValue, 0, 100),
       Integer("SpeedUnit", &Game::SpeedUnit, 0, kInt32Max),
   };
+
+  // Turning auto-odds on offers to fill the table, and a mode above 0 adjusts it.
+  Setting takeOdds = Flag("AutoTakeFullOdds", &Game::AutoTakeFullOdds);
+  takeOdds.write = [](Game& g, int, const std::string& text) {
+    SetAutoTakeFullOdds(g, ReadBool(text, "AutoTakeFullOdds"));
+  };
+  all.push_back(takeOdds);
+  Setting layOdds = Flag("AutoLayFullOdds", &Game::AutoLayFullOdds);
+  layOdds.write = [](Game& g, int, const std::string& text) {
+    SetAutoLayFullOdds(g, ReadBool(text, "AutoLayFullOdds"));
+  };
+  all.push_back(layOdds);
+  Setting adjust = Integer("AutoAdjustMode", &Game::AutoAdjustMode, 0, 2);
+  adjust.write = [](Game& g, int, const std::string& text) {
+    SetAutoAdjustMode(g, static_cast<int>(ReadInteger(text, 0, 2, "AutoAdjustMode")));
+  };
+  all.push_back(adjust);
 
   Setting bar = Integer("BarNumber", &Game::BarNumber, 2, 12);
   bar.write = [](Game& g, int, const std::string& text) {

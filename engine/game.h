@@ -101,6 +101,7 @@ struct Game {
   bool AutoTakeFullOdds = false;
   bool AutoLayFullOdds = false;
   bool AutoRemovePlaceBets = false;
+  bool AutoArrangeChips = true;
   bool AutoRollOn = false;
   int32_t RollCountStop = 0;
   int32_t RollCountLeft = 0;
@@ -108,8 +109,12 @@ struct Game {
   std::array<bool, 17> StopOnRoll{};
   int32_t WonBetAction = 0;
   int32_t HandleLosingBets = 1;
-  int32_t AutoAdjustMode = 2;
-  int32_t LayBias = 0, PlaceBias = 1, DoBias = 0, DontBias = 0;
+  int32_t AutoAdjustMode = 2;  // 0 manual, 1 minor correction, 2 colour correction
+  // Which way an adjustment goes: 0 nearest (a tie goes down), 1 up, 2 down.
+  int32_t LayBias = 0;
+  int32_t PlaceBias = 1;
+  int32_t DoBias = 0;
+  int32_t DontBias = 0;
   // The "Same Bet:" and "Bet:" amounts, each form its own entry (kModify*):
   // operator 0 "+", 1 "-", 2 "x", 3 "/"; units -1 "$", 0 "%", 2..6 checks 95..99.
   std::array<int32_t, 6> ModifyOperator{};

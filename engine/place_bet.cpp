@@ -200,7 +200,10 @@ void TablePlacement::ApplyBankroll() {
     change_ = candidate(lo);
   }
 
+  const Currency cut = change_;
   Adjust();
+  // An adjustment upward may not fit what was just cut to fit.
+  if (change_ > cut && g_.AutoAdjustMode > 0) change_ = AdjustBet(g_, id_, cut, true);
   const Currency minimum = BetMinimum(g_, id_);
   if (change_ > 0 && bet_ + change_ < minimum) change_ = minimum - bet_;
   if (change_ > 0 && !fits(change_)) change_ = 0;  // not even the minimum fits
