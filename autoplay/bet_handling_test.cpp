@@ -237,3 +237,15 @@ TEST(BetHandling, EveryOptionOverAHandOfRolls) {
     EXPECT_EQ(t.g.BetAmount[bet::kPassLine], Currency(line[option])) << option;
   }
 }
+
+// A parlay adds no more than was won: the adjustment may only go down.
+TEST(BetHandling, ParlayOfAPlaceSixAddsSixNotSeven) {
+  Table t;
+  t.g.AutoAdjustMode = 2;
+  t.g.WonBetAction = 5;  // " Parlay"
+  t.Stand(bet::Place(6), 6);
+  t.Dice(2, 4, 5);
+  EXPECT_EQ(t.Settle(1, bet::Place(6)), Currency(7));
+  EXPECT_EQ(t.g.BetAmount[bet::Place(6)], Currency(12));
+  EXPECT_EQ(t.g.PlaceBias, 1);  // the biases come back after the parlay
+}
