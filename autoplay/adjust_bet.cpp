@@ -22,11 +22,7 @@ const PayoffRecord& PayoffOf(const Game& g, int id) {
   }
 }
 
-__extension__ typedef __int128 Wide;
-
-Currency Times(Currency a, Currency b) {
-  return Currency::FromRaw(static_cast<int64_t>(static_cast<Wide>(a.raw) * b.raw / Currency::kScale));
-}
+Currency Times(Currency a, Currency b) { return MulDiv(a, b, Currency(1)); }
 
 // new / unit to four places, so that a quotient within rounding of a whole
 // number counts as whole.
@@ -94,16 +90,16 @@ Currency AdjustBet(Game& g, int betId, Currency request, bool neverUp) {
   const Currency per = PayoffOf(g, betId).Per;
   if (per <= 0 || g.SmallestChip() <= 0) return request;
 
+  Currency unit = Times(g.SmallestChip(), per);
+  Candidates c = Figure(amount, request, unit);
+  if (c.whole) return request;  // the commonest case, and the cheapest
+
   const Currency maximum = GetBetMaximum(g, betId);
   // A full-odds request is the maximum the odds rule figured; it stands as
   // asked, whatever that rule made of the payoff.
   const bool fullOddsRow = bet::IsOdds(betId) || bet::IsComeNumber(betId);
   if (fullOddsRow && amount + request == maximum) return request;
   const int mode = g.AutoAdjustMode;
-
-  Currency unit = Times(g.SmallestChip(), per);
-  Candidates c = Figure(amount, request, unit);
-  if (c.whole) return request;
   if (mode == 2) {
     const Currency colour = ColourUnit(g, request != 0 ? Abs(request) : amount, per);
     if (colour > 0) {
