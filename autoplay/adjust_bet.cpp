@@ -36,9 +36,19 @@ struct Candidates {
 };
 
 Candidates Figure(Currency amount, Currency request, Currency unit) {
-  const Currency q = Quotient(amount + request, unit);
-  if (q.IsWhole()) return {request, request, true};
-  const int64_t whole = Floor(q);
+  // The quotient new / unit comes back as money, to four places: it counts as
+  // whole when it is within half a ten-thousandth of a whole number (a tie
+  // rounds to the even, whole, side). Worked exactly on the raw counts.
+  const Currency target = amount + request;
+  int64_t whole = target.raw / unit.raw;
+  int64_t remainder = target.raw % unit.raw;
+  if (remainder < 0) {
+    --whole;
+    remainder += unit.raw;
+  }
+  __extension__ typedef __int128 Wide;
+  const Wide twice = static_cast<Wide>(Currency::kScale) * 2;
+  if (remainder * twice <= unit.raw || (unit.raw - remainder) * twice <= unit.raw) return {request, request, true};
   return {unit * whole - amount, unit * (whole + 1) - amount, false};
 }
 
