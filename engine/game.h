@@ -14,6 +14,7 @@
 #include "engine/catalogue.h"
 #include "engine/frontend.h"
 #include "engine/money.h"
+#include "script/script.h"
 
 // A payoff: a winner nets Win for each Per bet. Form -1 shows it as "Win to
 // Per", 0 as "Win+Per for Per"; it never changes the money.
@@ -153,6 +154,10 @@ struct Game {
   // The open file, its positions and its handle (closed with the game).
   // DiceFileMode above is the recorder status.
   DiceFileState DiceFile;
+
+  // --- Auto-Bet script -------------------------------------------------------
+  // The lines, Flags and Chip-Stack names; the script belongs to the game.
+  Script AutoBet;
 
   // --- Files ----------------------------------------------------------------
   std::string DataFolder;  // where "default.crp" and the other files live
