@@ -1,0 +1,135 @@
+#include "script/line_text.h"
+
+#include "script/catalogue.h"
+
+namespace {
+
+using namespace script_list;
+
+constexpr int kChipStack = 1600, kChipStackRef = 1601;
+
+std::string Amount(Currency a) { return FormatNumberWithCommas(a); }
+
+// The words of a code, with the Chip-Stack number where it needs one.
+std::string Named(const ChoiceList& list, int code, int number) {
+  std::string w = WordsOf(list, code);
+  if (code == kChipStack || code == kChipStackRef) w += std::to_string(number);
+  return w;
+}
+
+bool IsPlural(int subject) { return subject >= 1100 && subject < 1300; }
+bool IsCount(int subject) {
+  switch (subject) {
+    case 1311: case 1312: case 1314: case 1315: case 1317: case 1318:
+    case 1323: case 1324: case 1325: case 1405: case 1503: case 1504:
+      return true;
+    default:
+      return false;
+  }
+}
+
+std::string ConditionText(const ScriptLine& l) {
+  std::string text = Named(ConditionSubjects(), l.Subject, l.SubjectNum);
+  const bool isTrue = l.LineAmount != Currency(0);
+  switch (l.Subject) {
+    case 9999: case 1300: case 1301: case 1302: case 1307: case 1308:
+    case 1309: case 1310: case 1313: case 1316:
+      return text;
+    case 1303: case 1306:
+      return text + " " + WordsOf(PointChoices(), l.Code);
+    case 1304: case 1305: case 1321: case 1322:
+      return text + " " + WordsOf(DecidedChoices(), l.Code);
+    case 1500:
+      return text + " " + l.Name + (isTrue ? " is True" : " is False");
+    case 1501:
+      return text + (isTrue ? " is True" : " is False");
+    case 1502:
+      return text + (isTrue ? " are True" : " are False");
+    default:
+      break;
+  }
+  std::string words = ComparisonWords(l.Code, IsPlural(l.Subject));
+  if (l.Code >= 11 && l.Code <= 16 && IsCount(l.Subject) && !words.empty()) words.pop_back();
+  text += " " + words;
+  if (l.Code >= 11 && l.Code <= 16) return text + Amount(l.LineAmount);
+  if (l.Code >= 17 && l.Code <= 22) return text + " " + Named(CompareTargets(), l.Target, l.TargetNum);
+  if (l.Code == 26 || l.Code == 27) return text + " \"" + l.Name + "\"";
+  if (l.LineAmount != Currency(0)) text += " " + Amount(l.LineAmount);
+  return text;
+}
+
+std::string OperatorText(const ScriptLine& l, const std::string& verb) {
+  const int op = l.Code / 10, form = l.Code % 10;
+  const char* preposition = op == 1 ? " on " : op == 2 ? " to " : op == 3 ? " from " : " for ";
+  const std::string target = Named(ActionTargets(), l.Target, l.TargetNum);
+  const std::string source = Named(ActionSources(), l.Subject, l.SubjectNum);
+  std::string text;
+  if (form == 0) {
+    text = verb + (op >= 4 ? " " : "") + Amount(l.LineAmount);
+  } else if (form <= 2) {
+    text = verb;
+    text.replace(text.find('%'), 1, Amount(l.LineAmount) + "%");
+    text += " " + source;
+  } else {
+    text = verb + " " + source;
+  }
+  return text + preposition + target;
+}
+
+std::string ActionText(const ScriptLine& l) {
+  const std::string verb = WordsOf(ActionVerbs(), l.Code);
+  if (l.Code >= 10 && l.Code <= 58) return OperatorText(l, verb);
+  const std::string source = Named(ActionSources(), l.Subject, l.SubjectNum);
+  const std::string target = Named(ActionTargets(), l.Target, l.TargetNum);
+  switch (l.Code) {
+    case 82: case 79: case 80: case 97: case 113: case 99: case 100: case 117: case 76: case 77:
+    case 87: case 89:
+      return verb + " " + l.Name;
+    case 85: case 84: case 101: case 108: case 104: case 111: case 107: case 112:
+      return verb + " " + source;
+    case 83: case 70: case 71: case 72: case 73:
+      return verb + " " + target;
+    case 74:
+      return verb + " " + WordsOf(DiceEventTargets(), l.Target);
+    case 109:
+      return verb + " " + target + " " + WordsOf(RoundChoices(), l.Subject) + Amount(l.LineAmount);
+    case 90:
+      return verb + " " + WordsOf(AutoHandleWinning(), l.Target);
+    case 110:
+      return verb + " " + WordsOf(AutoHandleLosing(), l.Target);
+    case 93: case 95:
+      return verb + Amount(l.LineAmount);
+    case 94: case 96: {
+      std::string text = verb;
+      text.replace(text.find('%'), 1, Amount(l.LineAmount) + "%");
+      return text + " " + source;
+    }
+    case 103: case 106:
+      return verb + Amount(l.LineAmount);
+    default:
+      return verb;
+  }
+}
+
+std::string Render(const ScriptLine& l) {
+  switch (l.Kind) {
+    case line_kind::kCondition:
+      return ConditionText(l);
+    case line_kind::kAction:
+      return ActionText(l);
+    case line_kind::kLabel:
+    case line_kind::kComment:
+      return l.Name;
+    default:
+      return line_kind::IsStartCondition(l.Kind) ? WordsOf(StartConditions(), l.Kind)
+                                                 : WordsOf(StartActions(), l.Kind);
+  }
+}
+
+}  // namespace
+
+std::string LineText(const ScriptLine& line) {
+  std::string text = Render(line);
+  if (text.size() > kLineTextWidth) text.resize(kLineTextWidth);
+  return text;
+}

@@ -1,0 +1,9 @@
+#pragma once
+// The visible wording of a script line, rendered from its codes.
+
+#include <string>
+
+#include "script/script_line.h"
+
+// At most kLineTextWidth characters.
+std::string LineText(const ScriptLine& line);
