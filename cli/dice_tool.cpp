@@ -10,6 +10,7 @@
 
 #include "cli/json_lines.h"
 #include "dice/dice_roll_files.h"
+#include "store/file_errors.h"
 
 namespace {
 
@@ -59,7 +60,7 @@ bool WriteRollFileSummary(const std::string& rolPath, std::ostream& out) {
 }
 
 int RunDiceTool(const CLI::App& dice, const DiceToolOptions& o, std::ostream& out, std::ostream& err) {
-  const std::string fileError = "File name error, file not found, or device error. Check path and file name.";
+  const std::string fileError = FileNameErrorText();
   if (dice.got_subcommand("to-rol")) {
     const int64_t rolls = ConvertTextToRolls(o.from, o.to);
     if (rolls < 0) {

@@ -11,6 +11,7 @@
 
 #include "engine/game.h"
 #include "engine/notices.h"
+#include "store/file_errors.h"
 
 namespace fs = std::filesystem;
 
@@ -114,9 +115,6 @@ uint8_t RollByte(int die1, int die2) { return static_cast<uint8_t>(die2 * 32 + d
 int Die1Of(int value) { return (value & 28) / 4; }
 int Die2Of(int value) { return (value & 224) / 32; }
 
-void ShowFileNameError(Game& g) {
-  ShowMessage(g, "Error", "File name error, file not found, or device error. Check path and file name.");
-}
 
 FileRoll NextRollFromFile(Game& g) {
   DiceFileState& d = g.DiceFile;

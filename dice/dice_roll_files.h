@@ -94,5 +94,3 @@ int64_t WriteRollsAsText(const std::string& rolPath, int64_t first, int64_t coun
 // One text line of a roll.
 std::string RollTextLine(int64_t number, int die1, int die2, const RollTextOptions& options);
 
-// The file-name error text.
-void ShowFileNameError(Game& g);

@@ -179,7 +179,7 @@ TEST(DiceRollFiles, OutOfLimitsAndEmptyFileStopWithoutRolling) {
   EXPECT_FALSE(SetRecorderStatus(none.g, kRecorderRecord));
   EXPECT_EQ(none.Last(), (RecordedMessage{"Record Dice Rolls During Game Play", "You need to open a file first."}));
   EXPECT_FALSE(OpenRollFile(none.g, (none.Path("no-such-dir") / "x.rol").string()));
-  EXPECT_EQ(none.Last(), (RecordedMessage{"Error", "File name error, file not found, or device error. Check path and file name."}));
+  EXPECT_EQ(none.Last(), (RecordedMessage{"Error", "File name error, file not found, or device error.\rCheck path and file name."}));
 }
 
 TEST(DiceRollFiles, RecordingTypesOverAndHandEntryInserts) {

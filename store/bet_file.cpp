@@ -10,6 +10,7 @@
 
 #include "engine/game.h"
 #include "engine/notices.h"
+#include "store/file_errors.h"
 
 namespace {
 
@@ -78,10 +79,6 @@ ScriptLine ReadRecord(const std::string& in, size_t at) {
   return l;
 }
 
-void ShowFileNameError(Game& g) {
-  ShowMessage(g, "Error", std::string("File name error, file not found, or device error.") + kBreak +
-                              "Check path and file name.");
-}
 
 }  // namespace
 
@@ -174,29 +171,7 @@ bool SaveAutoBetFile(Game& g, const std::string& path, bool selectedOnly) {
       return false;
     }
   }
-  const fs::path target(path);
-  if (target.filename().empty() || fs::is_directory(target)) {
-    ShowFileNameError(g);
-    return false;
-  }
-  fs::path temp = target;
-  temp += ".tmp";
-  const std::string bytes = EncodeBetFile(g.AutoBet, selectedOnly);
-  {
-    std::ofstream out(temp, std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    out.close();
-    if (!out) {
-      std::error_code ignored;
-      fs::remove(temp, ignored);
-      ShowFileNameError(g);
-      return false;
-    }
-  }
-  std::error_code ec;
-  fs::rename(temp, target, ec);
-  if (ec) {
-    fs::remove(temp, ec);
+  if (!WriteFileAtomically(path, EncodeBetFile(g.AutoBet, selectedOnly))) {
     ShowFileNameError(g);
     return false;
   }

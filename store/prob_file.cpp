@@ -7,6 +7,7 @@
 
 #include "engine/game.h"
 #include "engine/notices.h"
+#include "store/file_errors.h"
 
 namespace {
 
@@ -32,10 +33,6 @@ int32_t GetInt(const std::string& in, size_t at) {
   return static_cast<int32_t>(u);
 }
 
-void ShowFileNameError(Game& g) {
-  ShowMessage(g, "Error", std::string("File name error, file not found, or device error.") + kBreak +
-                              "Check path and file name.");
-}
 
 }  // namespace
 
@@ -97,30 +94,7 @@ bool OpenProbabilityFile(Game& g, const std::string& path) {
 }
 
 bool SaveProbabilityFile(Game& g, const std::string& path) {
-  namespace fs = std::filesystem;
-  const fs::path target(path);
-  if (target.filename().empty() || fs::is_directory(target)) {
-    ShowFileNameError(g);
-    return false;
-  }
-  fs::path temp = target;
-  temp += ".tmp";
-  const std::string bytes = EncodeProbFile(g.Prob);
-  {
-    std::ofstream out(temp, std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    out.close();
-    if (!out) {
-      std::error_code ignored;
-      fs::remove(temp, ignored);
-      ShowFileNameError(g);
-      return false;
-    }
-  }
-  std::error_code ec;
-  fs::rename(temp, target, ec);
-  if (ec) {
-    fs::remove(temp, ec);
+  if (!WriteFileAtomically(path, EncodeProbFile(g.Prob))) {
     ShowFileNameError(g);
     return false;
   }
