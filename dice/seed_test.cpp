@@ -3,16 +3,6 @@
 #include "dice/rng.h"
 #include "engine/test_support.h"
 
-namespace {
-
-void SeedSilently(Game& g, int choice, Currency seed) {
-  g.RngChoice = choice;
-  g.SeedRequest = seed;
-  SeedRNG(g, true);
-}
-
-}  // namespace
-
 TEST(SeedRNG, LimitsAreTestedBeforeRounding) {
   Game g;
   // Seeds out of limits are dropped without a word; the rest round to even.

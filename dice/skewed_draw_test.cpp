@@ -2,23 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include "engine/game.h"
-
-namespace {
-
-void Seed(Game& g, int choice, Currency seed) {
-  g.RngChoice = choice;
-  g.SeedRequest = seed;
-  SeedRNG(g, true);
-}
-
-}  // namespace
+#include "engine/test_support.h"
 
 TEST(DrawDice, PercentageDiceOfEachGeneratorFollowItsWalk) {
   for (int choice = 0; choice < kRngCount; ++choice) {
     Game skewed, reference;
-    Seed(skewed, choice, 4242);
-    Seed(reference, choice, 4242);
+    SeedSilently(skewed, choice, 4242);
+    SeedSilently(reference, choice, 4242);
     skewed.UseSkewedProbability = true;
     ProbTable table = TrueTable();
     uint32_t rnd = kRndStartState;
@@ -33,7 +23,7 @@ TEST(DrawDice, PercentageDiceOfEachGeneratorFollowItsWalk) {
   }
   // Without the flag the table is not consulted.
   Game g;
-  Seed(g, 0, 5);
+  SeedSilently(g, 0, 5);
   ResetToTrue(g.Prob);
   SetCell(g.Prob, 1, 6, 100000);
   int sevens = 0;

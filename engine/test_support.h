@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "config/payoffs.h"
+#include "dice/rng.h"
 #include "engine/game.h"
 #include "engine/new_game.h"
 #include "engine/place_bet.h"
@@ -16,6 +17,13 @@
 #include "engine/settle.h"
 
 using Rows = std::vector<std::pair<std::string, std::string>>;
+
+// Selects a generator and seeds it with `seed`, as a script's seed action does.
+inline void SeedSilently(Game& g, int choice, Currency seed) {
+  g.RngChoice = choice;
+  g.SeedRequest = seed;
+  SeedRNG(g, true);
+}
 
 struct RecordedMessage {
   std::string title, text;
