@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <fstream>
 #include <string>
 
 #include "dice/generators.h"
@@ -148,7 +149,15 @@ struct Game {
   int32_t SpeedUnit = 0;
 
   // --- Statistics -----------------------------------------------------------
-  std::array<int32_t, 91> RollCounts{};  // element 0: all rolls of the game
+  // The dice events by selection (index = event code - 2000): element 0 all
+  // rolls of the game, 1 "all the numbers", 2..89 the selections. The
+  // Previous copies are the values before this roll, for the script's
+  // "just now" tests.
+  std::array<int32_t, 91> RollCounts{};
+  std::array<int32_t, 91> RollsSinceLast{};
+  std::array<int32_t, 91> PreviousRollCounts{};
+  std::array<int32_t, 91> PreviousRollsSinceLast{};
+  Currency SimRollRate = 100;  // simulated rolls per hour
 
   // --- Dice Roll File ---------------------------------------------------------
   // The open file, its positions and its handle (closed with the game).
@@ -158,6 +167,15 @@ struct Game {
   // --- Auto-Bet script -------------------------------------------------------
   // The lines, Flags and Chip-Stack names; the script belongs to the game.
   Script AutoBet;
+  bool AutoBetActivated = false;  // the Auto-Bet switch: run the script after each roll
+  bool AutoBetRunning = false;    // a pass is under way; clearing it stops the pass
+  bool ShowingSteps = false;      // every step of a pass waits on the steps viewer
+  bool HotKeyRun = false;         // this pass was started by a Hot-Key
+  bool InitPending = false;       // the script changed: its first cycle is due
+  int32_t LastAnswer = 1;         // 6 Yes, 7 No to the script's last question
+  int32_t RollCountAfterPass = 0; // the roll count as the last pass ended
+  std::string MessageBuffer;      // a run of message lines being built
+  std::ofstream ScriptOutput;     // the script's output file, kept between passes
 
   // --- Files ----------------------------------------------------------------
   std::string DataFolder;  // where "default.crp" and the other files live

@@ -1,0 +1,3 @@
+#include "script/actions.h"
+
+void CarryOutAction(Game&, PassState&, const ScriptLine&) {}

@@ -1,0 +1,3 @@
+#include "script/conditions.h"
+
+void EvaluateCondition(Game&, PassState&, const ScriptLine&) {}

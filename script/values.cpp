@@ -1,0 +1,120 @@
+#include "script/values.h"
+
+#include <cmath>
+
+namespace {
+
+Currency SumSlots(const std::array<Currency, bet::kSlots>& amounts, int first, int last) {
+  Currency sum;
+  for (int i = first; i <= last; ++i) sum += amounts[i];
+  return sum;
+}
+
+// The 1000 family of the "of" list: its groups are numbered one lower than
+// the condition groups and add the inside and outside Place rows.
+Currency GroupSum(const std::array<Currency, bet::kSlots>& a, int code) {
+  switch (code) {
+    case 1000: return SumSlots(a, 1, 83);
+    case 1001: return SumSlots(a, 1, 6);
+    case 1002: return SumSlots(a, 7, 12);
+    case 1003: return SumSlots(a, 13, 18);
+    case 1004: return SumSlots(a, 19, 24);
+    case 1005: return SumSlots(a, 25, 30);
+    case 1006: return SumSlots(a, 31, 36);
+    case 1007: return SumSlots(a, 32, 35);
+    case 1008: return a[31] + a[32] + a[35] + a[36];
+    case 1009: return SumSlots(a, 37, 42);
+    default: return Currency();
+  }
+}
+
+int LiveBets(const Game& g) {
+  int n = 0;
+  for (int i = bet::kFirstTableBet; i <= bet::kLastTableBet; ++i) n += g.BetAmount[i] > Currency() ? 1 : 0;
+  return n;
+}
+
+// Shared by both readers; `last` picks the amounts as the roll started and
+// the last shooter's counters.
+Currency ValueOf(const Game& g, int code, int num, bool last) {
+  const auto& amounts = last ? g.BetAtRollStart : g.BetAmount;
+  const auto& h = g.HandStats;
+  if (code >= 0 && code <= bet::kLastTableBet) return amounts[code];
+  if (code >= 1000 && code <= 1009) return GroupSum(amounts, code);
+  switch (code) {
+    case 1311: return Currency(g.RollCounts[0]);
+    case 1312: return Currency(last ? h[17] : h[0]);
+    case 1314: return Currency(h[10]);
+    case 1315: return Currency(last ? h[18] : h[1]);
+    case 1317: return Currency(h[13]);
+    case 1318: return Currency(last ? h[19] : h[15]);
+    case 1400: return g.Bankroll();
+    case 1401: return AverageBankroll(g);
+    case 1402: return last ? g.HighBankroll : Max(g.HighBankroll, g.Bankroll());
+    case 1403: return last ? g.LowBankroll : Min(g.LowBankroll, g.Bankroll());
+    case 1410: return g.Bankroll() - g.TotalOnTable;
+    case 1600:
+      return num >= 0 && num + bet::kFirstStack < bet::kSlots ? g.BetAmount[num + bet::kFirstStack] : Currency();
+    case 1601: {
+      const int ref = ChipStackReference(g, num);
+      return ref < 0 ? Currency() : amounts[ref + bet::kFirstStack];
+    }
+    // The decided-wager tables arrive with the bet results; until then no
+    // wager has been decided.
+    case 1700:
+    case 1701: return Currency();
+    case 1702: return Currency(LiveBets(g));
+    case 1703: return g.TotalOnTable;
+    case 1800:
+    case 1803:
+    case 1804:
+    case 1805:
+    case 1806: {
+      const int id = ShootersPointBet(g, code);
+      return id == 0 ? Currency() : amounts[id];
+    }
+    default: return Currency();
+  }
+}
+
+}  // namespace
+
+Currency AverageBankroll(const Game& g) {
+  if (g.RollCounts[0] == 0) return g.Bankroll();
+  return Currency::FromRaw(g.BankrollSum.raw / g.RollCounts[0]);
+}
+
+int ChipStackReference(const Game& g, int num) {
+  if (num < 0 || num + bet::kFirstStack >= bet::kSlots) return -1;
+  const int64_t whole = Floor(g.BetAmount[num + bet::kFirstStack]);
+  return whole >= 0 && whole < 100 ? static_cast<int>(whole) : -1;
+}
+
+int ShootersPointBet(const Game& g, int code) {
+  int base = 0;
+  switch (code) {
+    case 1800: base = 1; break;
+    case 1803: base = 19; break;
+    case 1804: base = 25; break;
+    case 1805: base = 31; break;
+    case 1806: base = 37; break;
+    default: return 0;
+  }
+  if (g.Point == 0) return 0;
+  return base - 4 + g.Point - g.Point / 7;
+}
+
+Currency GetValue(const Game& g, int code, int num) { return ValueOf(g, code, num, false); }
+Currency GetLastValue(const Game& g, int code, int num) { return ValueOf(g, code, num, true); }
+
+bool CompareValues(Currency left, int code, Currency right) {
+  switch (code) {
+    case 11: case 17: return left == right;
+    case 12: case 18: return left != right;
+    case 13: case 19: return left > right;
+    case 14: case 20: return !(left > right);
+    case 15: case 21: return left < right;
+    case 16: case 22: return !(left < right);
+    default: return false;
+  }
+}
