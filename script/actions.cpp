@@ -1,3 +1,5 @@
 #include "script/actions.h"
 
-void CarryOutAction(Game&, PassState&, const ScriptLine&) {}
+#include "script/jumps.h"
+
+void CarryOutAction(Game&, PassState& pass, const ScriptLine& line) { CarryOutJump(pass, line); }
