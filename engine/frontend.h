@@ -44,6 +44,14 @@ class FrontEnd {
   // Lets queued input run during a Hyper-Drive run or an Auto-Roll wait.
   virtual void LetInputRun() {}
   virtual bool IsMinimised() const { return false; }
+  // The steps viewer: a pass under way opens with a banner ("Auto-Betting" or
+  // "Hot-Key"), then every step shows its line and status and waits until
+  // the player goes on.
+  virtual void ShowStepsBanner(const std::string& /*word*/) {}
+  virtual void ShowStep(int /*lineNumber*/, const std::string& /*text*/, const std::string& /*status*/) {}
+  // A pause a visible table makes so the player can follow (the script's
+  // pass); front ends without a display go straight on.
+  virtual void WaitSeconds(double /*seconds*/) {}
 };
 
 // A front end that shows nothing and takes every default: for batch runs and
