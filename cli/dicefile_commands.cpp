@@ -134,7 +134,10 @@ void PlaySession::Pad(const Args& a) {
   if (a.size() == 2) {
     const int d1 = static_cast<int>(ReadInteger(a[0], 1, 6, "D1"));
     const int d2 = static_cast<int>(ReadInteger(a[1], 1, 6, "D2"));
+    GoToTable();
     return PadRoll(g, d1, d2);
   }
-  PadRollTotal(g, static_cast<int>(ReadInteger(a[0], 2, 12, "TOTAL")));
+  const int total = static_cast<int>(ReadInteger(a[0], 2, 12, "TOTAL"));
+  GoToTable();
+  PadRollTotal(g, total);
 }

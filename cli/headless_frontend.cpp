@@ -103,3 +103,9 @@ std::optional<int> HeadlessFrontEnd::ShowSettleNotice(const SettleNotice& notice
 void HeadlessFrontEnd::ShowThrow(int die1, int die2, int pointAfter) {
   WriteJsonLine(out_, {{"rolled", {{"die1", die1}, {"die2", die2}, {"total", die1 + die2}, {"point", pointAfter}}}});
 }
+
+void HeadlessFrontEnd::ShowStepsBanner(const std::string& word) { WriteJsonLine(out_, {{"steps", word}}); }
+
+void HeadlessFrontEnd::ShowStep(int lineNumber, const std::string& text, const std::string& status) {
+  WriteJsonLine(out_, {{"step", {{"line", lineNumber}, {"text", text}, {"status", status}}}});
+}

@@ -28,6 +28,9 @@ class HeadlessFrontEnd : public FrontEnd {
   std::optional<int> ShowSettleNotice(const SettleNotice& notice) override;
   void ShowThrow(int die1, int die2, int pointAfter) override;
   void RollFinished(const std::string& stopReason) override { stopReason_ = stopReason; }
+  // Steps are printed and go straight on: a script's trace, not a wait.
+  void ShowStepsBanner(const std::string& word) override;
+  void ShowStep(int lineNumber, const std::string& text, const std::string& status) override;
 
  private:
   // The next queued reply; every dialog that asks consumes one, fitting or not.

@@ -70,6 +70,9 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
       {"prob", 1, 6, "prob show|reset|open|save|set|lock|unlock|axis ...", &PlaySession::Prob},
       {"dicefile", 1, 99, "dicefile SUBCOMMAND ...", &PlaySession::DiceFile},
       {"pad", 1, 2, "pad D1 D2|TOTAL", &PlaySession::Pad},
+      {"script", 1, 1, "script FILE", &PlaySession::ScriptFile},
+      {"autobet", 1, 2, "autobet on|off|steps on|off|run", &PlaySession::AutoBet},
+      {"flags", 0, 0, "flags", &PlaySession::Flags},
   };
   return commands;
 }
@@ -164,6 +167,7 @@ void PlaySession::Roll(const Args& a) {
     g.Die2 = d2;
     g.DiceAlreadySet = true;
   }
+  GoToTable();
   g.KeepRolling = false;
   RollDice(g);
 }
@@ -202,6 +206,7 @@ void PlaySession::AutoRoll(const Args& a) {
 
 void PlaySession::RunAndReport() {
   Game& g = *game_;
+  GoToTable();
   const int32_t rollsBefore = g.RollCounts[0];
   ui_.ClearStopReason();
   g.KeepRolling = true;

@@ -67,6 +67,11 @@ class PlaySession {
   void Prob(const Args& a);  // cli/prob_commands.cpp
   void DiceFile(const Args& a);  // cli/dicefile_commands.cpp
   void Pad(const Args& a);
+  void ScriptFile(const Args& a);  // cli/script_commands.cpp
+  void AutoBet(const Args& a);
+  void Flags(const Args& a);
+  // A changed script offers its first cycle before the table's next roll.
+  void GoToTable();
 
   // Runs RollDice as a run and prints the `stopped` object.
   void RunAndReport();

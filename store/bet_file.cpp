@@ -160,6 +160,7 @@ bool OpenAutoBetFile(Game& g, const std::string& path) {
   g.AutoBet.Lines = std::move(*lines);
   g.AutoBet.FileName = path;
   RebuildFlags(g.AutoBet);
+  g.InitPending = true;  // a changed script offers its first cycle at the table
   return true;
 }
 

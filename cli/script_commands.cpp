@@ -1,0 +1,62 @@
+// The Auto-Bet commands of the play session: open a script, switch Auto-Bet,
+// watch the steps and read the flags.
+
+#include "cli/command_error.h"
+#include "cli/command_words.h"
+#include "cli/json_lines.h"
+#include "cli/play_session.h"
+#include "engine/game.h"
+#include "script/interpreter.h"
+#include "script/script_files.h"
+
+namespace {
+
+constexpr const char* kAutoBetUsage = "autobet on|off|steps on|off|run";
+
+bool ReadOnOff(const std::string& word, const char* usage) {
+  const std::string w = ToLower(word);
+  if (w == "on") return true;
+  if (w == "off") return false;
+  throw CommandError(std::string("expected: ") + usage);
+}
+
+Json FlagsJson(const Script& s) {
+  Json flags = Json::array();
+  for (const Flag& f : s.Flags)
+    flags.push_back({{"name", f.FlagName}, {"value", f.FlagValue != 0}, {"previous", f.FlagPrevious != 0}});
+  return flags;
+}
+
+}  // namespace
+
+void PlaySession::ScriptFile(const Args& a) {
+  Game& g = *game_;
+  std::string error;
+  if (!OpenScriptFile(g, a[0], error)) throw CommandError(error);
+  g.AutoBetActivated = true;
+  WriteJsonLine(out_, {{"script", {{"file", g.AutoBet.FileName},
+                                   {"lines", g.AutoBet.NumLines()},
+                                   {"flags", FlagsJson(g.AutoBet)}}}});
+}
+
+void PlaySession::AutoBet(const Args& a) {
+  Game& g = *game_;
+  const std::string w = ToLower(a[0]);
+  if (w == "steps") {
+    if (a.size() != 2) throw CommandError(std::string("expected: ") + kAutoBetUsage);
+    g.ShowingSteps = ReadOnOff(a[1], kAutoBetUsage);
+    return;
+  }
+  if (a.size() != 1) throw CommandError(std::string("expected: ") + kAutoBetUsage);
+  if (w == "run") {
+    if (g.AutoBet.NumLines() == 0) throw CommandError("the script has no lines");
+    RunAutoBet(g);
+    TakeScriptSnapshots(g);
+    return;
+  }
+  g.AutoBetActivated = ReadOnOff(a[0], kAutoBetUsage);
+}
+
+void PlaySession::Flags(const Args&) { WriteJsonLine(out_, {{"flags", FlagsJson(game_->AutoBet)}}); }
+
+void PlaySession::GoToTable() { OfferInitialCycle(*game_); }
