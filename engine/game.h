@@ -159,6 +159,12 @@ struct Game {
   std::array<int32_t, 91> PreviousRollsSinceLast{};
   Currency SimRollRate = 100;  // simulated rolls per hour
 
+  // Every bet decided in the game, for the run report: a push decides nothing.
+  struct DecidedBets {
+    int64_t Won = 0, Lost = 0;
+    Currency WonAmount, LostAmount;  // net won, and lost, both positive
+  } Decided;
+
   // --- Dice Roll File ---------------------------------------------------------
   // The open file, its positions and its handle (closed with the game).
   // DiceFileMode above is the recorder status.

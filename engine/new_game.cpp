@@ -79,7 +79,8 @@ void NewGame(Game& g, bool keepChipStacks) {
   g.BuyVigOnBet.fill(0);
   g.LayVigOnBet.fill(0);
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) g.BetStatus[id] = g.WorkOnComeOut[id];
-  // Flags are zeroed here once scripts have them.
+  for (Flag& f : g.AutoBet.Flags) f.FlagValue = f.FlagPrevious = 0;
+  g.Decided = {};
   if (g.ReSeedNewGames) SeedRNG(g, false);
 
   const Currency bankroll = BeginningBankroll(g, savedBankroll);

@@ -87,6 +87,13 @@ void KeepStreak(Game& g, int betId) {
   FigurePayoff(g, 1, betId, outcome, amount);
   // The real bet's result is booked here once bet results exist.
   if (g.Payoff[0].Win == 0 && g.NetPayoff == 0) return;  // a push: nothing happened
+  if (g.NetPayoff > 0) {
+    ++g.Decided.Won;
+    g.Decided.WonAmount += g.NetPayoff;
+  } else if (g.NetPayoff < 0) {
+    ++g.Decided.Lost;
+    g.Decided.LostAmount -= g.NetPayoff;
+  }
 
   g.Bankroll() += g.NetPayoff;
   if (betId < static_cast<int>(g.BetCommitted.size())) g.BetCommitted[betId] = 0;
