@@ -1,0 +1,134 @@
+#include "sim/game_run.h"
+
+#include <chrono>
+#include <filesystem>
+#include <stdexcept>
+
+#include "autoplay/atm.h"
+#include "dice/dice_roll_files.h"
+#include "dice/rng.h"
+#include "engine/game.h"
+#include "engine/new_game.h"
+#include "engine/roll.h"
+#include "script/interpreter.h"
+#include "script/values.h"
+
+namespace {
+
+constexpr const char* kMaxLossReason = "Stopped by exceeding the max loss limit";
+
+// The screen of a headless run: takes every default, remembers the first
+// message (during set-up a message means the set-up failed), and once per
+// roll lets a stop request in and reports progress.
+class RunnerFrontEnd : public SilentFrontEnd {
+ public:
+  RunnerFrontEnd(Game& g, RunControl& control) : game_(g), control_(control) {}
+
+  Reply ShowMessage(const std::string& title, const std::string& text, Buttons buttons) override {
+    if (firstMessage_.empty()) firstMessage_ = title + ": " + text;
+    return SilentFrontEnd::ShowMessage(title, text, buttons);
+  }
+  void LetInputRun() override {
+    if (++calls_ % kPublishEvery == 0) Publish();
+    if (control_.Stop.load(std::memory_order_relaxed)) game_.KeepRolling = false;
+  }
+  void RollFinished(const std::string& reason) override { stopReason_ = reason; }
+
+  // Hands the rolls not yet reported to the shared counter.
+  void Publish() {
+    const int64_t rolls = game_.RollCounts[0];
+    control_.RollsDone.fetch_add(rolls - published_, std::memory_order_relaxed);
+    published_ = rolls;
+  }
+  const std::string& FirstMessage() const { return firstMessage_; }
+  void ForgetMessages() { firstMessage_.clear(); }
+  const std::string& StopReason() const { return stopReason_; }
+
+ private:
+  static constexpr int64_t kPublishEvery = 4096;
+  Game& game_;
+  RunControl& control_;
+  int64_t calls_ = 0;
+  int64_t published_ = 0;
+  std::string firstMessage_;
+  std::string stopReason_;
+};
+
+void FailIfTold(const RunnerFrontEnd& ui, const std::string& what) {
+  if (!ui.FirstMessage().empty()) throw std::runtime_error(what + ": " + ui.FirstMessage());
+}
+
+void SetUpTable(Game& g, const RunOptions& options, int64_t seed, RunnerFrontEnd& ui) {
+  g.ReSeedNewGames = false;
+  FillDefaults(g);
+  if (options.Bankroll) {
+    g.BankrollInitType = 0;
+    g.BankrollInitAmount = *options.Bankroll;
+  }
+  NewGame(g, false);
+  if (options.Rng != 0) g.RngChoice = options.Rng - 1;
+  g.SeedRequest = Currency::FromRaw(seed * Currency::kScale);
+  SeedRNG(g, true);
+  FailIfTold(ui, "seed " + std::to_string(seed));
+  if (g.LastSeed != seed)
+    throw std::runtime_error("seed " + std::to_string(seed) + " is outside the limits of generator #" +
+                             std::to_string(g.RngChoice + 1));
+}
+
+void OpenDice(Game& g, const std::string& path, RunnerFrontEnd& ui) {
+  if (!std::filesystem::is_regular_file(path))
+    throw std::runtime_error("Dice Roll File \"" + path + "\" does not exist");
+  OpenRollFile(g, path);
+  SetRecorderStatus(g, kRecorderPlayback);
+  FailIfTold(ui, "Dice Roll File \"" + path + "\"");
+}
+
+// The script's first cycle runs as the table's offer would run it on Yes.
+void StartScript(Game& g, const Script& script) {
+  g.AutoBet = script;
+  g.AutoBetActivated = true;
+  g.InitPending = true;
+  RunAutoBet(g);
+  TakeScriptSnapshots(g);
+  g.InitPending = false;
+}
+
+}  // namespace
+
+GameResult RunGame(const RunOptions& options, const Script& script, int64_t seed, RunControl& control) {
+  const auto started = std::chrono::steady_clock::now();
+  Game g;
+  RunnerFrontEnd ui(g, control);
+  g.Ui = &ui;
+  SetUpTable(g, options, seed, ui);
+  if (!options.DicePath.empty()) OpenDice(g, options.DicePath, ui);
+  ui.ForgetMessages();
+
+  GameResult r;
+  r.Seed = seed;
+  r.BankrollStart = g.Bankroll();
+  g.HyperDriveOn = true;  // the run is headless from its first pass on
+  if (script.NumLines() > 0) StartScript(g, script);
+  g.RollCountStop = g.RollCountLeft = static_cast<int32_t>(options.Rolls);
+  g.KeepRolling = true;
+  if (!control.Stop.load()) RollDice(g);
+  g.KeepRolling = g.HyperDriveOn = false;
+  ui.Publish();
+  if (g.DiceFile.File.IsOpen()) CloseRollFile(g);
+
+  r.StopReason = ui.StopReason();
+  r.Rolls = g.RollCounts[0];
+  r.Hands = g.HandStats[2];
+  r.BankrollEnd = g.Bankroll();
+  r.BankrollHigh = g.HighBankroll;
+  r.BankrollLow = g.LowBankroll;
+  r.BankrollAverage = AverageBankroll(g);
+  r.Net = NetResult(g);
+  r.BetsWon = g.Decided.Won;
+  r.BetsLost = g.Decided.Lost;
+  r.AmountWon = g.Decided.WonAmount;
+  r.AmountLost = g.Decided.LostAmount;
+  r.Ruined = g.LowBankroll <= 0 || r.StopReason.rfind(kMaxLossReason, 0) == 0;
+  r.Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
+  return r;
+}

@@ -1,0 +1,20 @@
+#pragma once
+// What a headless strategy run is asked to do: the same for every game of a
+// batch except the seed, which goes up by one per game.
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "engine/money.h"
+
+struct RunOptions {
+  std::string ScriptPath;     // ".bet" or text; empty: no script
+  std::string DicePath;       // a Dice Roll File to play back; empty: the generator
+  int Rng = 0;                // 1..8; 0 keeps the table's default generator
+  int64_t Seed = 1;           // game i is seeded with Seed + i
+  int64_t Rolls = 1'000'000;  // per game
+  std::optional<Currency> Bankroll;  // the starting bankroll; default the table's
+  int Games = 1;
+  int Threads = 0;            // 0: every core
+};
