@@ -1,5 +1,14 @@
 #include "script/actions.h"
 
 #include "script/jumps.h"
+#include "script/verb_families.h"
 
-void CarryOutAction(Game&, PassState& pass, const ScriptLine& line) { CarryOutJump(pass, line); }
+void CarryOutAction(Game& g, PassState& pass, const ScriptLine& line) {
+  if (CarryOutJump(pass, line)) return;
+  const TargetRange range = FindTargetRange(g, line);
+  if (CarryOutAmountVerb(g, pass, line, range)) return;
+  if (CarryOutTableVerb(g, line, range)) return;
+  if (CarryOutMessageVerb(g, pass, line, range)) return;
+  if (CarryOutSettingVerb(g, pass, line)) return;
+  CarryOutFileVerb(g, line);
+}

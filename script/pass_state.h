@@ -3,10 +3,12 @@
 // what carries over between rolls is in the Game (Flags, Chip-Stacks and the
 // "previous" snapshots).
 
+#include <array>
 #include <cstdint>
 #include <stdexcept>
 #include <string>
 
+#include "engine/catalogue.h"
 #include "engine/money.h"
 
 struct PassState {
@@ -24,7 +26,7 @@ struct PassState {
   int32_t LineCounter = 0;    // lines since the last yield
   Currency RunAmount;         // best or sum of a run of highest/lowest/average lines
   int32_t RunCount = 0;
-  Currency RunBase;           // the slot's amount at the run's first line
+  std::array<Currency, bet::kSlots> RunBase{};  // each slot's amount at the run's first line
   double PassStart = 0;       // seconds; "Play sound:" moves it back to skip the pause
   std::string Status;         // the step's status text, built only when steps are shown
 };
