@@ -1,0 +1,98 @@
+#include "cli/run_report.h"
+
+#include <cstdio>
+#include <string>
+
+namespace {
+
+double RollsPerSecond(int64_t rolls, double seconds) { return seconds > 0 ? static_cast<double>(rolls) / seconds : 0; }
+
+Json BetsJson(int64_t won, int64_t lost, Currency amountWon, Currency amountLost) {
+  return {{"decided", won + lost}, {"won", won}, {"lost", lost},
+          {"amountWon", MoneyJson(amountWon)}, {"amountLost", MoneyJson(amountLost)}};
+}
+
+Json GameJson(const GameResult& r, bool withTiming) {
+  Json j = {{"seed", r.Seed},
+            {"stopReason", r.StopReason},
+            {"rolls", r.Rolls},
+            {"hands", r.Hands},
+            {"bankroll", {{"start", MoneyJson(r.BankrollStart)},
+                          {"end", MoneyJson(r.BankrollEnd)},
+                          {"high", MoneyJson(r.BankrollHigh)},
+                          {"low", MoneyJson(r.BankrollLow)},
+                          {"average", MoneyJson(r.BankrollAverage)}}},
+            {"net", MoneyJson(r.Net)},
+            {"bets", BetsJson(r.BetsWon, r.BetsLost, r.AmountWon, r.AmountLost)},
+            {"ruined", r.Ruined}};
+  if (withTiming) j["seconds"] = r.Seconds, j["rollsPerSecond"] = RollsPerSecond(r.Rolls, r.Seconds);
+  return j;
+}
+
+std::string Money(Currency c) { return "$" + FormatNumberWithCommas(c); }
+
+std::string Fixed(double v, int decimals = 2) {
+  char buffer[64];
+  std::snprintf(buffer, sizeof buffer, "%.*f", decimals, v);
+  return buffer;
+}
+
+void WriteGameText(std::ostream& out, const GameResult& r) {
+  out << "Game (seed " << r.Seed << "): " << (r.StopReason.empty() ? "(no stop reason)" : r.StopReason) << "\n"
+      << "  rolls " << FormatWithCommas(r.Rolls) << ", hands " << FormatWithCommas(r.Hands) << "\n"
+      << "  bankroll start " << Money(r.BankrollStart) << ", end " << Money(r.BankrollEnd) << ", high "
+      << Money(r.BankrollHigh) << ", low " << Money(r.BankrollLow) << ", average " << Money(r.BankrollAverage)
+      << "\n"
+      << "  net " << Money(r.Net) << "\n"
+      << "  bets decided " << FormatWithCommas(r.BetsWon + r.BetsLost) << ": won " << FormatWithCommas(r.BetsWon)
+      << " (" << Money(r.AmountWon) << "), lost " << FormatWithCommas(r.BetsLost) << " (" << Money(r.AmountLost)
+      << ")\n"
+      << "  time " << Fixed(r.Seconds, 3) << " s, " << FormatWithCommas(static_cast<int64_t>(RollsPerSecond(r.Rolls, r.Seconds)))
+      << " rolls/s\n";
+}
+
+}  // namespace
+
+Json RunReportJson(const RunOptions& options, const BatchResult& batch, bool withTiming) {
+  const BatchSummary s = Summarize(batch.Games);
+  Json games = Json::array();
+  for (const GameResult& r : batch.Games) games.push_back(GameJson(r, withTiming));
+  Json summary = {{"games", s.Games},
+                  {"rolls", s.Rolls},
+                  {"hands", s.Hands},
+                  {"bets", BetsJson(s.BetsWon, s.BetsLost, s.AmountWon, s.AmountLost)},
+                  {"meanNet", s.MeanNet},
+                  {"netStandardError", s.NetStandardError},
+                  {"netPercentiles", {{"p10", s.NetP10}, {"p50", s.NetP50}, {"p90", s.NetP90}}},
+                  {"riskOfRuin", s.RiskOfRuin}};
+  if (withTiming) summary["seconds"] = batch.Seconds, summary["rollsPerSecond"] = RollsPerSecond(s.Rolls, batch.Seconds);
+  Json run = {{"script", options.ScriptPath},
+              {"dice", options.DicePath},
+              {"rng", options.Rng},
+              {"seed", options.Seed},
+              {"rolls", options.Rolls},
+              {"bankroll", options.Bankroll ? MoneyJson(*options.Bankroll) : Json(nullptr)},
+              {"games", options.Games}};
+  return {{"run", run}, {"interrupted", batch.Interrupted}, {"games", games}, {"batch", summary}};
+}
+
+void WriteRunReportText(std::ostream& out, const RunOptions& options, const BatchResult& batch) {
+  out << "Dicemill run: " << (options.ScriptPath.empty() ? "no script" : options.ScriptPath) << ", "
+      << FormatWithCommas(options.Rolls) << " rolls a game, " << options.Games << (options.Games == 1 ? " game" : " games")
+      << ", seeds from " << options.Seed << "\n";
+  if (batch.Interrupted) out << "Interrupted: the report covers the rolls made.\n";
+  for (const GameResult& r : batch.Games) WriteGameText(out, r);
+  if (batch.Games.size() < 2) return;
+  const BatchSummary s = Summarize(batch.Games);
+  out << "Batch of " << s.Games << " games: " << FormatWithCommas(s.Rolls) << " rolls, " << FormatWithCommas(s.Hands)
+      << " hands\n"
+      << "  bets decided " << FormatWithCommas(s.BetsWon + s.BetsLost) << ": won " << FormatWithCommas(s.BetsWon)
+      << " (" << Money(s.AmountWon) << "), lost " << FormatWithCommas(s.BetsLost) << " (" << Money(s.AmountLost)
+      << ")\n"
+      << "  mean net $" << Fixed(s.MeanNet) << " +/- " << Fixed(s.NetStandardError) << " (standard error)\n"
+      << "  net percentiles: 10th $" << Fixed(s.NetP10) << ", 50th $" << Fixed(s.NetP50) << ", 90th $"
+      << Fixed(s.NetP90) << "\n"
+      << "  risk of ruin " << Fixed(100 * s.RiskOfRuin, 1) << "%\n"
+      << "  time " << Fixed(batch.Seconds, 3) << " s, "
+      << FormatWithCommas(static_cast<int64_t>(RollsPerSecond(s.Rolls, batch.Seconds))) << " rolls/s\n";
+}
