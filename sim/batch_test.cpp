@@ -102,8 +102,8 @@ TEST(Batch, SummaryFigures) {
   }
   const BatchSummary s = Summarize(games);
   EXPECT_DOUBLE_EQ(s.MeanNet, -6);
-  // sample deviation sqrt(2920 / 4), over root 5
-  EXPECT_NEAR(s.NetStandardError, 12.083045973594572, 1e-12);
+  // sample deviation sqrt(3720 / 4), over root 5
+  EXPECT_NEAR(s.NetStandardError, 13.638181696985855, 1e-12);
   EXPECT_DOUBLE_EQ(s.NetP50, 0);
   EXPECT_DOUBLE_EQ(s.NetP10, -38);  // between -50 and -20
   EXPECT_DOUBLE_EQ(s.NetP90, 22);   // between 10 and 30
