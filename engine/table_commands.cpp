@@ -95,3 +95,39 @@ void BuyPlaceBet(Game& g, int& betId) {
   g.BetChange = amount - g.BetAmount[buyId];
   PlaceBetOnTable(g, buyId);
 }
+
+void ClickBet(Game& g, int betId, bool shiftHeld) {
+  if (shiftHeld) {
+    if (betId == bet::kDontPassOdds && g.BetAmount[betId] == 0) betId = bet::kDontPass;
+    RemoveBet(g, betId);
+    return;
+  }
+  const int tool = g.ClickTool;
+  if (tool == kToolBuy) return BuyPlaceBet(g, betId);
+  if (tool == kToolCallOff || tool == kToolCallOn) return CallBet(g, betId, tool);
+  Currency chips;
+  if (tool >= 1 && tool <= 5) chips = g.BetAmount[bet::kFirstChip - 1 + tool];
+  else if (tool >= 7 && tool <= 10) chips = g.BetAmount[g.TrayStack[tool - 6]];
+  else return;
+  g.BetChange = chips;
+  PlaceBetOnTable(g, betId);
+}
+
+std::optional<Currency> ConvertCurrencyText(const std::string& text) {
+  std::string digits;
+  for (char c : text)
+    if (c != '$' && c != ' ') digits += c;
+  Currency amount;
+  if (digits.empty() || !ParseCurrency(digits, amount)) return std::nullopt;
+  return amount;
+}
+
+bool CommitEnteredBet(Game& g, int betId, const std::string& text) {
+  const std::optional<Currency> amount = ConvertCurrencyText(text);
+  if (!amount) return false;
+  if (*amount != g.BetAmount[betId]) {
+    g.BetChange = *amount - g.BetAmount[betId];
+    PlaceBetOnTable(g, betId);
+  }
+  return true;
+}

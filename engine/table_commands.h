@@ -3,6 +3,11 @@
 // on or off, turn a Place bet into a Buy bet. Menus, table tools and script
 // actions all come here by BetId.
 
+#include <optional>
+#include <string>
+
+#include "engine/money.h"
+
 struct Game;
 
 // The table tools that act on the bet itself.
@@ -25,3 +30,17 @@ void CallAllBets(Game& g, bool on);
 
 // Moves a Place bet onto its Buy spot. On success betId names the Buy bet.
 void BuyPlaceBet(Game& g, int& betId);
+
+// A click on a bet with the table's ClickTool; with Shift held the click
+// removes the whole bet instead (on an empty Don't Pass Odds spot, the Don't
+// Pass bet).
+void ClickBet(Game& g, int betId, bool shiftHeld);
+
+// The entry box's text as an amount, with the display form's thousands
+// separators and decimal mark, and an optional "$"; nullopt when it is no
+// amount.
+std::optional<Currency> ConvertCurrencyText(const std::string& text);
+
+// Puts a keyed-in amount on its bet: the difference goes through placement.
+// False, changing nothing, when the text is no amount.
+bool CommitEnteredBet(Game& g, int betId, const std::string& text);

@@ -127,3 +127,34 @@ TEST(RemoveBet, TakesEveryBetDownThroughPlacement) {
 }
 
 }  // namespace
+
+TEST(ClickBet, ToolsShiftAndKeyedAmounts) {
+  Commands t;
+  t.g.ClickTool = 3;  // the third check
+  ClickBet(t.g, bet::kField, false);
+  ClickBet(t.g, bet::kField, false);
+  EXPECT_EQ(t.g.BetAmount[bet::kField], t.g.BetAmount[bet::kFirstChip + 2] * 2);
+  t.g.BetAmount[102] = 7;  // tool 8 adds what Chip-Stack 102 holds
+  t.g.ClickTool = 8;
+  ClickBet(t.g, bet::Place(8), false);
+  EXPECT_EQ(t.g.BetAmount[bet::Place(8)], Currency(7));
+  t.g.ClickTool = kToolCallOff;
+  ClickBet(t.g, bet::Place(8), false);
+  EXPECT_EQ(t.g.BetStatus[bet::Place(8)], -1);
+  // Shift removes whatever the tool; on an empty Don't Pass Odds spot it
+  // takes the Don't Pass bet down (no point is on, so it may come down).
+  ClickBet(t.g, bet::kField, true);
+  EXPECT_EQ(t.g.BetAmount[bet::kField], Currency(0));
+  t.Put(bet::kDontPass, 10);
+  ClickBet(t.g, bet::kDontPassOdds, true);
+  EXPECT_EQ(t.g.BetAmount[bet::kDontPass], Currency(0));
+
+  EXPECT_TRUE(CommitEnteredBet(t.g, bet::Place(6), "$1,2.00"));
+  EXPECT_EQ(t.g.BetAmount[bet::Place(6)], Currency(12));
+  EXPECT_TRUE(CommitEnteredBet(t.g, bet::Place(6), "6"));
+  EXPECT_EQ(t.g.BetAmount[bet::Place(6)], Currency(6));
+  EXPECT_FALSE(CommitEnteredBet(t.g, bet::Place(6), "six"));
+  EXPECT_FALSE(CommitEnteredBet(t.g, bet::Place(6), ""));
+  EXPECT_EQ(t.g.BetAmount[bet::Place(6)], Currency(6));
+  EXPECT_EQ(ConvertCurrencyText("$ 1,250.5"), Currency::FromRaw(12'505'000));
+}
