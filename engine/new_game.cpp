@@ -74,12 +74,16 @@ void NewGame(Game& g, bool keepChipStacks) {
     g.BetName[id] = id > bet::kFirstStack ? bet::StackName(id) : "";
   }
   g.RollCounts.fill(0);
+  g.RollsSinceLast.fill(0);
+  g.PreviousRollCounts.fill(0);
+  g.PreviousRollsSinceLast.fill(0);
+  g.RollCountAfterPass = 0;
   g.BetStreak = {};
   g.HandStats.fill(0);
   g.BuyVigOnBet.fill(0);
   g.LayVigOnBet.fill(0);
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) g.BetStatus[id] = g.WorkOnComeOut[id];
-  // Flags are zeroed here once scripts have them.
+  for (Flag& flag : g.AutoBet.Flags) flag.FlagValue = flag.FlagPrevious = 0;
   if (g.ReSeedNewGames) SeedRNG(g, false);
 
   const Currency bankroll = BeginningBankroll(g, savedBankroll);
