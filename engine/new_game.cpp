@@ -74,6 +74,10 @@ void NewGame(Game& g, bool keepChipStacks) {
     g.BetName[id] = id > bet::kFirstStack ? bet::StackName(id) : "";
   }
   g.RollCounts.fill(0);
+  g.RollsSinceLast.fill(0);
+  g.PreviousRollCounts.fill(0);
+  g.PreviousRollsSinceLast.fill(0);
+  g.RollCountAfterPass = 0;
   g.BetStreak = {};
   g.HandStats.fill(0);
   g.BuyVigOnBet.fill(0);

@@ -12,6 +12,8 @@
 #include "engine/notices.h"
 #include "engine/place_bet.h"
 #include "engine/settle_order.h"
+#include "script/interpreter.h"
+#include "stats/roll_counters.h"
 
 namespace {
 
@@ -108,7 +110,9 @@ void TakeSnapshots(Game& g) {
   g.BetStreak[0] = g.BetStreak[1];
   // The per-roll columns of the bet results are cleared here, and the result
   // bookkeeping of the number rolled last runs here, once bet results exist.
-  // The roll-gap counters of the statistics are copied here once they exist.
+  // What the script's dice-event conditions compare with.
+  g.PreviousRollCounts = g.RollCounts;
+  g.PreviousRollsSinceLast = g.RollsSinceLast;
   std::copy_n(g.BetAmount.begin(), g.BetCommitted.size(), g.BetCommitted.begin());
   g.PointTwoRollsAgo = g.PointBeforeRoll;
   g.PointBeforeRoll = g.Point;
@@ -153,10 +157,9 @@ void Throw(Game& g) {
   if (Doubles(g) && g.DiceTotal != 2 && g.DiceTotal != 12) Sound(g, kSoundDouble);
   MovePoint(g);
 
-  ++g.RollCounts[0];
+  UpdateRollCounters(g);
   ++g.HandStats[0];
   if (g.PointBeforeRoll == 0) ++g.HandStats[14];
-  // Every category of the roll is counted here once roll statistics exist.
 
   TestStopOnRoll(g, SettleTheThrow(g));
 
@@ -169,10 +172,9 @@ void Throw(Game& g) {
   if (Abs(g.Bankroll()) > Currency(BankLimit)) CheckBankLimit(g);
   g.HighBankroll = Max(g.HighBankroll, g.Bankroll());
   g.LowBankroll = Min(g.LowBankroll, g.Bankroll());
-  // The bankroll graph takes its point here, then the script runs once, and
-  // the gap counter of total rolls is taken, as those parts come to exist.
-  g.BetAfterRoll = g.BetAmount;
-  // The Flags' previous values are taken here once scripts have Flags.
+  // The bankroll graph takes its point here once it exists.
+  if (g.AutoBetActivated && g.AutoBet.NumLines() > 0) RunAutoBet(g);
+  TakeScriptSnapshots(g);
 
   if (g.RollCountLeft > 0 && --g.RollCountLeft == 0) {
     Stop(g);

@@ -1,5 +1,344 @@
 #include "script/interpreter.h"
 
-void RunAutoBet(Game&) {}
-void TakeScriptSnapshots(Game&) {}
-void OfferInitialCycle(Game& g) { g.InitPending = false; }
+#include <charconv>
+#include <exception>
+#include <string>
+#include <string_view>
+
+#include "engine/notices.h"
+#include "script/actions.h"
+#include "script/conditions.h"
+#include "script/clock.h"
+#include "script/jumps.h"
+
+namespace {
+
+using namespace line_kind;
+
+constexpr int kYieldEvery = 500;
+constexpr double kPassPause = 0.3;  // seconds a visible pass lasts at least
+
+// Status texts of the steps viewer.
+constexpr const char* kWhenText =
+    "This block of conditions will be true if each line is true and at least one has just occurred.";
+constexpr const char* kWhileText = "This block of conditions will be true if each line is true.";
+constexpr const char* kSkippedBlockText = "Since some conditions are already false, this block will be skipped. ";
+
+bool IsWhenGroup(int kind) { return kind == kWhen || kind == kAndWhen || kind == kOrWhen || kind == kXorWhen; }
+bool IsXor(int pending) { return pending == kXorWhen || pending == kXorWhile; }
+
+// A label line's name as a jump compares it (trimmed, lower case), without
+// copying: jumps scan every line in Hyper-Drive too.
+bool LabelMatches(const std::string& name, const std::string& key) {
+  const size_t first = name.find_first_not_of(' ');
+  if (first == std::string::npos) return key.empty();
+  const size_t length = name.find_last_not_of(' ') - first + 1;
+  if (length != key.size()) return false;
+  for (size_t i = 0; i < length; ++i) {
+    const char c = name[first + i];
+    const char lower = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    if (lower != key[i]) return false;
+  }
+  return true;
+}
+
+class Pass {
+ public:
+  explicit Pass(Game& g) : g_(g), steps_(g.ShowingSteps && !g.HyperDriveOn) {}
+
+  void Run() {
+    g_.AutoBetRunning = true;
+    if (!g_.HyperDriveOn) {
+      if (g_.HotKeyRun)
+        g_.Ui->ShowStepsBanner("Hot-Key");
+      else if (g_.ShowingSteps)
+        g_.Ui->ShowStepsBanner("Auto-Betting");
+      s_.PassStart = SecondsOfDay();
+    }
+    g_.LastAnswer = 1;
+    try {
+      RunLines();
+    } catch (const ScriptError& e) {
+      Abort(e.Number, e.what());
+      return;
+    } catch (const std::exception& e) {
+      Abort(kInternalError, e.what());
+      return;
+    }
+    End();
+  }
+
+ private:
+  static constexpr int kInternalError = 51;
+
+  const Script& script() const { return g_.AutoBet; }
+
+  void RunLines() {
+    for (s_.CurrentLine = 1; s_.CurrentLine <= script().NumLines(); ++s_.CurrentLine) {
+      if (++s_.LineCounter >= kYieldEvery) {
+        // The only guard against a script that loops: a stop command clears
+        // AutoBetRunning while queued input runs.
+        s_.LineCounter = 0;
+        g_.Ui->LetInputRun();
+        if (!g_.AutoBetRunning) return;
+        if (s_.CurrentLine > script().NumLines()) return;
+      }
+      const ScriptLine& line = script().Line(s_.CurrentLine);
+      if (line.Kind == kComment) continue;
+      if (!s_.JumpLabel.empty()) {
+        if (line.Kind == kLabel && LabelMatches(line.Name, s_.JumpLabel)) StartLogic(line, kLabel);
+        continue;
+      }
+      if (s_.ReturnPending) {
+        ReturnToGoSub();
+        continue;
+      }
+      RunLine(line);
+      // A jump scans from the top for its label; a Return passes through the
+      // top to reach its GoSub.
+      if (!s_.JumpLabel.empty() || s_.ReturnPending) s_.CurrentLine = 0;
+    }
+  }
+
+  void RunLine(const ScriptLine& line) {
+    switch (line.Kind) {
+      case kLabel:
+        Say("This label was encountered normally.");
+        Show(line);
+        break;
+      case kWhen:
+      case kWhile:
+        s_.OverallTrue = false;
+        s_.PreviousTrue = false;
+        s_.BlockTrue = true;
+        StartLogic(line, line.Kind);
+        break;
+      case kAndWhen:
+      case kAndWhile:
+        // Reads the last line's just-now, not the block's: kept as it is.
+        if (s_.BlockTrue && !s_.LineJustNow && IsWhenGroup(s_.LastStart))
+          FinishBlock(line);
+        else
+          StartLogic(line, line.Kind);
+        break;
+      case kOrWhen:
+      case kOrWhile:
+      case kXorWhen:
+      case kXorWhile:
+        if (s_.OverallTrue) break;
+        FinishBlock(line);
+        s_.BlockTrue = true;
+        break;
+      case kCondition: RunCondition(line); break;
+      case kThen: FinishBlock(line); break;
+      case kElse:
+      case kDoThis: StartLogic(line, line.Kind); break;
+      case kAction: RunAction(line); break;
+      default: break;
+    }
+  }
+
+  void RunCondition(const ScriptLine& line) {
+    if (s_.OverallTrue || !s_.BlockTrue) return;  // decided already, or an earlier line failed
+    s_.BlockTrue = false;
+    s_.LineJustNow = false;
+    EvaluateCondition(g_, s_, line);
+    if (s_.LineJustNow) s_.BlockJustNow = true;
+    if (!steps_) return;
+    if (!s_.BlockTrue)
+      s_.Status = "Status: Condition is false. ";
+    else
+      s_.Status = s_.LineJustNow ? "Status: Condition is true (just now occurred). "
+                                 : "Status: Condition is true (not a new occurrence). ";
+    Show(line);
+  }
+
+  void RunAction(const ScriptLine& line) {
+    if (s_.LastStart == kThen && !s_.OverallTrue) return;
+    if (s_.LastStart == kElse && s_.OverallTrue) return;
+    if (s_.CurrentLine > 1) {
+      // A run of highest/lowest/average lines is one verb on one target.
+      const ScriptLine& above = script().Line(s_.CurrentLine - 1);
+      if (above.Kind != line.Kind || above.Code != line.Code || above.Target != line.Target ||
+          above.TargetNum != line.TargetNum) {
+        s_.RunCount = 0;
+        s_.RunAmount = Currency();
+      }
+    }
+    const int lineNumber = s_.CurrentLine;
+    const bool ignoredReturn = line.Code == verb::kReturn && s_.ReturnStack.find(',') == std::string::npos;
+    CarryOutAction(g_, s_, line);
+    if (ignoredReturn)
+      Say("This statement will be ignored since it was not encountered as a result of a \"GoSub\" statement.  "
+          "Processing will resume with the next line in order.");
+    else
+      Say("Action taken.");
+    // The action may have changed the script; show the line only if it stands.
+    if (steps_ && lineNumber <= script().NumLines()) g_.Ui->ShowStep(lineNumber, script().Line(lineNumber).Text, s_.Status);
+  }
+
+  void ReturnToGoSub() {
+    const std::string& stack = s_.ReturnStack;
+    const size_t comma = stack.find(',');
+    int back = 0;
+    std::from_chars(stack.data(), stack.data() + (comma == std::string::npos ? stack.size() : comma), back);
+    s_.ReturnStack.erase(0, comma == std::string::npos ? std::string::npos : comma + 1);
+    s_.ReturnPending = false;
+    if (back < 1 || back > script().NumLines()) return;  // the loop goes on from the line after
+    s_.CurrentLine = back;
+    Say("A \"Return\" statement has caused a jump back to this \"GoSub\" statement.  "
+        "Processing will resume with the next line in order.");
+    Show(script().Line(back));
+  }
+
+  // The block that line K ends.
+  void FinishBlock(const ScriptLine& line) {
+    const int k = line.Kind;
+    const bool xorPending = IsXor(s_.PendingXor);
+    if (s_.BlockTrue && !s_.BlockJustNow && IsWhenGroup(s_.LastStart)) {
+      Say("All the conditions in the block were true, but none have just now occurred - so the block is false. ");
+      s_.BlockTrue = false;
+      if (s_.PendingXor == kXorWhen) {
+        if (s_.PreviousTrue) {
+          SayMore("However, the previous block was true, therefore the xor condition is true. ");
+          s_.OverallTrue = true;
+        } else {
+          SayMore("And since the previous block was also false, the xor condition is false. ");
+        }
+      } else {
+        s_.PreviousTrue = false;
+      }
+    } else if (s_.BlockTrue) {
+      Say("All the conditions in the block were true. ");
+      if (xorPending && k != kAndWhen && k != kAndWhile) {
+        if (s_.PreviousTrue) {
+          SayMore("However, the previous block was also true, therefore the xor condition is false. ");
+          s_.PreviousTrue = false;
+        } else {
+          SayMore("And since the previous block was false, the xor condition is also true. ");
+          s_.OverallTrue = true;
+        }
+      }
+      if (!xorPending) s_.PreviousTrue = true;
+    } else {
+      Say("At least one condition was false, so the block is false. ");
+      if (xorPending) {
+        if (s_.PreviousTrue) {
+          SayMore("However, the previous block was true, therefore the xor condition is true. ");
+          s_.OverallTrue = true;
+        } else {
+          SayMore("And since the previous block was also false, the xor condition is false. ");
+          s_.PreviousTrue = false;
+        }
+      } else {
+        s_.PreviousTrue = false;
+      }
+    }
+    s_.PendingXor = 0;
+    // A true block decides the statement unless "and" or "xor" follows.
+    if (s_.PreviousTrue && k != kAndWhen && k != kAndWhile && k != kXorWhen && k != kXorWhile) s_.OverallTrue = true;
+    if (s_.OverallTrue && k != kThen) return;
+    Show(line);
+    StartLogic(line, k);
+  }
+
+  void StartLogic(const ScriptLine& line, int kind) {
+    s_.LastStart = kind;
+    s_.BlockJustNow = false;
+    switch (kind) {
+      case kWhen:
+      case kOrWhen: Say(kWhenText); break;
+      case kWhile:
+      case kOrWhile: Say(kWhileText); break;
+      case kAndWhen: Say(s_.BlockTrue ? kWhenText : kSkippedBlockText); break;
+      case kAndWhile: Say(s_.BlockTrue ? kWhileText : kSkippedBlockText); break;
+      case kXorWhen:
+        Say("This block of conditions will be true if each line is true and at least one has just occurred.  "
+            "The xor condition will be then be evaluated with it and the previous block. ");
+        s_.PendingXor = kXorWhen;
+        break;
+      case kXorWhile:
+        Say("This block of conditions will be true if each line is true. "
+            "The xor condition will be then be evaluated with it and the previous block. ");
+        s_.PendingXor = kXorWhile;
+        break;
+      case kThen:
+        Say(s_.OverallTrue ? "Since the overall conditions were true, the next actions will be taken. "
+                           : "Since the overall conditions were false, the next actions will be skipped. ");
+        break;
+      case kElse:
+        Say(s_.OverallTrue ? "Since the previous actions were taken, the next actions will be skipped. "
+                           : "Since the previous actions were skipped, the next actions will be taken. ");
+        break;
+      case kDoThis: Say("This block of actions will be executed directly. "); break;
+      case kLabel:
+        Say("A \"Go to\" or \"GoSub\" statement has caused a jump to this label. ");
+        s_.JumpLabel.clear();
+        break;
+      default: break;
+    }
+    Show(line);
+  }
+
+  // Status texts are built only for the steps viewer.
+  void Say(const char* text) {
+    if (steps_) s_.Status = text;
+  }
+  void SayMore(const char* text) {
+    if (steps_) s_.Status += text;
+  }
+  void Show(const ScriptLine& line) {
+    if (steps_) g_.Ui->ShowStep(s_.CurrentLine, line.Text, s_.Status);
+  }
+
+  void End() {
+    g_.AutoBetRunning = false;
+    if (g_.HyperDriveOn) return;
+    // A visible pass lasts at least kPassPause, unless the day has wrapped.
+    const double elapsed = SecondsOfDay() - s_.PassStart;
+    if (elapsed >= 0 && elapsed < kPassPause) g_.Ui->WaitSeconds(kPassPause - elapsed);
+    g_.TableDirty = true;
+  }
+
+  // The table stays as the failed action left it; AutoBetRunning is left as
+  // it is.
+  void Abort(int number, const std::string& description) {
+    const std::string text = "The following error has caused Auto-Betting to abort at line #" +
+                             std::to_string(s_.CurrentLine) + ":" + kTwoBreaks +
+                             RunTimeErrorText(description, number, "Run Auto-Bet") + kTwoBreaks +
+                             "Press help for more information.";
+    if (g_.HyperDriveOn) g_.StopReason = "Auto-Bet error.";
+    ShowMessage(g_, "Auto-Bet Abort", text);
+    g_.KeepRolling = false;
+  }
+
+  Game& g_;
+  PassState s_;
+  const bool steps_;
+};
+
+}  // namespace
+
+void RunAutoBet(Game& g) {
+  if (g.AutoBet.NumLines() == 0) return;  // an empty script is never run
+  Pass(g).Run();
+}
+
+void TakeScriptSnapshots(Game& g) {
+  g.BetAfterRoll = g.BetAmount;
+  for (Flag& flag : g.AutoBet.Flags) flag.FlagPrevious = flag.FlagValue;
+  g.RollCountAfterPass = g.RollCounts[0];
+}
+
+void OfferInitialCycle(Game& g) {
+  if (!g.InitPending || !g.AutoBetActivated || g.AutoBet.NumLines() == 0) return;
+  const std::string text = std::string("Your Auto-Bets have changed") + kTwoBreaks +
+                           "You have an opportunity now to run your Auto-Bet script for one cycle BEFORE the dice "
+                           "roll in order to check and set any initial conditions." +
+                           kTwoBreaks + "Would you like to initialize your Auto-Bets?";
+  if (ShowMessage(g, "Auto-Bet", text, Buttons::YesNo) == Reply::Yes) {
+    RunAutoBet(g);
+    TakeScriptSnapshots(g);
+  }
+  g.InitPending = false;
+}

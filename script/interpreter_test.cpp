@@ -1,0 +1,324 @@
+#include "script/interpreter.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "engine/notices.h"
+#include "engine/test_support.h"
+#include "script/jumps.h"
+
+namespace {
+
+using namespace line_kind;
+
+// Records every step of the viewer; a yield can stop the pass as a stop
+// command would.
+class StepsFrontEnd : public RecordingFrontEnd {
+ public:
+  struct Step {
+    int line;
+    std::string status;
+  };
+  std::vector<Step> steps;
+  std::vector<std::string> banners;
+  std::vector<double> waits;
+  int yields = 0;
+  Game* stopAtYield = nullptr;
+  Reply answer = Reply::No;
+
+  void ShowStepsBanner(const std::string& word) override { banners.push_back(word); }
+  void ShowStep(int line, const std::string&, const std::string& status) override { steps.push_back({line, status}); }
+  void WaitSeconds(double seconds) override { waits.push_back(seconds); }
+  void LetInputRun() override {
+    ++yields;
+    if (stopAtYield) stopAtYield->AutoBetRunning = false;
+  }
+  Reply ShowMessage(const std::string& title, const std::string& text, Buttons buttons) override {
+    RecordingFrontEnd::ShowMessage(title, text, buttons);
+    return buttons == Buttons::YesNo ? answer : Reply::Ok;
+  }
+};
+
+ScriptLine Line(int kind, int code = 0, const std::string& name = "") {
+  ScriptLine l;
+  l.Kind = kind;
+  l.Code = code;
+  l.Name = name;
+  return l;
+}
+// "Flag <name> is True": true when the flag is -1, fresh when it changed.
+ScriptLine FlagIsTrue(const std::string& name) {
+  ScriptLine l = Line(kCondition, 0, name);
+  l.Subject = 1500;
+  l.LineAmount = -1;
+  return l;
+}
+// An action with no effect: a flag that no script line names.
+ScriptLine Act() { return Line(kAction, 77, "no such flag"); }
+ScriptLine GoTo(const std::string& label) { return Line(kAction, verb::kGoTo, label); }
+ScriptLine GoSub(const std::string& label) { return Line(kAction, verb::kGoSub, label); }
+ScriptLine Return() { return Line(kAction, verb::kReturn); }
+ScriptLine Label(const std::string& name) { return Line(kLabel, 0, name); }
+
+constexpr const char* kTaken = "Action taken.";
+
+struct Pass {
+  Table t;
+  StepsFrontEnd ui;
+
+  explicit Pass(std::vector<ScriptLine> lines) {
+    t.g.Ui = &ui;
+    t.g.ShowingSteps = true;
+    t.g.AutoBet.Lines = std::move(lines);
+  }
+  // Fresh: the value changed since the last pass; stale: it did not.
+  void Flag(const std::string& name, bool value, bool fresh = true) {
+    const int16_t v = value ? -1 : 0;
+    const int16_t before = fresh ? static_cast<int16_t>(-1 - v) : v;
+    for (::Flag& f : t.g.AutoBet.Flags)
+      if (f.FlagName == name) {
+        f.FlagValue = v;
+        f.FlagPrevious = before;
+        return;
+      }
+    t.g.AutoBet.Flags.push_back({name, v, before});
+  }
+  std::vector<int> Run() {
+    ui.steps.clear();
+    RunAutoBet(t.g);
+    return Acted();
+  }
+  std::vector<int> Acted() const {
+    std::vector<int> lines;
+    for (const auto& s : ui.steps)
+      if (s.status == kTaken) lines.push_back(s.line);
+    return lines;
+  }
+  std::vector<std::string> StatusesOf(int line) const {
+    std::vector<std::string> out;
+    for (const auto& s : ui.steps)
+      if (s.line == line) out.push_back(s.status);
+    return out;
+  }
+};
+
+using Lines = std::vector<int>;
+
+TEST(Interpreter, AnEmptyScriptIsNeverRun) {
+  Pass p({});
+  p.t.g.LastAnswer = 6;
+  p.Run();
+  EXPECT_TRUE(p.ui.banners.empty());
+  EXPECT_TRUE(p.ui.waits.empty());
+  EXPECT_EQ(p.t.g.LastAnswer, 6);
+  EXPECT_FALSE(p.t.g.AutoBetRunning);
+}
+
+TEST(Interpreter, WhenNeedsAFreshLineWhileDoesNot) {
+  struct Case {
+    int start;
+    bool value, fresh;
+    Lines acted;
+  };
+  const Case cases[] = {
+      {kWhen, true, true, {4}},   {kWhen, true, false, {6}}, {kWhen, false, true, {6}},
+      {kWhile, true, false, {4}}, {kWhile, true, true, {4}}, {kWhile, false, false, {6}},
+  };
+  for (const Case& c : cases) {
+    Pass p({Line(c.start), FlagIsTrue("a"), Line(kThen), Act(), Line(kElse), Act(), Line(kDoThis), Act()});
+    p.Flag("a", c.value, c.fresh);
+    Lines want = c.acted;
+    want.push_back(8);
+    EXPECT_EQ(p.Run(), want) << c.start << " " << c.value << " " << c.fresh;
+  }
+}
+
+TEST(Interpreter, XorIsTrueForExactlyOneBlockInEitherOrder) {
+  struct Case {
+    bool a, b, taken;
+  };
+  const Case cases[] = {{true, true, false}, {true, false, true}, {false, true, true}, {false, false, false}};
+  for (int first : {kWhen, kWhile})
+    for (const Case& c : cases) {
+      const int second = first == kWhen ? kXorWhen : kXorWhile;
+      Pass p({Line(first), FlagIsTrue("a"), Line(second), FlagIsTrue("b"), Line(kThen), Act()});
+      p.Flag("a", c.a);
+      p.Flag("b", c.b);
+      EXPECT_EQ(p.Run(), c.taken ? Lines{6} : Lines{}) << first << " " << c.a << " xor " << c.b;
+    }
+}
+
+TEST(Interpreter, OrTriesBlocksUntilOneIsTrue) {
+  Pass p({Line(kWhen), FlagIsTrue("a"), Line(kOrWhen), FlagIsTrue("b"), Line(kThen), Act()});
+  p.Flag("a", true);
+  p.Flag("b", false);
+  EXPECT_EQ(p.Run(), Lines{6});
+  EXPECT_TRUE(p.StatusesOf(4).empty()) << "after a true block the or-block's lines are skipped";
+
+  p.Flag("a", false);
+  p.Flag("b", true);
+  EXPECT_EQ(p.Run(), Lines{6});
+  EXPECT_EQ(p.StatusesOf(4), std::vector<std::string>{"Status: Condition is true (just now occurred). "});
+}
+
+TEST(Interpreter, AndWhenNeedsItsOwnFreshLine) {
+  struct Case {
+    bool aFresh, bFresh, taken;
+  };
+  for (const Case& c : {Case{true, true, true}, Case{true, false, false}, Case{false, true, false}}) {
+    Pass p({Line(kWhen), FlagIsTrue("a"), Line(kAndWhen), FlagIsTrue("b"), Line(kThen), Act()});
+    p.Flag("a", true, c.aFresh);
+    p.Flag("b", true, c.bFresh);
+    EXPECT_EQ(p.Run(), c.taken ? Lines{6} : Lines{}) << c.aFresh << c.bFresh;
+  }
+  Pass p({Line(kWhen), FlagIsTrue("a"), Line(kAndWhen), FlagIsTrue("b"), Line(kThen), Act()});
+  p.Flag("a", true, false);
+  p.Flag("b", true);
+  p.Run();
+  EXPECT_EQ(p.StatusesOf(3),
+            (std::vector<std::string>{
+                "All the conditions in the block were true, but none have just now occurred - so the block is false. ",
+                "Since some conditions are already false, this block will be skipped. "}));
+  EXPECT_TRUE(p.StatusesOf(4).empty());
+}
+
+TEST(Interpreter, StatusTextsOfTheSteps) {
+  Pass p({Line(kWhen), FlagIsTrue("a"), Line(kThen), Act(), Line(kElse), Act(), Label("x"), Line(kXorWhile)});
+  p.Flag("a", true);
+  p.Run();
+  EXPECT_EQ(p.ui.banners, std::vector<std::string>{"Auto-Betting"});
+  using S = std::vector<std::string>;
+  EXPECT_EQ(p.StatusesOf(1),
+            S{"This block of conditions will be true if each line is true and at least one has just occurred."});
+  EXPECT_EQ(p.StatusesOf(3), (S{"All the conditions in the block were true. ",
+                                "Since the overall conditions were true, the next actions will be taken. "}));
+  EXPECT_EQ(p.StatusesOf(5), S{"Since the previous actions were taken, the next actions will be skipped. "});
+  EXPECT_TRUE(p.StatusesOf(6).empty());
+  EXPECT_EQ(p.StatusesOf(7), S{"This label was encountered normally."});
+  EXPECT_TRUE(p.StatusesOf(8).empty()) << "an or/xor line is skipped once the statement is decided";
+  EXPECT_FALSE(p.t.g.AutoBetRunning);
+  ASSERT_EQ(p.ui.waits.size(), 1u);
+  EXPECT_LE(p.ui.waits[0], 0.3);
+}
+
+TEST(Interpreter, JumpsScanFromTheTopForTheirLabel) {
+  Pass p({Act(), GoTo("End"), Act(), Line(kComment, 0, "'end"), Label(" end "), Act()});
+  EXPECT_EQ(p.Run(), (Lines{1, 2, 6}));
+  EXPECT_EQ(p.StatusesOf(5),
+            std::vector<std::string>{"A \"Go to\" or \"GoSub\" statement has caused a jump to this label. "});
+
+  Pass missing({Act(), GoTo("nowhere"), Act(), Label("elsewhere"), Act()});
+  EXPECT_EQ(missing.Run(), (Lines{1, 2})) << "a missing label ends the pass silently";
+  EXPECT_FALSE(missing.t.g.AutoBetRunning);
+}
+
+TEST(Interpreter, GoSubReturnsToTheLineAfterIt) {
+  Pass p({GoSub("sub"), Act(), GoTo("done"), Label("sub"), Act(), Return(), Label("done")});
+  EXPECT_EQ(p.Run(), (Lines{1, 5, 6, 2, 3}));
+  EXPECT_EQ(p.StatusesOf(1), (std::vector<std::string>{
+                                 kTaken, "A \"Return\" statement has caused a jump back to this \"GoSub\" statement.  "
+                                         "Processing will resume with the next line in order."}));
+
+  Pass lone({Return(), Act()});
+  EXPECT_EQ(lone.Run(), Lines{2});
+  EXPECT_EQ(lone.StatusesOf(1),
+            std::vector<std::string>{"This statement will be ignored since it was not encountered as a result of a "
+                                     "\"GoSub\" statement.  Processing will resume with the next line in order."});
+}
+
+TEST(Interpreter, AScriptThatLoopsForeverStopsAtAYield) {
+  Pass p({Label("top"), GoTo("top")});
+  p.t.g.ShowingSteps = false;
+  p.ui.stopAtYield = &p.t.g;
+  p.Run();
+  EXPECT_EQ(p.ui.yields, 1);
+  EXPECT_FALSE(p.t.g.AutoBetRunning);
+}
+
+TEST(Interpreter, HyperDriveShowsAndWaitsForNothing) {
+  Pass p({Line(kDoThis), Act()});
+  p.t.g.HyperDriveOn = true;
+  p.t.g.HotKeyRun = true;
+  p.t.g.LastAnswer = 7;
+  p.Run();
+  EXPECT_TRUE(p.ui.banners.empty());
+  EXPECT_TRUE(p.ui.steps.empty());
+  EXPECT_TRUE(p.ui.waits.empty());
+  EXPECT_EQ(p.t.g.LastAnswer, 1);
+
+  p.t.g.HyperDriveOn = false;
+  p.t.g.ShowingSteps = false;
+  p.Run();
+  EXPECT_EQ(p.ui.banners, std::vector<std::string>{"Hot-Key"});
+  EXPECT_TRUE(p.ui.steps.empty());
+}
+
+TEST(Interpreter, AnErrorAbortsThePassWithItsLine) {
+  ScriptLine hours = Line(kCondition, 13);
+  hours.Subject = 1405;  // simulated hours divide by the roll rate
+  for (bool hyper : {false, true}) {
+    Pass p({Act(), Line(kWhile), hours, Line(kThen), Act()});
+    p.t.g.SimRollRate = 0;
+    p.t.g.HyperDriveOn = hyper;
+    p.t.g.KeepRolling = true;
+    EXPECT_EQ(p.Run(), hyper ? Lines{} : Lines{1});
+    ASSERT_EQ(p.ui.messages.size(), 1u);
+    EXPECT_EQ(p.ui.messages[0].title, "Auto-Bet Abort");
+    EXPECT_EQ(p.ui.messages[0].text,
+              "The following error has caused Auto-Betting to abort at line #3:\r\r"
+              "Division by zero, Error #11 occurred, at: Run Auto-Bet\r\r\r"
+              "Press help for more information.");
+    EXPECT_FALSE(p.t.g.KeepRolling);
+    EXPECT_TRUE(p.t.g.AutoBetRunning) << "left as it was";
+    EXPECT_EQ(p.t.g.StopReason, hyper ? "Auto-Bet error." : "");
+  }
+}
+
+TEST(Interpreter, TheRollRunsTheScriptAndTakesItsSnapshots) {
+  ScriptLine eachRoll = Line(kCondition);
+  eachRoll.Subject = 1300;
+  Pass p({Line(kWhen), eachRoll, Line(kThen), Act()});
+  p.Flag("a", true);
+  p.t.g.AutoBetActivated = true;
+  p.t.Roll(2, 3);
+  EXPECT_EQ(p.Acted(), Lines{4});
+  EXPECT_EQ(p.t.g.RollCountAfterPass, 1);
+  EXPECT_EQ(p.t.g.AutoBet.Flags[0].FlagPrevious, -1);
+  EXPECT_EQ(p.t.g.BetAfterRoll, p.t.g.BetAmount);
+  EXPECT_EQ(p.Run(), Lines{}) << "no roll since the last pass";
+
+  p.t.g.AutoBetActivated = false;
+  p.ui.steps.clear();
+  p.t.Roll(2, 3);
+  EXPECT_TRUE(p.ui.steps.empty());
+}
+
+TEST(Interpreter, TheInitialCycleIsOfferedOnceAChangedScriptMeetsTheTable) {
+  const std::string offer =
+      "Your Auto-Bets have changed\r\rYou have an opportunity now to run your Auto-Bet script for one cycle BEFORE "
+      "the dice roll in order to check and set any initial conditions.\r\rWould you like to initialize your "
+      "Auto-Bets?";
+  ScriptLine init = Line(kCondition);
+  init.Subject = 9999;
+  for (Reply answer : {Reply::Yes, Reply::No}) {
+    Pass p({Line(kWhen), init, Line(kThen), Act()});
+    p.Flag("a", true);
+    p.ui.answer = answer;
+    p.t.g.InitPending = true;
+    OfferInitialCycle(p.t.g);
+    EXPECT_TRUE(p.ui.messages.empty()) << "Auto-Bet is off";
+    EXPECT_TRUE(p.t.g.InitPending);
+
+    p.t.g.AutoBetActivated = true;
+    OfferInitialCycle(p.t.g);
+    ASSERT_EQ(p.ui.messages.size(), 1u);
+    EXPECT_EQ(p.ui.messages[0], (RecordedMessage{"Auto-Bet", offer}));
+    EXPECT_FALSE(p.t.g.InitPending);
+    EXPECT_EQ(p.Acted(), answer == Reply::Yes ? Lines{4} : Lines{});
+    EXPECT_EQ(p.t.g.AutoBet.Flags[0].FlagPrevious, answer == Reply::Yes ? -1 : 0);
+  }
+}
+
+}  // namespace
