@@ -90,7 +90,8 @@ TEST(Batch, SetUpFailuresAreReported) {
   EXPECT_THROW(RunBatch(o, Script(), control), std::runtime_error);
   o = Options(1, 1);
   o.DicePath = "/nonexistent/dice.rol";
-  EXPECT_THROW(RunBatch(o, Script(), control), std::runtime_error);
+  RunControl fresh;  // a failure stops the batch it happened in
+  EXPECT_THROW(RunBatch(o, Script(), fresh), std::runtime_error);
 }
 
 TEST(Batch, SummaryFigures) {
