@@ -4,6 +4,7 @@
 
 #include "cli/dice_tool.h"
 #include "cli/play_session.h"
+#include "cli/script_tool.h"
 
 int main(int argc, char** argv) {
   CLI::App app{"Dicemill, a craps table for measuring betting strategies"};
@@ -18,10 +19,14 @@ int main(int argc, char** argv) {
   DiceToolOptions diceOptions;
   CLI::App* dice = AddDiceTool(app, diceOptions);
 
+  ScriptToolOptions scriptOptions;
+  CLI::App* script = AddScriptTool(app, scriptOptions);
+
   CLI11_PARSE(app, argc, argv);
 
   std::ios::sync_with_stdio(false);
   if (play->parsed()) return RunPlay(std::cin, std::cout, options);
   if (dice->parsed()) return RunDiceTool(*dice, diceOptions, std::cout, std::cerr);
+  if (script->parsed()) return RunScriptTool(*script, scriptOptions, std::cout, std::cerr);
   return 0;
 }
