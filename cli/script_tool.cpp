@@ -30,7 +30,7 @@ int Check(const Script& script, std::ostream& out) {
     return 0;
   }
   out << "line " << fault->Line << ": " << fault->Title << "\n"
-      << "  " << LineToText(script.Line(fault->Line)) << "\n"
+      << "  " << Trimmed(LineToText(script.Line(fault->Line))) << "\n"
       << WithLineEnds(fault->Text) << "\n";
   return 1;
 }

@@ -267,11 +267,11 @@ bool ReadScriptText(const std::string& text, std::vector<ScriptLine>& lines, std
     try {
       read.push_back(ParseTextLine(line));
     } catch (const TextFormError& e) {
-      error = "line " + std::to_string(number) + ": ";
+      error = "line " + std::to_string(number);
       if (!e.Message.empty())
-        error += e.Message;
+        error += ": " + e.Message;
       else
-        error += "column " + std::to_string(e.Column + 1) + ": " +
+        error += ", column " + std::to_string(e.Column + 1) + ": " +
                  (e.Found.empty() ? "the line ends too soon" : "unknown word " + Quote(e.Found)) + "; expected " +
                  e.Expected;
       return false;

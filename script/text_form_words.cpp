@@ -228,7 +228,10 @@ std::string LineCursor::ExpectQuoted() {
       Fail("\\\", \\\\ or \\xHH after a backslash");
     }
   }
-  if (i >= s_.size()) Fail("a closing double quote");
+  if (i >= s_.size()) {
+    pos_ = s_.size();
+    Fail("a closing double quote");
+  }
   pos_ = i + 1;
   return name;
 }

@@ -49,10 +49,11 @@ bool IsBetFilePath(const std::string& path) {
 }
 
 bool LoadScriptFile(const std::string& path, Script& script, std::string& error) {
-  std::ifstream in(path, std::ios::binary);
-  const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
   std::error_code ec;
-  if (!in.is_open() || in.bad() || std::filesystem::is_directory(path, ec)) {
+  std::ifstream in;
+  if (!std::filesystem::is_directory(path, ec)) in.open(path, std::ios::binary);
+  const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  if (!in.is_open() || in.bad()) {
     error = path + ": " + FileNameErrorText();
     std::replace(error.begin(), error.end(), '\r', ' ');
     return false;
