@@ -222,6 +222,9 @@ std::optional<std::string> ReadFields(const std::string& text, size_t brace, Scr
 void CheckWidths(const ScriptLine& l) {
   if (!FitsFileFields(l))
     throw TextFormError{0, "", "", "Kind, SubjectNum, Spare1, TargetNum and Spare2 must lie in -32768..32767"};
+  constexpr int32_t kExactInFloat = 1 << 24;  // Subject and Target are floats in a record
+  if (l.Subject < -kExactInFloat || l.Subject > kExactInFloat || l.Target < -kExactInFloat || l.Target > kExactInFloat)
+    throw TextFormError{0, "", "", "Subject and Target must lie in -16777216..16777216"};
   if (l.Name.size() > kLineNameWidth)
     throw TextFormError{0, "", "", "the name has " + std::to_string(l.Name.size()) + " characters; at most 80 fit"};
   if (l.Text.size() > kLineTextWidth)

@@ -228,6 +228,7 @@ TEST(ScriptTextForm, FaultsNameTheLineTheWordAndWhatFits) {
       {"Do this\n  Return {Spare1=70000}\n", {"line 2: Kind, SubjectNum, Spare1, TargetNum and Spare2 must lie"}},
       {"Do this\n  Go to \"" + std::string(81, 'n') + "\"\n", {"line 2: the name has 81 characters; at most 80 fit"}},
       {"Do this\n  Bet $10.12345 on Field\n", {"expected an amount"}},
+      {"{Kind=30 Target=16777217}\n", {"line 1: Subject and Target must lie in"}},
       {"When\n  Chip-Stack # is equal to $1\n", {"expected a whole number"}},
   };
   for (const Case& c : cases) {
@@ -238,6 +239,30 @@ TEST(ScriptTextForm, FaultsNameTheLineTheWordAndWhatFits) {
     EXPECT_FALSE(ReadScriptText(c.text, s, error));
     for (const std::string& part : c.inMessage) EXPECT_NE(error.find(part), std::string::npos) << error;
     EXPECT_EQ(s.NumLines(), 1);  // nothing of a faulty text is taken
+  }
+}
+
+// Every prefix of every line of a script, and each with a stray byte put in,
+// either reads or gives a message: never an exception, never a crash.
+TEST(ScriptTextForm, DamagedLinesGiveAMessage) {
+  Script s;
+  for (int code : {10, 21, 33, 77, 87, 84, 83, 74, 109, 90, 93, 94, 91, 86})
+    s.Lines.push_back(TypicalAction(code));
+  s.Lines.push_back(Line(kCondition, 26, 1601, 0, 0, "n"));
+  s.Lines.push_back(Line(kAction, 10, 0, 43, 10));
+  s.Lines.back().Spare1 = 3;
+  for (const ScriptLine& l : s.Lines) {
+    const std::string text = LineToText(l);
+    for (size_t cut = 0; cut <= text.size(); ++cut) {
+      for (const char* stray : {"", "\"", "{", "\\", "%"}) {
+        const std::string damaged = text.substr(0, cut) + stray;
+        std::vector<ScriptLine> lines;
+        std::string error;
+        if (!ReadScriptText(damaged, lines, error)) {
+          EXPECT_EQ(error.rfind("line 1", 0), 0u) << damaged;
+        }
+      }
+    }
   }
 }
 

@@ -147,7 +147,8 @@ std::optional<ListMatch> LineCursor::TryList(const ChoiceList& list) {
   size_t bestEnd = 0;
   for (const ListEntry& e : list) {
     if (e.Code == 0 && e.Words == script_list::kSeparator) continue;
-    const std::string words = TrimmedWords(e.Words);
+    std::string_view words = e.Words;
+    while (!words.empty() && words.back() == ' ') words.remove_suffix(1);
     if (words.empty()) continue;
     Currency percent;
     const size_t end = MatchEntry(words, &percent);
