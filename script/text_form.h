@@ -14,6 +14,7 @@
 // Writing and reading give back every field exactly.
 
 #include <string>
+#include <vector>
 
 #include "script/script.h"
 
