@@ -5,6 +5,7 @@
 #include "cli/dice_tool.h"
 #include "cli/play_session.h"
 #include "cli/run_tool.h"
+#include "cli/script_tool.h"
 
 int main(int argc, char** argv) {
   CLI::App app{"Dicemill, a craps table for measuring betting strategies"};
@@ -21,6 +22,8 @@ int main(int argc, char** argv) {
 
   RunToolOptions runOptions;
   CLI::App* run = AddRunTool(app, runOptions);
+  ScriptToolOptions scriptOptions;
+  CLI::App* script = AddScriptTool(app, scriptOptions);
 
   CLI11_PARSE(app, argc, argv);
 
@@ -28,5 +31,6 @@ int main(int argc, char** argv) {
   if (play->parsed()) return RunPlay(std::cin, std::cout, options);
   if (dice->parsed()) return RunDiceTool(*dice, diceOptions, std::cout, std::cerr);
   if (run->parsed()) return RunRunTool(runOptions, std::cout, std::cerr);
+  if (script->parsed()) return RunScriptTool(*script, scriptOptions, std::cout, std::cerr);
   return 0;
 }

@@ -1,0 +1,113 @@
+#include "store/script_file.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "cli/temp_folder_for_test.h"
+#include "script/checker.h"
+#include "script/text_form.h"
+#include "store/bet_file.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const char* const kSamples[] = {"pass-line-full-odds", "three-point-molly",   "iron-cross",
+                                "place-6-8-press",     "dont-pass-stop-loss", "field-martingale"};
+
+std::string Bytes(const fs::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+void Write(const fs::path& path, const std::string& bytes) {
+  std::ofstream(path, std::ios::binary) << bytes;
+}
+
+TEST(ScriptFile, SamplesAreCleanAndTheirBetFilesAreTheConvertersOwn) {
+  for (const char* name : kSamples) {
+    SCOPED_TRACE(name);
+    const fs::path base = fs::path(DICEMILL_SOURCE_DIR) / "samples" / name;
+    Script fromText, fromBet;
+    std::string error;
+    ASSERT_TRUE(LoadScriptFile(base.string() + ".txt", fromText, error)) << error;
+    ASSERT_TRUE(LoadScriptFile(base.string() + ".bet", fromBet, error)) << error;
+    EXPECT_EQ(ScriptToText(fromText), Bytes(base.string() + ".txt"));  // written as the writer writes
+    EXPECT_EQ(EncodeBetFile(fromText, false), Bytes(base.string() + ".bet"));
+    EXPECT_EQ(ScriptToText(fromBet), Bytes(base.string() + ".txt"));
+    EXPECT_EQ(CheckScript(fromText), std::nullopt);
+    EXPECT_EQ(Bytes(base.string() + ".txt").find('{'), std::string::npos);  // no field needs braces
+  }
+}
+
+TEST(ScriptFile, LoadsEitherFormAndSavesByExtension) {
+  TempFolder folder;
+  Script s;
+  std::string error;
+  ASSERT_TRUE(ReadScriptText("Do this\n  Set flag \"f\" to True\n  Bet $5 on Field {Spare2=9}\n", s, error)) << error;
+
+  const std::string bet = (folder.path() / "a.BET").string(), text = (folder.path() / "a.txt").string();
+  ASSERT_TRUE(SaveScriptFile(bet, s, error)) << error;
+  ASSERT_TRUE(SaveScriptFile(text, s, error)) << error;
+  EXPECT_EQ(Bytes(bet), EncodeBetFile(s, false));
+  EXPECT_EQ(Bytes(text), ScriptToText(s));
+
+  const std::string renamed = (folder.path() / "records.dat").string();  // a .bet by its magic
+  fs::copy_file(bet, renamed);
+  for (const std::string& path : {bet, text, renamed}) {
+    Script loaded;
+    ASSERT_TRUE(LoadScriptFile(path, loaded, error)) << error;
+    EXPECT_EQ(loaded.Lines, s.Lines);
+    EXPECT_EQ(loaded.FileName, path);
+    ASSERT_EQ(loaded.Flags.size(), 1u);
+  }
+}
+
+TEST(ScriptFile, AnUnreadableFileLeavesTheScriptAsItWas) {
+  TempFolder folder;
+  const fs::path dir = folder.path();
+  Write(dir / "bad.txt", "When\n  On each roll\nthen\n  Bet $10 on Pass Lime\n");
+  Write(dir / "junk.bet", std::string(300, 'x'));
+  std::string newer(512, ' ');
+  newer.replace(0, 34, "Dicemill AutoBets, Data Format 6.0");
+  newer.replace(128, 34, std::string(34, ' '));
+  Write(dir / "newer.bet", newer);
+  struct Case {
+    fs::path path;
+    std::string message;
+  };
+  const std::vector<Case> cases = {
+      {dir / "bad.txt", (dir / "bad.txt").string() + ": line 4, column 19: unknown word \"Lime\""},
+      {dir / "junk.bet", "has either been corrupted or is not a true Dicemill Auto-Bet file."},
+      {dir / "newer.bet", "6.0 or later to run."},
+      {dir / "missing.txt", "File name error, file not found, or device error. Check path and file name."},
+      {dir, "File name error"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.path.string());
+    Script s;
+    s.Lines.resize(2);
+    s.FileName = "kept";
+    std::string error;
+    EXPECT_FALSE(LoadScriptFile(c.path.string(), s, error));
+    EXPECT_NE(error.find(c.message), std::string::npos) << error;
+    EXPECT_EQ(s.NumLines(), 2);
+    EXPECT_EQ(s.FileName, "kept");
+  }
+}
+
+TEST(ScriptFile, ALineARecordCannotHoldIsNotSavedAsBet) {
+  TempFolder folder;
+  Script s;
+  s.Lines.resize(2);
+  s.Lines[1].Spare1 = 40000;
+  std::string error;
+  EXPECT_FALSE(SaveScriptFile((folder.path() / "x.bet").string(), s, error));
+  EXPECT_NE(error.find("line 2"), std::string::npos) << error;
+  EXPECT_FALSE(fs::exists(folder.path() / "x.bet"));
+}
+
+}  // namespace
