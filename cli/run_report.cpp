@@ -1,5 +1,6 @@
 #include "cli/run_report.h"
 
+#include <cmath>
 #include <cstdio>
 #include <string>
 
@@ -29,13 +30,16 @@ Json GameJson(const GameResult& r, bool withTiming) {
   return j;
 }
 
-std::string Money(Currency c) { return "$" + FormatNumberWithCommas(c); }
+std::string Money(Currency c) { return (c < 0 ? "-$" : "$") + FormatNumberWithCommas(Abs(c)); }
 
 std::string Fixed(double v, int decimals = 2) {
   char buffer[64];
   std::snprintf(buffer, sizeof buffer, "%.*f", decimals, v);
   return buffer;
 }
+
+// A figure of the batch, to the cent.
+std::string MoneyFigure(double v) { return Money(Currency::FromDouble(std::nearbyint(v * 100) / 100)); }
 
 void WriteGameText(std::ostream& out, const GameResult& r) {
   out << "Game (seed " << r.Seed << "): " << (r.StopReason.empty() ? "(no stop reason)" : r.StopReason) << "\n"
@@ -89,9 +93,9 @@ void WriteRunReportText(std::ostream& out, const RunOptions& options, const Batc
       << "  bets decided " << FormatWithCommas(s.BetsWon + s.BetsLost) << ": won " << FormatWithCommas(s.BetsWon)
       << " (" << Money(s.AmountWon) << "), lost " << FormatWithCommas(s.BetsLost) << " (" << Money(s.AmountLost)
       << ")\n"
-      << "  mean net $" << Fixed(s.MeanNet) << " +/- " << Fixed(s.NetStandardError) << " (standard error)\n"
-      << "  net percentiles: 10th $" << Fixed(s.NetP10) << ", 50th $" << Fixed(s.NetP50) << ", 90th $"
-      << Fixed(s.NetP90) << "\n"
+      << "  mean net " << MoneyFigure(s.MeanNet) << " +/- " << Fixed(s.NetStandardError) << " (standard error)\n"
+      << "  net percentiles: 10th " << MoneyFigure(s.NetP10) << ", 50th " << MoneyFigure(s.NetP50) << ", 90th "
+      << MoneyFigure(s.NetP90) << "\n"
       << "  risk of ruin " << Fixed(100 * s.RiskOfRuin, 1) << "%\n"
       << "  time " << Fixed(batch.Seconds, 3) << " s, "
       << FormatWithCommas(static_cast<int64_t>(RollsPerSecond(s.Rolls, batch.Seconds))) << " rolls/s\n";
