@@ -1,10 +1,8 @@
 #!/usr/bin/env bash
-# The main job: installs what is missing, builds, and plays the sample game
-# through the headless table, printing every message and state.
+# The main job: installs what is missing, builds, and runs a sample betting
+# strategy for 1,000,000 rolls in Hyper-Drive, printing its report.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
 scripts/build.sh build -DCMAKE_BUILD_TYPE=Release
-folder=$(mktemp -d)
-trap 'rm -rf "$folder"' EXIT
-build/dicemill-cli play --folder "$folder" < samples/first-game.txt
+build/dicemill-cli run --script samples/place-6-8-press.txt --rolls 1000000 --seed 1 "$@"
