@@ -100,8 +100,8 @@ CLI::App* AddRunTool(CLI::App& app, RunToolOptions& o) {
   run->add_option("--dice", o.run.DicePath, "Dice Roll File (.rol) to play back instead of a generator");
   run->add_option("--rng", o.run.Rng, "Generator 1..8")->check(CLI::Range(1, 8));
   run->add_option("--seed", o.run.Seed, "Seed of the first game; game i takes seed + i")->check(CLI::PositiveNumber);
-  run->add_option("--rolls", o.run.Rolls, "Rolls per game (at most 100,000,000)")
-      ->check(CLI::Range(int64_t{1}, MaxRolls));
+  run->add_option("--rolls", o.run.Rolls, "Rolls per game, at most 100,000,000; 0 rolls to the ceiling")
+      ->check(CLI::Range(int64_t{0}, MaxRolls));
   run->add_option("--bankroll", o.bankroll, "Starting bankroll");
   run->add_option("--games", o.run.Games, "Independent games, each with its own seed")->check(CLI::Range(1, 1'000'000));
   run->add_option("--threads", o.run.Threads, "Threads (default: every core)")->check(CLI::Range(1, 1024));
@@ -133,7 +133,7 @@ int RunRunTool(const RunToolOptions& options, std::ostream& out, std::ostream& e
   auto previous = std::signal(SIGINT, OnInterrupt);
   BatchResult batch;
   try {
-    Watcher watcher(control, run.Rolls * run.Games, err, !options.quiet && isatty(STDERR_FILENO));
+    Watcher watcher(control, (run.Rolls > 0 ? run.Rolls : MaxRolls) * run.Games, err, !options.quiet && isatty(STDERR_FILENO));
     batch = RunBatch(run, script, control);
   } catch (const std::exception& e) {
     std::signal(SIGINT, previous);

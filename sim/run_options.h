@@ -13,7 +13,7 @@ struct RunOptions {
   std::string DicePath;       // a Dice Roll File to play back; empty: the generator
   int Rng = 0;                // 1..8; 0 keeps the table's default generator
   int64_t Seed = 1;           // game i is seeded with Seed + i
-  int64_t Rolls = 1'000'000;  // per game
+  int64_t Rolls = 1'000'000;  // per game; 0 for no count: the roll ceiling stops it
   std::optional<Currency> Bankroll;  // the starting bankroll; default the table's
   int Games = 1;
   int Threads = 0;            // 0: every core
