@@ -1,0 +1,3 @@
+#include "stats/advantage.h"
+
+Advantage FigureAdvantage(const Game&, int) { return {}; }

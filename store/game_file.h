@@ -1,0 +1,16 @@
+#pragma once
+// Game files (".crp"): one whole game in 256-byte records.
+
+#include <string>
+
+struct Game;
+
+inline constexpr const char* kGameFileSignature = "Dicemill Game File, Data Format 5.0k";
+
+// Writes the whole game to `path` (through a temporary file renamed over
+// it). False, with the file-name error shown, when it cannot be written.
+bool SaveGame(Game& g, const std::string& path);
+
+// Reads a game file into the game. A refused file shows its message and
+// leaves the game as it was.
+bool OpenGame(Game& g, const std::string& path);
