@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <string>
 
+#include "sim/hyper_drive.h"
+
 namespace {
 
 double RollsPerSecond(int64_t rolls, double seconds) { return seconds > 0 ? static_cast<double>(rolls) / seconds : 0; }
@@ -18,6 +20,7 @@ Json GameJson(const GameResult& r, bool withTiming) {
             {"stopReason", r.StopReason},
             {"rolls", r.Rolls},
             {"hands", r.Hands},
+            {"simHours", r.SimHours},
             {"bankroll", {{"start", MoneyJson(r.BankrollStart)},
                           {"end", MoneyJson(r.BankrollEnd)},
                           {"high", MoneyJson(r.BankrollHigh)},
@@ -43,7 +46,8 @@ std::string MoneyFigure(double v) { return Money(Currency::FromDouble(std::nearb
 
 void WriteGameText(std::ostream& out, const GameResult& r) {
   out << "Game (seed " << r.Seed << "): " << (r.StopReason.empty() ? "(no stop reason)" : r.StopReason) << "\n"
-      << "  rolls " << FormatWithCommas(r.Rolls) << ", hands " << FormatWithCommas(r.Hands) << "\n"
+      << "  rolls " << FormatWithCommas(r.Rolls) << ", hands " << FormatWithCommas(r.Hands) << ", sim hrs "
+      << SimHoursText(r.SimHours) << "\n"
       << "  bankroll start " << Money(r.BankrollStart) << ", end " << Money(r.BankrollEnd) << ", high "
       << Money(r.BankrollHigh) << ", low " << Money(r.BankrollLow) << ", average " << Money(r.BankrollAverage)
       << "\n"

@@ -12,6 +12,7 @@
 #include "engine/roll.h"
 #include "script/interpreter.h"
 #include "script/values.h"
+#include "sim/hyper_drive.h"
 
 namespace {
 
@@ -119,6 +120,7 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t seed
   r.StopReason = ui.StopReason();
   r.Rolls = g.RollCounts[0];
   r.Hands = g.HandStats[2];
+  r.SimHours = SimHours(g);
   r.BankrollEnd = g.Bankroll();
   r.BankrollHigh = g.HighBankroll;
   r.BankrollLow = g.LowBankroll;

@@ -15,6 +15,7 @@ struct GameResult {
   std::string StopReason;
   int64_t Rolls = 0;
   int64_t Hands = 0;  // hands completed: seven-outs
+  double SimHours = 0;  // the rolls at the table's simulated roll rate
   Currency BankrollStart, BankrollEnd, BankrollHigh, BankrollLow, BankrollAverage;
   Currency Net;       // the end against the money brought to the table (ATM included)
   int64_t BetsWon = 0, BetsLost = 0;
