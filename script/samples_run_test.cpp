@@ -171,6 +171,7 @@ TEST(Samples, DontPassStopLoss) {
       {1, 3, dontPass, recorded, false, 450},  // point made: both lost, a new bet
       {6, 1, dontPass, recorded, false, 440},  // come-out 7 loses
       {2, 1, dontPass, recorded, false, 450},  // come-out 3 wins, the bet stays
+      {6, 6, dontPass, recorded, false, 450},  // 12 is barred: a push
       {3, 3, {{kDontPass, 10}, {kDontPassOdds, 30}, {kStack1, 300}}, recorded, false, 450},
       {5, 2, dontPass, recorded, false, 485},  // seven-out: 10 and 25 won, the lay comes down
       {2, 2, {{kDontPass, 10}, {kDontPassOdds, 40}, {kStack1, 300}}, recorded, false, 485},
