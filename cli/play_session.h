@@ -67,6 +67,9 @@ class PlaySession {
   void Prob(const Args& a);  // cli/prob_commands.cpp
   void DiceFile(const Args& a);  // cli/dicefile_commands.cpp
   void Pad(const Args& a);
+  void Click(const Args& a);  // cli/table_click_commands.cpp
+  void Enter(const Args& a);
+  void Rate(const Args& a);
   void ScriptFile(const Args& a);  // cli/script_commands.cpp
   void AutoBet(const Args& a);
   void Flags(const Args& a);

@@ -50,3 +50,19 @@ TEST(ScriptCommands, BadInputIsAnErrorAndChangesNothing) {
   Session empty;
   EXPECT_EQ(empty.Error("autobet run"), "autobet: the script has no lines");
 }
+
+TEST(TableClickCommands, ClickEnterAndRate) {
+  Session s;
+  s.Run("set ClickTool 1\nclick 49\nclick 49\nenter 34 $12\nrate 2 rolls/min");
+  Json state = s.State();
+  EXPECT_EQ(state["bets"]["49"], 2);  // two clicks of the $1 check
+  EXPECT_EQ(state["bets"]["34"], 12);
+  EXPECT_EQ(s.Only("get SimRollRate", "setting")["value"], 120);
+  s.Run("click 49 shift");
+  EXPECT_FALSE(s.State()["bets"].contains("49"));
+  EXPECT_EQ(s.Error("enter 34 twelve"), "enter: 'twelve' is not an amount");
+  EXPECT_EQ(s.Error("click 34 ctrl"), "click: expected: click ID [shift]");
+  const auto refused = s.Run("rate 0 hrs/roll");
+  ASSERT_EQ(refused.size(), 1u);
+  EXPECT_EQ(refused[0]["message"]["text"], "Hrs / roll must be greater than zero.");
+}

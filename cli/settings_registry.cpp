@@ -118,7 +118,13 @@ std::vector<Setting> BuildRegistry() {
       // Simulation and sound
       Flag("DisableAllSound", &Game::DisableAllSound),
       Integer("ThrottleValue", &Game::ThrottleValue, 0, 100),
+      Money("SimRollRate", &Game::SimRollRate, Currency::FromRaw(1)),
       Integer("SpeedUnit", &Game::SpeedUnit, 0, kInt32Max),
+      // The table's click tool: 1..5 checks, 7..10 tray Chip-Stacks, 89 buy, 90/91 call
+      Integer("ClickTool", &Game::ClickTool, 1, 91),
+      // Auto-Bet
+      Flag("AutoBetActivated", &Game::AutoBetActivated),
+      Flag("ShowingSteps", &Game::ShowingSteps),
   };
 
   // Turning auto-odds on offers to fill the table, and a mode above 0 adjusts it.

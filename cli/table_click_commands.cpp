@@ -1,0 +1,51 @@
+// Table commands of the play session that a screen reaches by pointer and
+// keyboard: a click with the click tool, Shift-click, a keyed-in amount, and
+// the simulated roll rate of the configuration screen.
+
+#include "cli/command_error.h"
+#include "cli/command_words.h"
+#include "cli/json_lines.h"
+#include "cli/play_session.h"
+#include "engine/game.h"
+#include "engine/table_commands.h"
+#include "sim/hyper_drive.h"
+
+namespace {
+
+constexpr const char* kRateUsage = "rate VALUE rolls/hr|rolls/min|rolls/sec|hrs/roll|mins/roll|secs/roll";
+
+RateUnit ReadRateUnit(const std::string& word) {
+  const std::string w = ToLower(word);
+  const struct {
+    const char* word;
+    RateUnit unit;
+  } units[] = {{"rolls/hr", RateUnit::RollsPerHour},   {"rolls/min", RateUnit::RollsPerMinute},
+               {"rolls/sec", RateUnit::RollsPerSecond}, {"hrs/roll", RateUnit::HoursPerRoll},
+               {"mins/roll", RateUnit::MinutesPerRoll}, {"secs/roll", RateUnit::SecondsPerRoll}};
+  for (const auto& u : units)
+    if (w == u.word) return u.unit;
+  throw CommandError(std::string("expected: ") + kRateUsage);
+}
+
+}  // namespace
+
+void PlaySession::Click(const Args& a) {
+  const int id = ReadBetId(a[0]);
+  bool shift = false;
+  if (a.size() == 2) {
+    if (ToLower(a[1]) != "shift") throw CommandError("expected: click ID [shift]");
+    shift = true;
+  }
+  ClickBet(*game_, id, shift);
+}
+
+void PlaySession::Enter(const Args& a) {
+  const int id = ReadBetId(a[0]);
+  if (!CommitEnteredBet(*game_, id, a[1])) throw CommandError("'" + a[1] + "' is not an amount");
+}
+
+void PlaySession::Rate(const Args& a) {
+  const Currency value = ReadAmount(a[0], "VALUE");
+  if (SetRollsPerHour(*game_, value, ReadRateUnit(a[1])))
+    WriteJsonLine(out_, {{"setting", {{"name", "SimRollRate"}, {"value", MoneyJson(game_->SimRollRate)}}}});
+}
