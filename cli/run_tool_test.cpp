@@ -93,3 +93,22 @@ TEST(RunTool, BadOptionsAreRefusedWithAReason) {
     EXPECT_TRUE(r.out.empty()) << c.args;
   }
 }
+
+TEST(RunTool, CtrlCStopsBetweenRollsAndStillReports) {
+  TempFolder work;
+  // SIGINT after half a second, long before 100,000,000 rolls are made.
+  const auto out = work.path() / "out.json";
+  const std::string command = "timeout --preserve-status -s INT 0.5 '" DICEMILL_CLI_PATH
+                              "' run --quiet --rolls 0 --games 2 --threads 1 --json > '" + out.string() + "'";
+  const int raw = std::system(command.c_str());
+  ASSERT_TRUE(WIFEXITED(raw));
+  EXPECT_EQ(WEXITSTATUS(raw), 130);
+  std::stringstream text;
+  text << std::ifstream(out).rdbuf();
+  const Json report = Json::parse(text.str());
+  EXPECT_EQ(report["interrupted"], true);
+  ASSERT_EQ(report["games"].size(), 1u);  // the second game never started
+  EXPECT_GT(report["games"][0]["rolls"].get<int64_t>(), 0);
+  EXPECT_LT(report["games"][0]["rolls"].get<int64_t>(), 100'000'000);
+  EXPECT_EQ(report["games"][0]["stopReason"], "");
+}
