@@ -87,7 +87,9 @@ TEST(Advantage, DefaultPayoffsGiveTheCasinoFigures) {
     if (e.setup) e.setup(t.g);
     const Advantage a = FigureAdvantage(t.g, e.betId);
     EXPECT_NEAR(a.EvPerDecision, e.evPerDecision, 1e-12) << e.name;
-    if (!std::isnan(e.evPerRoll)) EXPECT_NEAR(a.EvPerRoll, e.evPerRoll, 1e-12) << e.name;
+    if (!std::isnan(e.evPerRoll)) {
+      EXPECT_NEAR(a.EvPerRoll, e.evPerRoll, 1e-12) << e.name;
+    }
   }
 }
 
