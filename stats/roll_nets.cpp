@@ -111,6 +111,7 @@ double RollNet(const Game& g, int betId, int die1, int die2) {
   if (bet::IsComeNumber(betId) || bet::IsComeOdds(betId) || bet::IsPlace(betId))
     return Race(total, NumberOf(betId), true, RatioOf(g.Payoff[betId]));
   if (bet::IsBuy(betId)) return Race(total, NumberOf(betId), true, BuyWinNet(g, betId));
+  if ((betId == bet::kPassOdds || betId == bet::kDontPassOdds) && !bet::IsPointNumber(g.Point)) return 0;
   if (betId == bet::kPassOdds) return Race(total, g.Point, true, RatioOf(g.Payoff[bet::ComeOdds(g.Point)]));
   if (betId == bet::kDontPassOdds)
     return Race(total, g.Point, false, RatioOf(g.Payoff[bet::DontComeOdds(g.Point)]));

@@ -25,7 +25,7 @@ bool SettlesRollByRoll(const Game& g, int betId);
 
 // The net of the bet on the dice: its own record or its vig model on a win,
 // -1 on a loss, 0 where the roll decides nothing. Pass Line Odds and Don't
-// Pass Odds read the point that stands.
+// Pass Odds read the point that stands; with none they decide nothing.
 double RollNet(const Game& g, int betId, int die1, int die2);
 
 // The one-roll table of such a bet on the dice of the game.
