@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "cli/advantage_tool.h"
 #include "cli/dice_tool.h"
 #include "cli/play_session.h"
 #include "cli/run_tool.h"
@@ -24,6 +25,8 @@ int main(int argc, char** argv) {
   CLI::App* run = AddRunTool(app, runOptions);
   ScriptToolOptions scriptOptions;
   CLI::App* script = AddScriptTool(app, scriptOptions);
+  AdvantageToolOptions advantageOptions;
+  CLI::App* advantage = AddAdvantageTool(app, advantageOptions);
 
   CLI11_PARSE(app, argc, argv);
 
@@ -32,5 +35,6 @@ int main(int argc, char** argv) {
   if (dice->parsed()) return RunDiceTool(*dice, diceOptions, std::cout, std::cerr);
   if (run->parsed()) return RunRunTool(runOptions, std::cout, std::cerr);
   if (script->parsed()) return RunScriptTool(*script, scriptOptions, std::cout, std::cerr);
+  if (advantage->parsed()) return RunAdvantageTool(advantageOptions, std::cout, std::cerr);
   return 0;
 }

@@ -76,6 +76,7 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
       {"script", 1, 1, "script FILE", &PlaySession::ScriptFile},
       {"autobet", 1, 2, "autobet on|off|steps on|off|run", &PlaySession::AutoBet},
       {"flags", 0, 0, "flags", &PlaySession::Flags},
+      {"advantage", 0, 1, "advantage [ID]", &PlaySession::Advantage},
   };
   return commands;
 }

@@ -73,6 +73,7 @@ class PlaySession {
   void ScriptFile(const Args& a);  // cli/script_commands.cpp
   void AutoBet(const Args& a);
   void Flags(const Args& a);
+  void Advantage(const Args& a);  // cli/advantage_commands.cpp
   // A changed script offers its first cycle before the table's next roll.
   void GoToTable();
 

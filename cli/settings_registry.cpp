@@ -115,6 +115,7 @@ std::vector<Setting> BuildRegistry() {
       Flag("UseSkewedProbability", &Game::UseSkewedProbability),
       Integer("ProbDisplayMode", &Game::ProbDisplayMode, 0, 3),
       Integer("ProbRollsOutOf", &Game::ProbRollsOutOf, 1, kInt32Max),
+      Flag("IncludeZeroOutcomes", &Game::IncludeZeroOutcomes),
       // Simulation and sound
       Flag("DisableAllSound", &Game::DisableAllSound),
       Integer("ThrottleValue", &Game::ThrottleValue, 0, 100),

@@ -163,6 +163,7 @@ struct Game {
   std::array<int32_t, 91> PreviousRollCounts{};
   std::array<int32_t, 91> PreviousRollsSinceLast{};
   Currency SimRollRate = 100;  // simulated rolls per hour
+  bool IncludeZeroOutcomes = false;  // the advantage table counts a push as a decision
 
   // Every bet decided in the game, for the run report: a push decides nothing.
   struct DecidedBets {

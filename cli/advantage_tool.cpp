@@ -1,0 +1,106 @@
+#include "cli/advantage_tool.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cmath>
+#include <cstdio>
+
+#include "engine/catalogue.h"
+#include "engine/game.h"
+#include "engine/new_game.h"
+#include "stats/advantage.h"
+
+namespace {
+
+struct Row {
+  double evPerRoll, stdevPerRoll, evPerDecision, stdevPerDecision, evPerHour, rollsPerDecision, minutesPerDecision;
+};
+
+// A figure as a percentage; the dust of rounding on a fair bet shows as 0.
+double Percent(double fraction) { return std::fabs(fraction) < 1e-12 ? 0 : 100 * fraction; }
+
+Row RowOf(const Game& g, int betId) {
+  const Advantage a = FigureAdvantage(g, betId);
+  const double rate = g.SimRollRate.ToDouble();  // rolls per hour
+  return {Percent(a.EvPerRoll),
+          Percent(std::sqrt(a.VarPerRoll)),
+          Percent(a.EvPerDecision),
+          Percent(std::sqrt(a.VarPerDecision)),
+          Percent(a.EvPerRoll * rate),
+          a.RollsPerDecision,
+          rate > 0 ? a.RollsPerDecision / rate * 60 : 0};
+}
+
+std::string Fixed(double value) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%11.3f", std::fabs(value) < 0.0005 ? 0.0 : value);  // no "-0.000"
+  return text;
+}
+
+std::string Padded(std::string_view name, size_t width) {
+  std::string text(name);
+  if (text.size() < width) text.append(width - text.size(), ' ');
+  return text;
+}
+
+}  // namespace
+
+Json AdvantageRowJson(const Game& g, int betId) {
+  const Row r = RowOf(g, betId);
+  return {{"id", betId},
+          {"bet", std::string(bet::CatalogueName(betId))},
+          {"evPerRoll", r.evPerRoll},
+          {"stdevPerRoll", r.stdevPerRoll},
+          {"evPerDecision", r.evPerDecision},
+          {"stdevPerDecision", r.stdevPerDecision},
+          {"evPerHour", r.evPerHour},
+          {"rollsPerDecision", r.rollsPerDecision},
+          {"minutesPerDecision", r.minutesPerDecision}};
+}
+
+void WriteAdvantageText(const Game& g, bool misc, std::ostream& out) {
+  constexpr size_t kNameWidth = 20;
+  out << "All figures shown in percentage\n";
+  out << Padded("Bet", kNameWidth);
+  for (const char* head : {"EV/Roll", "StDev/Roll", "EV/Dec", "StDev/Dec", "EV/Hour"})
+    out << Padded("", 11 - std::string_view(head).size()) << head;
+  if (misc) out << "  Rolls/Dec    Min/Dec";
+  out << "\n";
+  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) {
+    const Row r = RowOf(g, id);
+    out << Padded(bet::CatalogueName(id), kNameWidth) << Fixed(r.evPerRoll) << Fixed(r.stdevPerRoll)
+        << Fixed(r.evPerDecision) << Fixed(r.stdevPerDecision) << Fixed(r.evPerHour);
+    if (misc) out << Fixed(r.rollsPerDecision) << Fixed(r.minutesPerDecision);
+    out << "\n";
+  }
+}
+
+CLI::App* AddAdvantageTool(CLI::App& app, AdvantageToolOptions& o) {
+  CLI::App* advantage =
+      app.add_subcommand("advantage", "The exact expected value and spread of every bet, by enumeration");
+  advantage->add_option("--game", o.gameFile, "Game file whose payoffs, vig and dice to use");
+  advantage->add_flag("--json", o.json, "One JSON line of all 83 rows");
+  advantage->add_flag("--misc", o.misc, "Add the rolls and minutes per decision");
+  advantage->add_flag("--zero-outcomes", o.zeroOutcomes, "Count zero outcomes (pushes) as decisions");
+  return advantage;
+}
+
+int RunAdvantageTool(const AdvantageToolOptions& o, std::ostream& out, std::ostream& err) {
+  Game g;
+  FillDefaults(g);
+  NewGame(g, false);
+  // Opening a game file goes here once game files can be read.
+  if (!o.gameFile.empty()) {
+    err << "dicemill-cli advantage: game files are not supported yet: \"" << o.gameFile << "\" was not opened\n";
+    return 1;
+  }
+  g.IncludeZeroOutcomes = g.IncludeZeroOutcomes || o.zeroOutcomes;
+  if (!o.json) {
+    WriteAdvantageText(g, o.misc, out);
+    return 0;
+  }
+  Json rows = Json::array();
+  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) rows.push_back(AdvantageRowJson(g, id));
+  WriteJsonLine(out, {{"advantage", rows}});
+  return 0;
+}
