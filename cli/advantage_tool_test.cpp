@@ -23,7 +23,7 @@ TEST(AdvantageTool, TextJsonAndRefusals) {
   EXPECT_EQ(lines[0], "All figures shown in percentage");
   EXPECT_EQ(lines[1], "Bet                     EV/Roll StDev/Roll     EV/Dec  StDev/Dec    EV/Hour");
   // Pass Line: -7/495 a decision, -7/1671 a roll, at 100 rolls an hour.
-  EXPECT_EQ(lines[1 + 43], "Pass Line                -0.419     54.327     -1.414     99.990    -41.891");
+  EXPECT_EQ(lines[1 + 43], "Pass Line                -0.419     54.424     -1.414     99.990    -41.891");
   EXPECT_EQ(lines[1 + 25].substr(20, 11), "      0.000");  // odds are fair, never "-0.000"
 
   out.str("");

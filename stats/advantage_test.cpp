@@ -98,6 +98,10 @@ TEST(Advantage, RollsPerDecisionAndSpread) {
   const Advantage pass = FigureAdvantage(t.g, bet::kPassLine);
   EXPECT_NEAR(pass.RollsPerDecision, 557.0 / 165, 1e-12);
   EXPECT_NEAR(pass.VarPerDecision, 1 - std::pow(7.0 / 495, 2), 1e-12);
+  // Per roll: every end (net +1 or -1) about EV/Roll m, over the 557/165
+  // rolls a decision takes: (1 - 2 m ev + m^2) / rolls.
+  const double ev = -7.0 / 495, rolls = 557.0 / 165, m = ev / rolls;
+  EXPECT_NEAR(pass.VarPerRoll, (1 - 2 * m * ev + m * m) / rolls, 1e-12);
 
   const Advantage field = FigureAdvantage(t.g, bet::kField);
   EXPECT_NEAR(field.RollsPerDecision, 1, 1e-12);

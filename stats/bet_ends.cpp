@@ -27,23 +27,22 @@ BetEnds EndsOfOneRoll(const OutcomeTable& t) {
 }
 
 Advantage FiguresOf(const BetEnds& ends, bool zeroOutcomesCount) {
-  double all = 0, decided = 0, ev = 0, rolls = 0, netSquare = 0, netRolls = 0, rollsSquare = 0;
+  double all = 0, decided = 0, ev = 0, rolls = 0;
   for (const BetEnd& e : ends) {
     all += e.Prob;
     if (e.Net != 0) decided += e.Prob;
     ev += e.Prob * e.Net;
     rolls += e.Rolls;
-    netSquare += e.Prob * e.Net * e.Net;
-    netRolls += e.Net * e.Rolls;
-    rollsSquare += e.Rolls2;
   }
   Advantage a;
   if (rolls <= 0) return a;
   a.EvPerRoll = ev / rolls;
-  // Renewal reward: Var(X - m R) / E[R], with m the value per roll.
-  const double m = a.EvPerRoll;
-  a.VarPerRoll = (netSquare - 2 * m * netRolls + m * m * rollsSquare) / rolls;
-  if (a.VarPerRoll < 0) a.VarPerRoll = 0;  // rounding of a spread of nothing
+  // Every end, pushes included, about the value per roll, spread over the
+  // expected rolls of the bet: the table's own measure of the spread per roll.
+  for (const BetEnd& e : ends) {
+    const double d = e.Net - a.EvPerRoll;
+    a.VarPerRoll += d * d * e.Prob / rolls;
+  }
 
   const double decisions = zeroOutcomesCount ? all : decided;
   if (decisions <= 0) return a;

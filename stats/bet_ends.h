@@ -31,5 +31,6 @@ BetEnds EndsOfOneRoll(const OutcomeTable& t);
 // The six figures of a cycle. With zero outcomes counted a push is a
 // decision; otherwise the figures per decision leave pushes out altogether
 // (their rolls still count toward the rolls per decision). The variance per
-// roll is the long-run variance of the running result per roll.
+// roll sums every end's squared distance from the value per roll, weighted by
+// its chance, over the expected rolls.
 Advantage FiguresOf(const BetEnds& ends, bool zeroOutcomesCount);
