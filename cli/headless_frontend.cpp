@@ -109,3 +109,8 @@ void HeadlessFrontEnd::ShowStepsBanner(const std::string& word) { WriteJsonLine(
 void HeadlessFrontEnd::ShowStep(int lineNumber, const std::string& text, const std::string& status) {
   WriteJsonLine(out_, {{"step", {{"line", lineNumber}, {"text", text}, {"status", status}}}});
 }
+
+std::optional<std::string> HeadlessFrontEnd::AskFileName(const std::string& title, const std::string& pattern) {
+  WriteMessage(out_, title, pattern, "cancel");
+  return std::nullopt;
+}

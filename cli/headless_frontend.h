@@ -31,6 +31,9 @@ class HeadlessFrontEnd : public FrontEnd {
   // Steps are printed and go straight on: a script's trace, not a wait.
   void ShowStepsBanner(const std::string& word) override;
   void ShowStep(int lineNumber, const std::string& text, const std::string& status) override;
+  // There is no file dialog: it is printed as a message, answered "cancel",
+  // and takes no reply.
+  std::optional<std::string> AskFileName(const std::string& title, const std::string& pattern) override;
 
  private:
   // The next queued reply; every dialog that asks consumes one, fitting or not.

@@ -8,6 +8,7 @@
 #include "engine/game.h"
 #include "script/interpreter.h"
 #include "script/script_files.h"
+#include "store/small_files.h"
 
 namespace {
 
@@ -33,6 +34,7 @@ void PlaySession::ScriptFile(const Args& a) {
   Game& g = *game_;
   std::string error;
   if (!OpenScriptFile(g, a[0], error)) throw CommandError(error);
+  ScriptOpened(g);
   g.AutoBetActivated = true;
   WriteJsonLine(out_, {{"script", {{"file", g.AutoBet.FileName},
                                    {"lines", g.AutoBet.NumLines()},

@@ -8,6 +8,7 @@
 #include "engine/bet_status.h"
 #include "engine/game.h"
 #include "engine/roll.h"
+#include "store/small_files.h"
 
 namespace {
 
@@ -53,9 +54,11 @@ void StartUp(Game& g, const std::string& folder) {
   g.SpeedUnit = MeasureSpeedUnit();
   SeedAtStartUp(g);
   FillDefaults(g);
+  ListSoundSetsAndHotKeys(g);
   // The default game of the folder is opened here once game files exist;
   // until then every start is a new game with its starting bankroll.
   NewGame(g, false);
+  WriteActiveScript(g);
   if (g.Point == 0) PlayComeOutSound(g);
 }
 
