@@ -102,7 +102,11 @@ TEST(PromptCommands, EndOfInputAsksEveryQuestionOnce) {
   Session s;
   s.Run("set TableMinimum 1");  // no change: nothing to save
   EXPECT_FALSE(s.play.game().GameChanged);
-  for (const char* line : {"set TableMinimum 5", "chip 1 2", "payoff 4 1 1", "field 3 2 1", "seed 7"}) {
+  const std::string roll = "\"" + s.Path("r.rol") + "\"";
+  for (const std::string& line : std::vector<std::string>{"set TableMinimum 5", "chip 1 2", "payoff 4 1 1", "field 3 2 1", "seed 7",
+                                  "bet 33 6", "call off all", "roll 3 4", "atm withdraw 10", "autobet on",
+                                  "dicefile open " + roll, "dicefile status record", "dicefile close",
+                                  "prob reset"}) {
     s.play.game().GameChanged = false;
     s.Run(line);
     EXPECT_TRUE(s.play.game().GameChanged) << line;

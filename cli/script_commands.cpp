@@ -56,7 +56,9 @@ void PlaySession::AutoBet(const Args& a) {
     TakeScriptSnapshots(g);
     return;
   }
-  g.AutoBetActivated = ReadOnOff(a[0], kAutoBetUsage);
+  const bool on = ReadOnOff(a[0], kAutoBetUsage);
+  if (on != g.AutoBetActivated) g.GameChanged = true;  // the switch is kept with the game
+  g.AutoBetActivated = on;
 }
 
 void PlaySession::Flags(const Args&) { WriteJsonLine(out_, {{"flags", FlagsJson(game_->AutoBet)}}); }

@@ -77,32 +77,11 @@ bool SaveGameAs(Game& g, const std::string& path) {
   return true;
 }
 
-}  // namespace
-
-void QuerySaveGame(Game& g) {
-  Ask(g, {"QuerySaveGame", "Save Game?",
-          std::string("Your current game has not been saved.") + kTwoBreaks + "Do you want to save it now?",
-          "Save Game File As", "*.crp", "default.crp", &Game::GameChanged,
-          [](const Game& game) { return game.GameFileName; }, SaveGameAs});
-}
-
-void QuerySaveAutoBets(Game& g) {
-  Ask(g, {"QuerySaveAutoBets", "Save Auto-Bets?",
-          Lines({"Your current logged Auto-Bets", "have not been saved.", "Do you want to save them now?"}),
-          "Save Auto-Bet File As", "*.bet", "default.bet", &Game::ScriptDirty,
-          [](const Game& game) { return game.AutoBet.FileName; },
+void AskAboutScript(Game& g, const std::string& text) {
+  Ask(g, {"QuerySaveAutoBets", "Save Auto-Bets?", text, "Save Auto-Bet File As", "*.bet", "default.bet",
+          &Game::ScriptDirty, [](const Game& game) { return game.AutoBet.FileName; },
           [](Game& game, const std::string& path) { return SaveAutoBetFile(game, path); }});
 }
-
-void QuerySaveProbability(Game& g) {
-  Ask(g, {"QuerySaveProbability", "Save Probabilities?",
-          Lines({"Your current probabilities (listed on the", "configuration screen) have not been saved.",
-                 "Do you want to save them now?"}),
-          "Save Probability File As", "*.prb", "default.prb", &Game::ProbModified,
-          [](const Game& game) { return game.ProbFileName; }, SaveProbabilityFile});
-}
-
-namespace {
 
 // The questions in order; a Cancel ends them when it may.
 bool AskEach(Game& g, bool mayCancel) {
@@ -115,7 +94,42 @@ bool AskEach(Game& g, bool mayCancel) {
   return !cancelled;
 }
 
+// A stop in the middle of a run asks first whether to end it.
+bool EndRunForStop(Game& g) {
+  if (g.AutoBetRunning &&
+      ShowMessage(g, "Auto-Bet Active", "Do you want to interrupt Auto-Betting? ", Buttons::YesNo) != Reply::Yes)
+    return false;
+  if (g.HyperDriveOn &&
+      ShowMessage(g, "Hyper-Drive Active", "Do you want to stop Hyper-Drive?", Buttons::YesNo) != Reply::Yes)
+    return false;
+  if (g.AutoBetRunning || g.HyperDriveOn) g.KeepRolling = false;
+  return true;
+}
+
 }  // namespace
+
+void QuerySaveGame(Game& g) {
+  Ask(g, {"QuerySaveGame", "Save Game?",
+          std::string("Your current game has not been saved.") + kTwoBreaks + "Do you want to save it now?",
+          "Save Game File As", "*.crp", "default.crp", &Game::GameChanged,
+          [](const Game& game) { return game.GameFileName; }, SaveGameAs});
+}
+
+void QuerySaveAutoBets(Game& g) {
+  AskAboutScript(g, Lines({"Your current logged Auto-Bets", "have not been saved.", "Do you want to save them now?"}));
+}
+
+void QuerySaveAutoBetsInEditor(Game& g) {
+  AskAboutScript(g, Lines({"Your current logged bets have not been saved.", "Do you want to save them now?"}));
+}
+
+void QuerySaveProbability(Game& g) {
+  Ask(g, {"QuerySaveProbability", "Save Probabilities?",
+          Lines({"Your current probabilities (listed on the", "configuration screen) have not been saved.",
+                 "Do you want to save them now?"}),
+          "Save Probability File As", "*.prb", "default.prb", &Game::ProbModified,
+          [](const Game& game) { return game.ProbFileName; }, SaveProbabilityFile});
+}
 
 bool QuerySaveAll(Game& g) { return AskEach(g, true); }
 
@@ -125,6 +139,7 @@ void CloseDown(Game& g) {
 }
 
 bool StopProgram(Game& g, bool mayCancel) {
+  if (mayCancel && !EndRunForStop(g)) return false;
   if (!AskEach(g, mayCancel) && mayCancel) return false;
   CloseDown(g);
   return true;

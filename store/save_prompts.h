@@ -13,6 +13,8 @@ constexpr int kMsgNo = 7;
 void QuerySaveGame(Game& g);
 // "Save Auto-Bets?": the script (ScriptDirty) to its ".bet" file.
 void QuerySaveAutoBets(Game& g);
+// The script editor's New and Open ask the same in words of their own.
+void QuerySaveAutoBetsInEditor(Game& g);
 // "Save Probabilities?": the percentage dice table (ProbModified).
 void QuerySaveProbability(Game& g);
 
@@ -24,6 +26,7 @@ bool QuerySaveAll(Game& g);
 // opens it as it stands, and the work files are closed and deleted.
 void CloseDown(Game& g);
 
-// The program stops: the questions (unless `mayCancel` is false, their
+// The program stops: while a script pass or Hyper-Drive runs, whether to end
+// it (No keeps the program going; Yes clears KeepRolling); the questions (unless `mayCancel` is false, their
 // Cancel abandons the stop and false is returned), then CloseDown.
 bool StopProgram(Game& g, bool mayCancel = true);

@@ -53,6 +53,9 @@ const PromptCase kPrompts[] = {
     {"script", QuerySaveAutoBets, &Game::ScriptDirty, "Save Auto-Bets?",
      "Your current logged Auto-Bets\rhave not been saved.\rDo you want to save them now?", "Save Auto-Bet File As",
      "*.bet", nullptr, true},
+    {"script editor", QuerySaveAutoBetsInEditor, &Game::ScriptDirty, "Save Auto-Bets?",
+     "Your current logged bets have not been saved.\rDo you want to save them now?", "Save Auto-Bet File As", "*.bet",
+     nullptr, true},
     {"probabilities", QuerySaveProbability, &Game::ProbModified, "Save Probabilities?",
      "Your current probabilities (listed on the\rconfiguration screen) have not been saved.\rDo you want to save "
      "them now?",
@@ -171,6 +174,40 @@ TEST(SavePrompts, StopAsksGameScriptProbabilitiesThenRemovesWorkFiles) {
   Fixture clean;  // nothing unsaved: nothing asked
   EXPECT_TRUE(QuerySaveAll(clean.g));
   EXPECT_TRUE(clean.ui.messages.empty());
+}
+
+TEST(SavePrompts, AStopDuringARunAsksToEndItFirst) {
+  const struct {
+    bool script, hyper;
+    std::vector<Reply> replies;
+    bool stops;
+    std::vector<std::string> titles;
+  } cases[] = {
+      {true, false, {Reply::No}, false, {"Auto-Bet Active"}},
+      {true, false, {Reply::Yes}, true, {"Auto-Bet Active"}},
+      {false, true, {Reply::No}, false, {"Hyper-Drive Active"}},
+      {true, true, {Reply::Yes, Reply::Yes}, true, {"Auto-Bet Active", "Hyper-Drive Active"}},
+      {true, true, {Reply::Yes, Reply::No}, false, {"Auto-Bet Active", "Hyper-Drive Active"}},
+  };
+  for (const auto& c : cases) {
+    Fixture f;
+    f.g.AutoBetRunning = c.script;
+    f.g.HyperDriveOn = c.hyper;
+    f.g.KeepRolling = true;
+    f.ui.replies.assign(c.replies.begin(), c.replies.end());
+    EXPECT_EQ(StopProgram(f.g), c.stops);
+    EXPECT_EQ(f.g.KeepRolling, !c.stops);
+    std::vector<std::string> titles;
+    for (const RecordedMessage& m : f.ui.messages) titles.push_back(m.title);
+    EXPECT_EQ(titles, c.titles);
+  }
+  Fixture f;
+  EXPECT_TRUE(StopProgram(f.g));  // the texts, once
+  f.g.AutoBetRunning = f.g.HyperDriveOn = true;
+  f.ui.replies = {Reply::Yes, Reply::Yes};
+  StopProgram(f.g);
+  EXPECT_EQ(f.ui.messages[0].text, "Do you want to interrupt Auto-Betting? ");
+  EXPECT_EQ(f.ui.messages[1].text, "Do you want to stop Hyper-Drive?");
 }
 
 TEST(SavePrompts, DirtyFlagsFollowTheChanges) {
