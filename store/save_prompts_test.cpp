@@ -7,6 +7,8 @@
 #include "cli/temp_folder_for_test.h"
 #include "dice/dice_roll_files.h"
 #include "engine/table_commands.h"
+#include "script/interpreter.h"
+#include "script/text_form.h"
 #include "store/bet_file.h"
 #include "store/file_errors.h"
 #include "store/game_file.h"
@@ -31,6 +33,13 @@ struct Fixture {
   }
   std::string Path(const std::string& name) const { return (folder.path() / name).string(); }
 };
+
+// One pass of a script in its text form.
+void Pass(Table& t, const std::string& text) {
+  std::string error;
+  ASSERT_TRUE(ReadScriptText(text, t.g.AutoBet, error)) << error;
+  RunAutoBet(t.g);
+}
 
 struct PromptCase {
   const char* name;
@@ -223,6 +232,8 @@ TEST(SavePrompts, DirtyFlagsFollowTheChanges) {
       {"a Chip-Stack", [](Table& t) { t.Place(101, 5); }, true},
       {"a bet called off", [](Table& t) { t.Stand(bet::kPlaceBase + 2, 6); t.g.GameChanged = false; CallBet(t.g, bet::kPlaceBase + 2, kToolCallOff); }, true},
       {"a roll", [](Table& t) { t.Roll(2, 3); }, true},
+      {"a script's setting", [](Table& t) { Pass(t, "Do this\n  Set Auto-Take Full Odds on\n"); }, true},
+      {"a script's comment", [](Table& t) { Pass(t, "'nothing\n"); }, false},
   };
   for (const auto& c : cases) {
     t.g.GameChanged = false;
