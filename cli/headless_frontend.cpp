@@ -36,7 +36,7 @@ void NoteUnfitAnswer(const std::string& word, const std::string& title) {
 }  // namespace
 
 bool HeadlessFrontEnd::IsAnswerWord(const std::string& word) {
-  if (word == "yes" || word == "no" || word == "cancel") return true;
+  if (word == "yes" || word == "no" || word == "cancel" || IsFileAnswer(word)) return true;
   return IndexOf(kWonWords, word) || IndexOf(kLostWords, word) || IsAmount(word);
 }
 
@@ -111,6 +111,13 @@ void HeadlessFrontEnd::ShowStep(int lineNumber, const std::string& text, const s
 }
 
 std::optional<std::string> HeadlessFrontEnd::AskFileName(const std::string& title, const std::string& pattern) {
-  WriteMessage(out_, title, pattern, "cancel");
-  return std::nullopt;
+  std::optional<std::string> path;
+  if (auto word = TakeAnswer()) {
+    if (IsFileAnswer(*word))
+      path = word->substr(5);
+    else if (*word != "cancel")
+      NoteUnfitAnswer(*word, title);
+  }
+  WriteMessage(out_, title, pattern, path ? *path : "cancel");
+  return path;
 }

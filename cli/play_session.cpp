@@ -291,11 +291,12 @@ void PlaySession::New(const Args& a) {
 void PlaySession::Answer(const Args& a) {
   Args words;
   for (const std::string& w : a) {
-    words.push_back(ToLower(w));
+    // A file dialog's reply keeps its path as typed.
+    words.push_back(HeadlessFrontEnd::IsFileAnswer(ToLower(w)) ? "file:" + w.substr(5) : ToLower(w));
     if (!HeadlessFrontEnd::IsAnswerWord(words.back()))
       throw CommandError("'" + w +
                          "' is not a reply: yes, no, cancel, an amount, take, same, press, double, parlay, samebet, "
-                         "bet, none or remainder");
+                         "bet, none, remainder or file:PATH");
   }
   for (const std::string& w : words) ui_.QueueAnswer(w);
 }

@@ -83,16 +83,21 @@ TEST(PromptCommands, QuitAsksAboutUnsavedWork) {
   EXPECT_EQ(Asked(s.Run("quit")), (Asks{{"Save Game?", "cancel"}}));
   EXPECT_FALSE(s.play.Over());
 
-  // Yes on a game with no name of its own opens the file dialog, which play
-  // has not: its Cancel keeps the session going too.
+  // Yes on a game with no name of its own opens the file dialog; its Cancel
+  // (or a reply that is no file) keeps the session going too.
   EXPECT_EQ(Asked(s.Run("answer yes\nquit")), (Asks{{"Save Game?", "yes"}, {"Save Game File As", "cancel"}}));
+  EXPECT_EQ(Asked(s.Run("answer yes no\nquit")), (Asks{{"Save Game?", "yes"}, {"Save Game File As", "cancel"}}));
   EXPECT_FALSE(s.play.Over());
+  EXPECT_EQ(s.Error("answer file:"), "answer: 'file:' is not a reply: yes, no, cancel, an amount, take, same, press, "
+                                     "double, parlay, samebet, bet, none, remainder or file:PATH");
 
-  // The probabilities come last; with a file of their own Yes saves them.
-  s.play.game().ProbFileName = s.Path("mine.prb");
-  EXPECT_EQ(Asked(s.Run("answer no yes\nquit")), (Asks{{"Save Game?", "no"}, {"Save Probabilities?", "yes"}}));
+  // The probabilities come last; their dialog takes the path as typed.
+  const std::string prob = s.Path("Mine Table.prb");
+  EXPECT_EQ(Asked(s.Run("answer no yes \"FILE:" + prob + "\"\nquit")),
+            (Asks{{"Save Game?", "no"}, {"Save Probabilities?", "yes"}, {"Save Probability File As", prob}}));
   EXPECT_TRUE(s.play.Over());
-  EXPECT_TRUE(fs::exists(s.Path("mine.prb")));
+  EXPECT_TRUE(fs::exists(prob));
+  EXPECT_EQ(s.play.game().ProbFileName, prob);
   EXPECT_FALSE(fs::exists(s.Path(kActiveScriptName)));
   s.play.EndOfInput();  // the stop ran once
   EXPECT_TRUE(s.Run("").empty());
