@@ -44,12 +44,12 @@ void PlaySession::HotKey(const Args& a) {
     const std::string label = a.size() == 4 ? a[3] : "";
     if (a[2].size() > kHotKeyFieldBytes || label.size() > kHotKeyFieldBytes)
       throw CommandError("FILE and LABEL take at most 100 characters each");
-    if (!DefineHotKey(g, key, a[2], label)) throw CommandError("Ctrl " + std::string(1, key) + " was not defined");
+    if (!DefineHotKey(g, key, a[2], label)) throw CommandError(HotKeyCaption(key) + " was not defined");
     if (!SaveHotKeys(g)) throw CommandError(std::string(kHotKeysFileName) + " was not saved");
   } else if (verb == "clear") {
     ExpectCount(a, 2, 2);
     const char key = ReadKey(a[1]);
-    if (!ClearHotKey(g, key)) throw CommandError("Ctrl " + std::string(1, key) + " is not defined");
+    if (!ClearHotKey(g, key)) throw CommandError(HotKeyCaption(key) + " is not defined");
     if (!SaveHotKeys(g)) throw CommandError(std::string(kHotKeysFileName) + " was not saved");
   } else {
     ExpectCount(a, 1, 1);
@@ -59,7 +59,7 @@ void PlaySession::HotKey(const Args& a) {
         WriteJsonLine(out_, {{"hotkey", {{"key", std::string(1, key)}, {"file", FindHotKey(g, key)->File}}}});
         break;
       case HotKeyOutcome::NotBound:
-        throw CommandError("Ctrl " + std::string(1, key) + " is not defined");
+        throw CommandError(HotKeyCaption(key) + " is not defined");
       case HotKeyOutcome::Busy:
         throw CommandError("a pass is under way");
       case HotKeyOutcome::NotOpened:

@@ -24,6 +24,9 @@ struct HotKeyBinding {
 // A key the table can bind, upper-cased; 0 for any other character.
 char HotKeyChar(char c);
 
+// How the list shows a binding: "Ctrl " and the key.
+inline std::string HotKeyCaption(char key) { return std::string("Ctrl ") + key; }
+
 std::string EncodeHotKeys(const std::vector<HotKeyBinding>& keys);
 
 enum class HotKeysStatus { Ok, Corrupt };
