@@ -61,7 +61,9 @@ void PlaySession::DiceFile(const Args& a) {
     NeedArgs(a, 2, "open|create FILE.rol");
     std::error_code ec;
     if (sub == "create" && std::filesystem::exists(a[1], ec)) throw CommandError("\"" + a[1] + "\" already exists");
-    return Check(OpenRollFile(g, a[1]), "opening \"" + a[1] + "\"");
+    const bool opened = OpenRollFile(g, a[1]);
+    if (opened) g.GameChanged = true;  // the game links another file
+    return Check(opened, "opening \"" + a[1] + "\"");
   }
   if (sub == "info") {
     NeedArgs(a, 1, "info");
@@ -79,12 +81,14 @@ void PlaySession::DiceFile(const Args& a) {
   }
   if (sub == "status") {
     NeedArgs(a, 2, "status off|record|play");
+    g.GameChanged = true;
     return Check(SetRecorderStatus(g, ReadStatus(a[1])), "the status change");
   }
   NeedOpenFile(g);
   if (sub == "close") {
     NeedArgs(a, 1, "close");
     CloseRollFile(g);
+    g.GameChanged = true;
   } else if (sub == "position") {
     if (a.size() < 2 || a.size() > 3) throw CommandError("expected: dicefile position N [ANCHOR]");
     const int64_t next = ReadInteger(a[1], 1, MaxRolls, "N");

@@ -36,7 +36,7 @@ void NoteUnfitAnswer(const std::string& word, const std::string& title) {
 }  // namespace
 
 bool HeadlessFrontEnd::IsAnswerWord(const std::string& word) {
-  if (word == "yes" || word == "no" || word == "cancel") return true;
+  if (word == "yes" || word == "no" || word == "cancel" || IsFileAnswer(word)) return true;
   return IndexOf(kWonWords, word) || IndexOf(kLostWords, word) || IsAmount(word);
 }
 
@@ -108,4 +108,16 @@ void HeadlessFrontEnd::ShowStepsBanner(const std::string& word) { WriteJsonLine(
 
 void HeadlessFrontEnd::ShowStep(int lineNumber, const std::string& text, const std::string& status) {
   WriteJsonLine(out_, {{"step", {{"line", lineNumber}, {"text", text}, {"status", status}}}});
+}
+
+std::optional<std::string> HeadlessFrontEnd::AskFileName(const std::string& title, const std::string& pattern) {
+  std::optional<std::string> path;
+  if (auto word = TakeAnswer()) {
+    if (IsFileAnswer(*word))
+      path = word->substr(5);
+    else if (*word != "cancel")
+      NoteUnfitAnswer(*word, title);
+  }
+  WriteMessage(out_, title, pattern, path ? *path : "cancel");
+  return path;
 }

@@ -16,6 +16,8 @@ class HeadlessFrontEnd : public FrontEnd {
   // True for a word that `answer` may queue: yes, no, cancel, a settle
   // button word, or an amount.
   static bool IsAnswerWord(const std::string& word);
+  // "file:" and a path: the reply to a file dialog.
+  static bool IsFileAnswer(const std::string& word) { return word.size() > 5 && word.compare(0, 5, "file:") == 0; }
   void QueueAnswer(const std::string& word) { answers_.push_back(word); }
   size_t PendingAnswers() const { return answers_.size(); }
 
@@ -31,6 +33,9 @@ class HeadlessFrontEnd : public FrontEnd {
   // Steps are printed and go straight on: a script's trace, not a wait.
   void ShowStepsBanner(const std::string& word) override;
   void ShowStep(int lineNumber, const std::string& text, const std::string& status) override;
+  // The file dialog is a message whose reply is the path of a queued
+  // "file:PATH", or "cancel" for anything else.
+  std::optional<std::string> AskFileName(const std::string& title, const std::string& pattern) override;
 
  private:
   // The next queued reply; every dialog that asks consumes one, fitting or not.

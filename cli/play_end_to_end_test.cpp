@@ -36,12 +36,13 @@ CliRun RunCli(const fs::path& work, const std::string& env, const std::string& a
 TEST(PlayEndToEnd, ASessionFromStartToQuit) {
   TempFolder work;
   const std::string folder = "--folder '" + (work.path() / "data").string() + "'";
-  const CliRun run = RunCli(work.path(), "", folder, "# a short session\nbet 49 10\nbet 200 1\nstate\nquit\nstate\n");
+  const CliRun run = RunCli(work.path(), "", folder, "# a short session\nbet 49 10\nbet 200 1\nstate\nanswer no\nquit\nstate\n");
   EXPECT_EQ(run.status, 0);
   EXPECT_TRUE(fs::is_directory(work.path() / "data"));  // created on the way in
-  ASSERT_EQ(run.objects.size(), 2u);
+  ASSERT_EQ(run.objects.size(), 3u);
   EXPECT_TRUE(run.objects[0].contains("error"));
   EXPECT_EQ(run.objects[1].at("state").at("bets").at("49"), 10);
+  EXPECT_EQ(run.objects[2].at("message").at("title"), "Save Game?");  // the bet is unsaved
   // No quit: end of input ends the session just as well.
   EXPECT_EQ(RunCli(work.path(), "", folder, "state").status, 0);
 }

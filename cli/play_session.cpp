@@ -18,6 +18,7 @@
 #include "engine/place_bet.h"
 #include "engine/roll.h"
 #include "engine/table_commands.h"
+#include "store/save_prompts.h"
 
 struct PlaySession::Command {
   const char* word;
@@ -77,6 +78,7 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
       {"autobet", 1, 2, "autobet on|off|steps on|off|run", &PlaySession::AutoBet},
       {"flags", 0, 0, "flags", &PlaySession::Flags},
       {"advantage", 0, 1, "advantage [ID]", &PlaySession::Advantage},
+      {"hotkey", 1, 4, "hotkey K|list|set K FILE [LABEL]|clear K", &PlaySession::HotKey},
   };
   return commands;
 }
@@ -224,7 +226,11 @@ void PlaySession::RunAndReport() {
 
 // --- Settings ----------------------------------------------------------------
 
-void PlaySession::Set(const Args& a) { ApplySetting(*game_, a[0], a[1]); }
+void PlaySession::Set(const Args& a) {
+  const Json before = ReadSetting(*game_, a[0]);
+  ApplySetting(*game_, a[0], a[1]);
+  if (ReadSetting(*game_, a[0]) != before) game_->GameChanged = true;
+}
 
 void PlaySession::Get(const Args& a) {
   WriteJsonLine(out_, {{"setting", {{"name", a[0]}, {"value", ReadSetting(*game_, a[0])}}}});
@@ -235,6 +241,7 @@ void PlaySession::Chip(const Args& a) {
   const Currency value = ReadAmount(a[1], "VALUE");
   if (value <= 0) throw CommandError("VALUE " + a[1] + " must be above zero");
   game_->BetAmount[94 + n] = value;
+  game_->GameChanged = true;
 }
 
 void PlaySession::PayoffRow(const Args& a) {
@@ -242,6 +249,7 @@ void PlaySession::PayoffRow(const Args& a) {
   const PayoffRecord p = ReadPayoff(a);
   Game& g = *game_;
   g.Payoff[id] = p;
+  g.GameChanged = true;
   // The line odds records follow the odds rows of the point.
   if ((bet::IsComeOdds(id) || bet::IsDontComeOdds(id)) && g.Point != 0) SyncOddsPayoffs(g);
 }
@@ -249,11 +257,13 @@ void PlaySession::PayoffRow(const Args& a) {
 void PlaySession::FieldRow(const Args& a) {
   const int row = static_cast<int>(ReadInteger(a[0], 1, 21, "ROW"));
   game_->FieldPayoff[row] = ReadPayoff(a);
+  game_->GameChanged = true;
 }
 
 void PlaySession::Seed(const Args& a) {
   game_->SeedRequest = ReadAmount(a[0], "N");
   SeedRNG(*game_, true);
+  game_->GameChanged = true;
 }
 
 // --- Game --------------------------------------------------------------------
@@ -285,22 +295,38 @@ void PlaySession::New(const Args& a) {
 void PlaySession::Answer(const Args& a) {
   Args words;
   for (const std::string& w : a) {
-    words.push_back(ToLower(w));
+    // A file dialog's reply keeps its path as typed.
+    words.push_back(HeadlessFrontEnd::IsFileAnswer(ToLower(w)) ? "file:" + w.substr(5) : ToLower(w));
     if (!HeadlessFrontEnd::IsAnswerWord(words.back()))
       throw CommandError("'" + w +
                          "' is not a reply: yes, no, cancel, an amount, take, same, press, double, parlay, samebet, "
-                         "bet, none or remainder");
+                         "bet, none, remainder or file:PATH");
   }
   for (const std::string& w : words) ui_.QueueAnswer(w);
 }
 
 void PlaySession::State(const Args&) { WriteJsonLine(out_, {{"state", TableStateJson(*game_)}}); }
 
-void PlaySession::Quit(const Args&) { quit_ = true; }
+void PlaySession::Quit(const Args&) {
+  if (!StopProgram(*game_)) return;  // a Cancel keeps the session going
+  stopped_ = quit_ = true;
+}
+
+void PlaySession::EndOfInput() {
+  if (stopped_) return;
+  stopped_ = true;
+  // After a --strict failure nothing more is printed.
+  if (ExitStatus() != 0)
+    CloseDown(*game_);
+  else
+    StopProgram(*game_, false);
+  out_.flush();
+}
 
 int RunPlay(std::istream& in, std::ostream& out, const PlayOptions& options) {
   PlaySession session(out, options);
   std::string line;
   while (!session.Over() && std::getline(in, line)) session.RunLine(line);
+  session.EndOfInput();
   return session.ExitStatus();
 }

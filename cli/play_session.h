@@ -34,6 +34,9 @@ class PlaySession {
   // 0, or 2 once an error was printed under --strict.
   int ExitStatus() const { return strict_ && failed_ ? 2 : 0; }
   bool Over() const { return quit_ || ExitStatus() != 0; }
+  // The stop of a session that ends without `quit`: the save questions are
+  // asked, but a Cancel can't keep it going. Runs once.
+  void EndOfInput();
 
   Game& game() { return *game_; }
   HeadlessFrontEnd& frontEnd() { return ui_; }
@@ -74,6 +77,7 @@ class PlaySession {
   void AutoBet(const Args& a);
   void Flags(const Args& a);
   void Advantage(const Args& a);  // cli/advantage_commands.cpp
+  void HotKey(const Args& a);  // cli/prompt_commands.cpp
   // A changed script offers its first cycle before the table's next roll.
   void GoToTable();
 
@@ -86,6 +90,7 @@ class PlaySession {
   bool strict_ = false;
   bool failed_ = false;
   bool quit_ = false;
+  bool stopped_ = false;  // the stop has run: questions, default game, work files
 };
 
 // Reads commands until end of input or `quit`; returns the exit status.

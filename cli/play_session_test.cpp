@@ -63,6 +63,7 @@ TEST(PlaySession, BlankLinesCommentsCaseQuitAndStrict) {
   EXPECT_TRUE(s.Run("\n   \n# bet 49 5\n\t# another\n").empty());
   EXPECT_TRUE(s.Run("BET 49 -7.5\nBet 50 5").empty());
   EXPECT_EQ(s.play.game().BetAmount[50], Currency(5));
+  s.Run("answer no");  // the bets are unsaved: quit asks
   EXPECT_FALSE(s.play.RunLine("quit"));
   EXPECT_TRUE(s.play.Over());
   EXPECT_TRUE(s.Run("state").empty());  // nothing runs after quit

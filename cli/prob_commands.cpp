@@ -85,10 +85,10 @@ void PlaySession::Prob(const Args& a) {
     WriteJsonLine(out_, {{"prob", ProbTableJson(g)}});
   } else if (verb == "reset") {
     ExpectArgs(a, 1, 1);
-    NewProbabilities(g);
+    if (NewProbabilities(g)) g.GameChanged = true;  // the game links another file
   } else if (verb == "open") {
     ExpectArgs(a, 2, 2);
-    if (QuerySaveProbabilityPage(g)) OpenProbabilityFile(g, a[1]);
+    if (QuerySaveProbabilityPage(g) && OpenProbabilityFile(g, a[1])) g.GameChanged = true;
   } else if (verb == "save") {
     ExpectArgs(a, 1, 2);
     if (a.size() == 1 && g.ProbFileName == "untitled") throw CommandError("the table has no file yet: give FILE");

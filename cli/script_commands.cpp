@@ -8,6 +8,7 @@
 #include "engine/game.h"
 #include "script/interpreter.h"
 #include "script/script_files.h"
+#include "store/small_files.h"
 
 namespace {
 
@@ -33,6 +34,7 @@ void PlaySession::ScriptFile(const Args& a) {
   Game& g = *game_;
   std::string error;
   if (!OpenScriptFile(g, a[0], error)) throw CommandError(error);
+  ScriptOpened(g);
   g.AutoBetActivated = true;
   WriteJsonLine(out_, {{"script", {{"file", g.AutoBet.FileName},
                                    {"lines", g.AutoBet.NumLines()},
@@ -54,7 +56,9 @@ void PlaySession::AutoBet(const Args& a) {
     TakeScriptSnapshots(g);
     return;
   }
-  g.AutoBetActivated = ReadOnOff(a[0], kAutoBetUsage);
+  const bool on = ReadOnOff(a[0], kAutoBetUsage);
+  if (on != g.AutoBetActivated) g.GameChanged = true;  // the switch is kept with the game
+  g.AutoBetActivated = on;
 }
 
 void PlaySession::Flags(const Args&) { WriteJsonLine(out_, {{"flags", FlagsJson(game_->AutoBet)}}); }

@@ -49,6 +49,11 @@ class FrontEnd {
   // the player goes on.
   virtual void ShowStepsBanner(const std::string& /*word*/) {}
   virtual void ShowStep(int /*lineNumber*/, const std::string& /*text*/, const std::string& /*status*/) {}
+  // The file dialog of a save: a path, or nullopt when the player cancels
+  // (and on front ends that have no such dialog).
+  virtual std::optional<std::string> AskFileName(const std::string& /*title*/, const std::string& /*pattern*/) {
+    return std::nullopt;
+  }
   // A pause a visible table makes so the player can follow (the script's
   // pass); front ends without a display go straight on.
   virtual void WaitSeconds(double /*seconds*/) {}

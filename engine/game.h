@@ -7,11 +7,14 @@
 #include <cstdint>
 #include <fstream>
 #include <string>
+#include <vector>
 
 #include "dice/generators.h"
 #include "dice/prob_table.h"
 #include "dice/skewed_draw.h"
 #include "store/dice_roll_file.h"
+#include "store/hot_keys_file.h"
+#include "store/sound_sets.h"
 #include "engine/catalogue.h"
 #include "engine/frontend.h"
 #include "engine/money.h"
@@ -191,6 +194,15 @@ struct Game {
 
   // --- Files ----------------------------------------------------------------
   std::string DataFolder;  // where "default.crp" and the other files live
+
+  // --- Unsaved work, Hot-Keys and sound sets ---------------------------------
+  // GameChanged (above) and ProbModified are the game's and the probability
+  // table's dirty flags; ScriptDirty is the script's.
+  bool ScriptDirty = false;
+  std::string GameFileName;       // the game's own file; empty for the default game
+  int32_t MsgReply = 1;           // the last save prompt's answer: 6 Yes, 7 No, 2 Cancel, 1 nothing asked
+  std::vector<HotKeyBinding> HotKeys;
+  SoundSets Sounds;
 
   // --- Screen ---------------------------------------------------------------
   FrontEnd* Ui = &silentUi;

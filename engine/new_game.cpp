@@ -8,6 +8,7 @@
 #include "engine/bet_status.h"
 #include "engine/game.h"
 #include "engine/roll.h"
+#include "store/small_files.h"
 
 namespace {
 
@@ -53,9 +54,11 @@ void StartUp(Game& g, const std::string& folder) {
   g.SpeedUnit = MeasureSpeedUnit();
   SeedAtStartUp(g);
   FillDefaults(g);
+  ListSoundSetsAndHotKeys(g);
   // The default game of the folder is opened here once game files exist;
   // until then every start is a new game with its starting bankroll.
   NewGame(g, false);
+  WriteActiveScript(g);
   if (g.Point == 0) PlayComeOutSound(g);
 }
 
@@ -99,6 +102,7 @@ void NewGame(Game& g, bool keepChipStacks) {
   g.Point = g.PointBeforeRoll = g.PointTwoRollsAgo = 0;
   g.TotalOnTable = 0;
   g.TableUsed = false;
+  g.GameFileName.clear();
   // A file being played or recorded: rewind it for the new game, or not.
   if (g.DiceFileMode != 0 && g.DiceFile.File.IsOpen()) OfferRewind(g);
   // The games log takes its row here once it exists.

@@ -269,16 +269,19 @@ void PlaceBet(Game& g, int betId) {
   if (betId < 0 || betId >= bet::kSlots) return;
   if (bet::IsStack(betId) || betId == bet::kSlots - 1) {
     PlaceStack(g, betId);
+    if (g.BetChangeAllowed != 0) g.GameChanged = true;
     return;
   }
   if (!bet::IsTableBet(betId)) {  // the bankroll, the rail and the chips take any change
     g.BetAmount[betId] += g.BetChange;
     g.BetChangeAllowed = g.BetChange;
+    if (g.BetChangeAllowed != 0) g.GameChanged = true;
     return;
   }
   const Currency before = g.BetAmount[betId];
   TablePlacement(g, betId).Run();
   g.BetChangeAllowed = g.BetAmount[betId] - before;
+  if (g.BetChangeAllowed != 0) g.GameChanged = true;
 }
 
 void PlaceBetOnTable(Game& g, int betId) {

@@ -158,6 +158,7 @@ void Throw(Game& g) {
   MovePoint(g);
 
   UpdateRollCounters(g);
+  g.GameChanged = true;
   ++g.HandStats[0];
   if (g.PointBeforeRoll == 0) ++g.HandStats[14];
 

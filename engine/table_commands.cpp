@@ -52,6 +52,7 @@ void CallBet(Game& g, int betId, int callTool) {
     return;
   }
   int& status = g.BetStatus[betId];
+  g.GameChanged = true;
   const int against = callTool == kToolCallOn ? -1 : 2;
   if (status == against) {
     SetBetStatusDefault(g, betId);

@@ -133,5 +133,9 @@ bool CarryOutSettingVerb(Game& g, PassState& pass, const ScriptLine& line) {
     case kResetTableKeepStacks: ResetTable(g, true); break;
     default: return false;
   }
+  // What the game file keeps has changed; a new game starts clean.
+  const bool changesGame = line.Code != kPlaySound && line.Code != kShowSteps && line.Code != kResetTable &&
+                           line.Code != kResetTableKeepStacks;
+  if (changesGame) g.GameChanged = true;
   return true;
 }

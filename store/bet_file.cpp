@@ -176,6 +176,9 @@ bool SaveAutoBetFile(Game& g, const std::string& path, bool selectedOnly) {
     ShowFileNameError(g);
     return false;
   }
-  if (!selectedOnly) g.AutoBet.FileName = path;
+  if (!selectedOnly) {
+    g.AutoBet.FileName = path;
+    g.ScriptDirty = false;
+  }
   return true;
 }

@@ -1,0 +1,69 @@
+// The Hot-Key commands of the play session: run a bound file once, list,
+// define and clear the bindings.
+
+#include "cli/command_error.h"
+#include "cli/command_words.h"
+#include "cli/json_lines.h"
+#include "cli/play_session.h"
+#include "engine/game.h"
+#include "script/hot_key_run.h"
+#include "store/hot_keys_file.h"
+
+namespace {
+
+constexpr const char* kHotKeyUsage = "hotkey K|list|set K FILE [LABEL]|clear K";
+
+char ReadKey(const std::string& word) {
+  const char key = word.size() == 1 ? HotKeyChar(word[0]) : 0;
+  if (key == 0) throw CommandError("'" + word + "' is no Hot-Key: A..Z or 0..9");
+  return key;
+}
+
+void ExpectCount(const std::vector<std::string>& a, size_t least, size_t most) {
+  if (a.size() < least || a.size() > most) throw CommandError(std::string("expected: ") + kHotKeyUsage);
+}
+
+Json HotKeysJson(const Game& g) {
+  Json keys = Json::array();
+  for (const HotKeyBinding& k : g.HotKeys)
+    keys.push_back({{"key", std::string(1, k.Key)}, {"file", k.File}, {"label", k.Label}});
+  return keys;
+}
+
+}  // namespace
+
+void PlaySession::HotKey(const Args& a) {
+  Game& g = *game_;
+  const std::string verb = ToLower(a[0]);
+  if (verb == "list") {
+    ExpectCount(a, 1, 1);
+    WriteJsonLine(out_, {{"hotkeys", HotKeysJson(g)}});
+  } else if (verb == "set") {
+    ExpectCount(a, 3, 4);
+    const char key = ReadKey(a[1]);
+    const std::string label = a.size() == 4 ? a[3] : "";
+    if (a[2].size() > kHotKeyFieldBytes || label.size() > kHotKeyFieldBytes)
+      throw CommandError("FILE and LABEL take at most 100 characters each");
+    if (!DefineHotKey(g, key, a[2], label)) throw CommandError(HotKeyCaption(key) + " was not defined");
+    if (!SaveHotKeys(g)) throw CommandError(std::string(kHotKeysFileName) + " was not saved");
+  } else if (verb == "clear") {
+    ExpectCount(a, 2, 2);
+    const char key = ReadKey(a[1]);
+    if (!ClearHotKey(g, key)) throw CommandError(HotKeyCaption(key) + " is not defined");
+    if (!SaveHotKeys(g)) throw CommandError(std::string(kHotKeysFileName) + " was not saved");
+  } else {
+    ExpectCount(a, 1, 1);
+    const char key = ReadKey(a[0]);
+    switch (RunHotKey(g, key)) {
+      case HotKeyOutcome::Ran:
+        WriteJsonLine(out_, {{"hotkey", {{"key", std::string(1, key)}, {"file", FindHotKey(g, key)->File}}}});
+        break;
+      case HotKeyOutcome::NotBound:
+        throw CommandError(HotKeyCaption(key) + " is not defined");
+      case HotKeyOutcome::Busy:
+        throw CommandError("a pass is under way");
+      case HotKeyOutcome::NotOpened:
+        throw CommandError("\"" + FindHotKey(g, key)->File + "\" was not opened");
+    }
+  }
+}

@@ -1,0 +1,58 @@
+#include "store/small_files.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+#include "dice/dice_roll_files.h"
+#include "engine/game.h"
+#include "store/bet_file.h"
+#include "store/file_errors.h"
+#include "store/hot_keys_file.h"
+#include "store/sound_sets.h"
+
+std::filesystem::path DataFile(const Game& g, const char* name) { return std::filesystem::path(g.DataFolder) / name; }
+
+bool WriteActiveScript(const Game& g) {
+  if (g.DataFolder.empty()) return false;
+  const auto& lines = g.AutoBet.Lines;
+  if (!std::all_of(lines.begin(), lines.end(), [](const ScriptLine& l) { return FitsFileFields(l); })) return false;
+  return WriteFileAtomically(DataFile(g, kActiveScriptName), EncodeBetFile(g.AutoBet, false));
+}
+
+std::optional<std::vector<ScriptLine>> ReadActiveScript(const Game& g) {
+  if (g.DataFolder.empty()) return std::nullopt;
+  std::ifstream in(DataFile(g, kActiveScriptName), std::ios::binary);
+  if (!in) return std::nullopt;
+  const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  if (in.bad()) return std::nullopt;
+  DecodedBetFile file = DecodeBetFile(bytes);
+  if (file.Status != BetFileStatus::Ok) return std::nullopt;
+  return std::move(file.Lines);
+}
+
+void ListSoundSetsAndHotKeys(Game& g) {
+  g.Sounds = ListSoundSets(g.DataFolder);
+  LoadHotKeys(g);
+}
+
+void ScriptOpened(Game& g) {
+  g.ScriptDirty = false;
+  g.GameChanged = true;
+  WriteActiveScript(g);
+}
+
+void ScriptEditorClosed(Game& g, bool changed) {
+  if (!changed) return;
+  g.ScriptDirty = true;
+  g.InitPending = true;
+  WriteActiveScript(g);
+}
+
+void RemoveWorkFiles(Game& g) {
+  CloseRollFile(g);
+  if (g.DataFolder.empty()) return;
+  std::error_code ignored;
+  std::filesystem::remove(DataFile(g, kActiveScriptName), ignored);
+  std::filesystem::remove(DataFile(g, kClipboardName), ignored);
+}
