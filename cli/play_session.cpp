@@ -73,6 +73,9 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
       {"script", 1, 1, "script FILE", &PlaySession::ScriptFile},
       {"autobet", 1, 2, "autobet on|off|steps on|off|run", &PlaySession::AutoBet},
       {"flags", 0, 0, "flags", &PlaySession::Flags},
+      {"results", 1, 2, "results IDS|all [actual|phantom]", &PlaySession::Results},
+      {"summary", 0, 0, "summary", &PlaySession::Summary},
+      {"trends", 0, 0, "trends", &PlaySession::Trends},
   };
   return commands;
 }

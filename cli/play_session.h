@@ -70,6 +70,9 @@ class PlaySession {
   void ScriptFile(const Args& a);  // cli/script_commands.cpp
   void AutoBet(const Args& a);
   void Flags(const Args& a);
+  void Results(const Args& a);  // cli/stats_commands.cpp
+  void Summary(const Args& a);
+  void Trends(const Args& a);
   // A changed script offers its first cycle before the table's next roll.
   void GoToTable();
 

@@ -164,11 +164,25 @@ struct Game {
   std::array<int32_t, 91> PreviousRollsSinceLast{};
   Currency SimRollRate = 100;  // simulated rolls per hour
 
-  // Every bet decided in the game, for the run report: a push decides nothing.
-  struct DecidedBets {
-    int64_t Won = 0, Lost = 0;
-    Currency WonAmount, LostAmount;  // net won, and lost, both positive
-  } Decided;
+  // --- Bet results -------------------------------------------------------------
+  // BetWagers, BetWins, BetLosses [kind: 0 phantom, 1 actual][BetId 0..100]
+  // [measure 0..7]; see stats/bet_results.h. BetId 0 is the totals cell.
+  using BetResultTable = std::array<std::array<std::array<Currency, 8>, 101>, 2>;
+  BetResultTable BetWagers{}, BetWins{}, BetLosses{};
+  // The cells booked since the top of the roll (kind x 101 + BetId), so that
+  // clearing the last-roll measures costs only what was booked.
+  std::array<int16_t, 202> BookedThisRoll{};
+  std::array<bool, 202> BookedListed{};
+  int32_t BookedThisRollCount = 0;
+  // The latest results of the bets actually made, oldest first, for the
+  // trends view: signed net amounts and the roll count of each.
+  static constexpr int kTrendCells = 10;
+  struct BetTrend {
+    std::array<Currency, kTrendCells> Net{};
+    std::array<int32_t, kTrendCells> Roll{};
+    int32_t Count = 0;
+  };
+  std::array<BetTrend, 84> BetTrends{};
 
   // --- Dice Roll File ---------------------------------------------------------
   // The open file, its positions and its handle (closed with the game).

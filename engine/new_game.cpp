@@ -8,6 +8,7 @@
 #include "engine/bet_status.h"
 #include "engine/game.h"
 #include "engine/roll.h"
+#include "stats/bet_results.h"
 
 namespace {
 
@@ -84,7 +85,7 @@ void NewGame(Game& g, bool keepChipStacks) {
   g.LayVigOnBet.fill(0);
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) g.BetStatus[id] = g.WorkOnComeOut[id];
   for (Flag& f : g.AutoBet.Flags) f.FlagValue = f.FlagPrevious = 0;
-  g.Decided = {};
+  ClearBetResults(g);
   if (g.ReSeedNewGames) SeedRNG(g, false);
 
   const Currency bankroll = BeginningBankroll(g, savedBankroll);
