@@ -172,7 +172,7 @@ struct Game {
   // The cells booked since the top of the roll (kind x 101 + BetId), so that
   // clearing the last-roll measures costs only what was booked.
   std::array<int16_t, 202> BookedThisRoll{};
-  std::array<bool, 202> BookedListed{};
+  std::array<uint8_t, 202> BookedListed{};
   int32_t BookedThisRollCount = 0;
   // The latest results of the bets actually made, oldest first, for the
   // trends view: signed net amounts and the roll count of each.

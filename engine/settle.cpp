@@ -6,6 +6,7 @@
 #include "engine/game.h"
 #include "engine/settle_notice.h"
 #include "stats/bet_results.h"
+#include "stats/phantom_payoff.h"
 
 namespace {
 
@@ -130,13 +131,11 @@ void KeepStreak(Game& g, int betId) {
 void SettleBet(Game& g, int outcome, int betId) {
   g.SettlingBetId = betId;
   if (!bet::IsTableBet(betId)) return;
-  // The phantom unit of a working bet, figured and booked for empty spots
-  // too. Beyond it an empty spot has nothing to settle, working or not.
+  // The phantom unit of a working bet, FigurePayoff (0, BetId, Outcome, 1),
+  // figured and booked for empty spots too. Beyond it an empty spot has
+  // nothing to settle, working or not.
   const bool working = g.BetStatus[betId] >= 1;
-  if (working) {
-    FigurePayoff(g, 0, betId, outcome, 1);
-    BookBetResult(g, results::kPhantom, betId, 1, g.RawPayoff);
-  }
+  if (working) BookPhantomResult(g, betId, outcome);
   if (g.BetAmount[betId] == 0) return;
   if (working)
     SettleWorkingBet(g, outcome, betId);

@@ -10,15 +10,6 @@ using Cell = std::array<Currency, kMeasures>;
 
 constexpr int kCells = 101;  // BetIds 0..100 of one kind
 
-// A phantom unit on a Come or Don't Come number stands only once one has
-// travelled there; with Put bets one may be put on a Come number at any time.
-bool PhantomStands(const Game& g, int betId) {
-  if (betId < bet::kDontComeBase || betId > bet::kComeOddsBase + 5) return true;
-  if (bet::IsComeNumber(betId) || bet::IsComeOdds(betId))
-    if (g.AllowPutBets) return true;
-  return g.BetWagers[kPhantom][betId][kMark] != 0;
-}
-
 // A Lay or Buy stakes its vig too wherever the vig is paid: on a win, or
 // on every decision when it is charged up front. A phantom Buy of 1 pays
 // the rate on 1; a phantom Lay pays it on what the lay would win.
@@ -44,11 +35,14 @@ void Book(Cell& cell, Currency amount) {
   cell[kLastRollAmount] = amount;
 }
 
-void ListForNextRoll(Game& g, int kind, int betId) {
+// Which tables of a cell hold last-roll measures: clearing touches no more.
+constexpr uint8_t kListed = 1, kInWins = 2, kInLosses = 4;
+
+void ListForNextRoll(Game& g, int kind, int betId, uint8_t tables) {
   const int index = kind * kCells + betId;
-  if (g.BookedListed[index]) return;
-  g.BookedListed[index] = true;
-  g.BookedThisRoll[g.BookedThisRollCount++] = static_cast<int16_t>(index);
+  uint8_t& listed = g.BookedListed[index];
+  if (listed == 0) g.BookedThisRoll[g.BookedThisRollCount++] = static_cast<int16_t>(index);
+  listed |= kListed | tables;
 }
 
 void KeepTrend(Game& g, int betId, Currency net) {
@@ -72,16 +66,26 @@ void SetNumberMarks(Game& g, int number, Currency mark) {
 
 }  // namespace
 
+bool PhantomStands(const Game& g, int betId) {
+  if (betId < bet::kDontComeBase || betId > bet::kComeOddsBase + 5) return true;
+  if (bet::IsComeNumber(betId) || bet::IsComeOdds(betId))
+    if (g.AllowPutBets) return true;
+  return g.BetWagers[kPhantom][betId][kMark] != 0;
+}
+
 void BookBetResult(Game& g, int kind, int betId, Currency stake, Currency net) {
-  if (net == 0) return;  // a push decides nothing
   if (kind == kPhantom && !PhantomStands(g, betId)) return;
-  stake += VigOnStake(g, kind, betId, net);
+  BookEntry(g, kind, betId, stake + VigOnStake(g, kind, betId, net), net);
+}
+
+void BookEntry(Game& g, int kind, int betId, Currency stake, Currency net) {
+  if (net == 0) return;  // a push decides nothing
   Book(g.BetWagers[kind][betId], stake);
   if (net > 0)
     Book(g.BetWins[kind][betId], net);
   else
     Book(g.BetLosses[kind][betId], -net);
-  ListForNextRoll(g, kind, betId);
+  ListForNextRoll(g, kind, betId, net > 0 ? kInWins : kInLosses);
   if (kind == kActual && betId < static_cast<int>(g.BetTrends.size())) KeepTrend(g, betId, net);
 }
 
@@ -90,9 +94,9 @@ void MoveResultMarks(Game& g) {
     const int index = g.BookedThisRoll[i];
     const int kind = index / kCells, betId = index % kCells;
     ClearLastRoll(g.BetWagers[kind][betId]);
-    ClearLastRoll(g.BetWins[kind][betId]);
-    ClearLastRoll(g.BetLosses[kind][betId]);
-    g.BookedListed[index] = false;
+    if (g.BookedListed[index] & kInWins) ClearLastRoll(g.BetWins[kind][betId]);
+    if (g.BookedListed[index] & kInLosses) ClearLastRoll(g.BetLosses[kind][betId]);
+    g.BookedListed[index] = 0;
   }
   g.BookedThisRollCount = 0;
 
@@ -102,7 +106,8 @@ void MoveResultMarks(Game& g) {
     // units travel to it whenever a point was up, a fresh one stands behind.
     SetNumberMarks(g, total, g.PointBeforeRoll > 0 ? Currency(1) : Currency{});
   } else if (total == 7) {
-    for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) g.BetWagers[kPhantom][id][kMark] = 0;
+    // Only the Come and Don't Come numbers and their odds ever carry a mark.
+    for (int id = bet::kDontComeBase; id <= bet::kComeOddsBase + 5; ++id) g.BetWagers[kPhantom][id][kMark] = 0;
   }
 }
 
@@ -120,9 +125,10 @@ void RelistLastRollCells(Game& g) {
   g.BookedThisRollCount = 0;
   for (int kind = kPhantom; kind <= kActual; ++kind)
     for (int betId = 1; betId < kCells; ++betId) {
-      const bool booked = g.BetWagers[kind][betId][kLastRollCount] != 0 || g.BetWagers[kind][betId][kLastRollAmount] != 0 ||
-                          g.BetWins[kind][betId][kLastRollCount] != 0 || g.BetLosses[kind][betId][kLastRollCount] != 0;
-      if (booked) ListForNextRoll(g, kind, betId);
+      auto holds = [](const Cell& cell) { return cell[kLastRollCount] != 0 || cell[kLastRollAmount] != 0; };
+      const uint8_t tables = (holds(g.BetWins[kind][betId]) ? kInWins : 0) |
+                             (holds(g.BetLosses[kind][betId]) ? kInLosses : 0);
+      if (tables != 0 || holds(g.BetWagers[kind][betId])) ListForNextRoll(g, kind, betId, tables);
     }
 }
 

@@ -83,7 +83,6 @@ TEST(BetResults, MarksMoveAtTheTopOfEachRoll) {
       for (int id : {bet::DontCome(n), bet::DontComeOdds(n), bet::Come(n), bet::ComeOdds(n)})
         t.g.BetWagers[kPhantom][id][kMark] = 1;
     }
-    t.g.BetWagers[kPhantom][bet::kField][kMark] = 1;  // a 7 clears every mark
     t.g.DiceTotal = c.lastTotal;
     t.g.PointBeforeRoll = c.pointBefore;
     MoveResultMarks(t.g);
@@ -91,7 +90,6 @@ TEST(BetResults, MarksMoveAtTheTopOfEachRoll) {
     for (int id : {bet::DontCome(8), bet::DontComeOdds(8), bet::Come(8), bet::ComeOdds(8)})
       EXPECT_EQ(t.g.BetWagers[kPhantom][id][kMark], c.lastTotal == 6 ? Currency(1) : c.mark);
     EXPECT_EQ(t.g.BetWagers[kPhantom][bet::Come(6)][kMark], c.lastTotal == 7 ? 0 : 1);
-    EXPECT_EQ(t.g.BetWagers[kPhantom][bet::kField][kMark], c.lastTotal == 7 ? 0 : 1);
   }
 }
 
