@@ -2,6 +2,7 @@
 // `results` (the bet results screen), `summary` and `trends`.
 
 #include <algorithm>
+#include <cmath>
 
 #include "cli/command_error.h"
 #include "cli/command_words.h"
@@ -42,8 +43,10 @@ int ReadKind(const std::string& word) {
   throw CommandError("'" + word + "' is neither actual nor phantom");
 }
 
+// Money exact, counts whole, hourly counts as they come.
 Json Figure(const BetResultRow& row, double value) {
   if (row.Money) return MoneyJson(Currency::FromDouble(value));
+  if (value == std::floor(value) && std::fabs(value) < 9e15) return static_cast<int64_t>(value);
   return value;
 }
 

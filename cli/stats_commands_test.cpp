@@ -16,6 +16,7 @@ TEST(StatsCommands, ResultsReadsASelectionAndAKind) {
   EXPECT_EQ(total.dump(),
             R"({"label":"Total $","wagers":10,"wins":15,"losses":0,"net":15,"netPercent":150.0,)"
             R"("cells":["10","15","0","15","150.00%"]})");
+  EXPECT_EQ(field["rows"][0]["wagers"].dump(), "2");  // counts are whole numbers
   EXPECT_EQ(field["rows"][10]["label"], "Expctd value $");
   EXPECT_FALSE(field["rows"][10].contains("wagers"));
 

@@ -168,11 +168,14 @@ struct Game {
   // BetWagers, BetWins, BetLosses [kind: 0 phantom, 1 actual][BetId 0..100]
   // [measure 0..7]; see stats/bet_results.h. BetId 0 is the totals cell.
   using BetResultTable = std::array<std::array<std::array<Currency, 8>, 101>, 2>;
-  BetResultTable BetWagers{}, BetWins{}, BetLosses{};
-  // The cells booked since the top of the roll (kind x 101 + BetId), so that
+  // Aligned so that a cell is one cache line: every decision touches them.
+  alignas(64) BetResultTable BetWagers{};
+  alignas(64) BetResultTable BetWins{};
+  alignas(64) BetResultTable BetLosses{};
+  // The cells booked since the top of the roll (kind x 128 + BetId), so that
   // clearing the last-roll measures costs only what was booked.
-  std::array<int16_t, 202> BookedThisRoll{};
-  std::array<uint8_t, 202> BookedListed{};
+  std::array<int16_t, 256> BookedThisRoll{};
+  std::array<uint8_t, 256> BookedListed{};
   int32_t BookedThisRollCount = 0;
   // The latest results of the bets actually made, oldest first, for the
   // trends view: signed net amounts and the roll count of each.

@@ -1,14 +1,12 @@
 #include "stats/bet_results.h"
 
+#include "stats/result_cells.h"
+
 #include <algorithm>
 
 using namespace results;
 
 namespace {
-
-using Cell = std::array<Currency, kMeasures>;
-
-constexpr int kCells = 101;  // BetIds 0..100 of one kind
 
 // A Lay or Buy stakes its vig too wherever the vig is paid: on a win, or
 // on every decision when it is charged up front. A phantom Buy of 1 pays
@@ -25,27 +23,16 @@ Currency VigOnStake(const Game& g, int kind, int betId, Currency net) {
   return Currency{};
 }
 
-void Book(Cell& cell, Currency amount) {
-  cell[kCount] += Currency(1);
-  cell[kTotal] += amount;
-  if (amount > cell[kHigh]) cell[kHigh] = amount;
-  if (cell[kLow] == 0 || amount < cell[kLow]) cell[kLow] = amount;
-  cell[kLast] = amount;
-  cell[kLastRollCount] = Currency(1);
-  cell[kLastRollAmount] = amount;
+void ClearLastRoll(Cell& cell) { cell[kLastRollCount] = cell[kLastRollAmount] = Currency{}; }
+
+void SetNumberMarks(Game& g, int number, Currency mark) {
+  for (int id : {bet::DontCome(number), bet::DontComeOdds(number), bet::Come(number), bet::ComeOdds(number)})
+    g.BetWagers[kPhantom][id][kMark] = mark;
 }
 
-// Which tables of a cell hold last-roll measures: clearing touches no more.
-constexpr uint8_t kListed = 1, kInWins = 2, kInLosses = 4;
+}  // namespace
 
-void ListForNextRoll(Game& g, int kind, int betId, uint8_t tables) {
-  const int index = kind * kCells + betId;
-  uint8_t& listed = g.BookedListed[index];
-  if (listed == 0) g.BookedThisRoll[g.BookedThisRollCount++] = static_cast<int16_t>(index);
-  listed |= kListed | tables;
-}
-
-void KeepTrend(Game& g, int betId, Currency net) {
+void results::KeepTrend(Game& g, int betId, Currency net) {
   Game::BetTrend& trend = g.BetTrends[betId];
   if (trend.Count == Game::kTrendCells) {
     std::copy(trend.Net.begin() + 1, trend.Net.end(), trend.Net.begin());
@@ -57,45 +44,20 @@ void KeepTrend(Game& g, int betId, Currency net) {
   ++trend.Count;
 }
 
-void ClearLastRoll(Cell& cell) { cell[kLastRollCount] = cell[kLastRollAmount] = Currency{}; }
-
-void SetNumberMarks(Game& g, int number, Currency mark) {
-  for (int id : {bet::DontCome(number), bet::DontComeOdds(number), bet::Come(number), bet::ComeOdds(number)})
-    g.BetWagers[kPhantom][id][kMark] = mark;
-}
-
-}  // namespace
-
-bool PhantomStands(const Game& g, int betId) {
-  if (betId < bet::kDontComeBase || betId > bet::kComeOddsBase + 5) return true;
-  if (bet::IsComeNumber(betId) || bet::IsComeOdds(betId))
-    if (g.AllowPutBets) return true;
-  return g.BetWagers[kPhantom][betId][kMark] != 0;
-}
-
 void BookBetResult(Game& g, int kind, int betId, Currency stake, Currency net) {
   if (kind == kPhantom && !PhantomStands(g, betId)) return;
   BookEntry(g, kind, betId, stake + VigOnStake(g, kind, betId, net), net);
 }
 
-void BookEntry(Game& g, int kind, int betId, Currency stake, Currency net) {
-  if (net == 0) return;  // a push decides nothing
-  Book(g.BetWagers[kind][betId], stake);
-  if (net > 0)
-    Book(g.BetWins[kind][betId], net);
-  else
-    Book(g.BetLosses[kind][betId], -net);
-  ListForNextRoll(g, kind, betId, net > 0 ? kInWins : kInLosses);
-  if (kind == kActual && betId < static_cast<int>(g.BetTrends.size())) KeepTrend(g, betId, net);
-}
-
 void MoveResultMarks(Game& g) {
   for (int i = 0; i < g.BookedThisRollCount; ++i) {
     const int index = g.BookedThisRoll[i];
-    const int kind = index / kCells, betId = index % kCells;
+    const int kind = index / kListStride, betId = index % kListStride;
+    const uint8_t tables = g.BookedListed[index];
     ClearLastRoll(g.BetWagers[kind][betId]);
-    if (g.BookedListed[index] & kInWins) ClearLastRoll(g.BetWins[kind][betId]);
-    if (g.BookedListed[index] & kInLosses) ClearLastRoll(g.BetLosses[kind][betId]);
+    // Mostly one of the two, chosen without a branch.
+    ClearLastRoll((tables & kInWins ? g.BetWins : g.BetLosses)[kind][betId]);
+    if (tables == (kListed | kInWins | kInLosses)) ClearLastRoll(g.BetLosses[kind][betId]);
     g.BookedListed[index] = 0;
   }
   g.BookedThisRollCount = 0;

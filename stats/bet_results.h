@@ -29,13 +29,6 @@ constexpr int kMeasures = 8;
 // its odds) is booked only while a unit stands there.
 void BookBetResult(Game& g, int kind, int betId, Currency stake, Currency net);
 
-// A phantom Come or Don't Come unit (or its odds) stands on its number only
-// once one has travelled there; with Put bets one may be put on a Come
-// number at any time. Every other spot always carries one.
-bool PhantomStands(const Game& g, int betId);
-// Books a decision whose stake already carries its vig; nothing for a push.
-void BookEntry(Game& g, int kind, int betId, Currency stake, Currency net);
-
 // The top of a roll: clears the last-roll measures, then moves the phantom
 // marks by the last roll's DiceTotal and PointBeforeRoll.
 void MoveResultMarks(Game& g);

@@ -1,6 +1,6 @@
 #include "stats/phantom_payoff.h"
 
-#include "stats/bet_results.h"
+#include "stats/result_cells.h"
 
 namespace {
 
@@ -52,6 +52,8 @@ PhantomFigure WithVig(Currency raw, Currency vig, bool chargeAll) {
 
 PhantomFigure FigurePhantom(const Game& g, int betId, int outcome) {
   const bool won = outcome > 0;
+  // Most calls by far: a loser with no vig and no dice row, say a Hop.
+  if (!won && betId > bet::kBuyBase + 5 && betId != bet::kField) return {kUnit, -kUnit};
   if (betId == bet::kField) return {kUnit, UnitShare(g.FieldPayoff[bet::FieldRow(g.Die1, g.Die2)])};
   if (bet::IsLay(betId)) {
     const Currency share = UnitShare(g.Payoff[betId]);
@@ -74,7 +76,7 @@ PhantomFigure FigurePhantom(const Game& g, int betId, int outcome) {
 }
 
 void BookPhantomResult(Game& g, int betId, int outcome) {
-  if (!PhantomStands(g, betId)) return;
+  if (!results::PhantomStands(g, betId)) return;
   const PhantomFigure f = FigurePhantom(g, betId, outcome);
-  BookEntry(g, results::kPhantom, betId, f.Stake, f.Net);
+  results::BookEntry(g, results::kPhantom, betId, f.Stake, f.Net);
 }

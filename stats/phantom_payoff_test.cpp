@@ -39,7 +39,9 @@ TEST(PhantomPayoff, FiguresAsTheSettlingAndStakesAsTheBooking) {
               wagers[kPhantom][id][kMark] = 1;  // let a Come or Don't Come unit stand
               const Currency before = wagers[kPhantom][id][kTotal];
               BookBetResult(t.g, kPhantom, id, 1, f.Net);
-              if (f.Net != 0) ASSERT_EQ(f.Stake, wagers[kPhantom][id][kTotal] - before) << "bet " << id;
+              if (f.Net != 0) {
+                ASSERT_EQ(f.Stake, wagers[kPhantom][id][kTotal] - before) << "bet " << id;
+              }
             }
         }
   }
