@@ -1,17 +1,8 @@
 #include "stats/phantom_payoff.h"
 
-#include "stats/result_cells.h"
-
 namespace {
 
 const Currency kUnit = 1;
-
-// Win x 1 / Per; a Per of 1 needs no division.
-Currency UnitShare(const PayoffRecord& record) {
-  if (record.Per.raw == Currency::kScale) return record.Win;
-  if (record.Per.raw == 0) return Currency{};  // validation keeps Per above zero
-  return MulDiv(kUnit, record.Win, record.Per);
-}
 
 // The record that pays a won line bet: the Come or Don't Come record of the
 // point, or of the come-out.
@@ -50,11 +41,8 @@ PhantomFigure WithVig(Currency raw, Currency vig, bool chargeAll) {
 
 }  // namespace
 
-PhantomFigure FigurePhantom(const Game& g, int betId, int outcome) {
+PhantomFigure FigurePhantomInFull(const Game& g, int betId, int outcome) {
   const bool won = outcome > 0;
-  // Most calls by far: a loser with no vig and no dice row, say a Hop.
-  if (!won && betId > bet::kBuyBase + 5 && betId != bet::kField) return {kUnit, -kUnit};
-  if (betId == bet::kField) return {kUnit, UnitShare(g.FieldPayoff[bet::FieldRow(g.Die1, g.Die2)])};
   if (bet::IsLay(betId)) {
     const Currency share = UnitShare(g.Payoff[betId]);
     return WithVig(won ? share : -kUnit, MulRatio(share, g.LayVigRate.ToDouble()), g.ChargeAllLay);
@@ -62,21 +50,6 @@ PhantomFigure FigurePhantom(const Game& g, int betId, int outcome) {
   if (bet::IsBuy(betId))
     return WithVig(won ? UnitShare(g.Payoff[betId]) : -kUnit, MulRatio(kUnit, g.BuyVigRate.ToDouble()),
                    g.ChargeAllBuy);
-  if (!won) return {kUnit, -kUnit};
-  switch (betId) {
-    case bet::kPassLine:
-    case bet::kPassOdds:
-    case bet::kDontPass:
-    case bet::kDontPassOdds: return {kUnit, UnitShare(LineRecord(g, betId))};
-    case bet::kCandE:
-    case bet::kHorn:
-    case bet::kWorld: return {kUnit, SplitShare(g, betId)};
-    default: return {kUnit, UnitShare(g.Payoff[betId])};
-  }
-}
-
-void BookPhantomResult(Game& g, int betId, int outcome) {
-  if (!results::PhantomStands(g, betId)) return;
-  const PhantomFigure f = FigurePhantom(g, betId, outcome);
-  results::BookEntry(g, results::kPhantom, betId, f.Stake, f.Net);
+  if (betId == bet::kCandE || betId == bet::kHorn || betId == bet::kWorld) return {kUnit, SplitShare(g, betId)};
+  return {kUnit, UnitShare(LineRecord(g, betId))};
 }
