@@ -79,6 +79,9 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
       {"flags", 0, 0, "flags", &PlaySession::Flags},
       {"advantage", 0, 1, "advantage [ID]", &PlaySession::Advantage},
       {"hotkey", 1, 4, "hotkey K|list|set K FILE [LABEL]|clear K", &PlaySession::HotKey},
+      {"results", 1, 2, "results IDS|all [actual|phantom]", &PlaySession::Results},
+      {"summary", 0, 0, "summary", &PlaySession::Summary},
+      {"trends", 0, 0, "trends", &PlaySession::Trends},
   };
   return commands;
 }

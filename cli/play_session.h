@@ -78,6 +78,9 @@ class PlaySession {
   void Flags(const Args& a);
   void Advantage(const Args& a);  // cli/advantage_commands.cpp
   void HotKey(const Args& a);  // cli/prompt_commands.cpp
+  void Results(const Args& a);  // cli/stats_commands.cpp
+  void Summary(const Args& a);
+  void Trends(const Args& a);
   // A changed script offers its first cycle before the table's next roll.
   void GoToTable();
 

@@ -10,9 +10,29 @@ namespace {
 
 double RollsPerSecond(int64_t rolls, double seconds) { return seconds > 0 ? static_cast<double>(rolls) / seconds : 0; }
 
-Json BetsJson(int64_t won, int64_t lost, Currency amountWon, Currency amountLost) {
+double NetPercent(Currency net, Currency wagered) { return wagered != 0 ? 100 * net.ToDouble() / wagered.ToDouble() : 0; }
+
+// The summary's bet figures: counts, amounts (the amount decided is what was
+// staked, vig included), and the net with its share of the amount decided.
+Json BetsJson(int64_t won, int64_t lost, Currency wagered, Currency amountWon, Currency amountLost) {
+  const Currency net = amountWon - amountLost;
   return {{"decided", won + lost}, {"won", won}, {"lost", lost},
-          {"amountWon", MoneyJson(amountWon)}, {"amountLost", MoneyJson(amountLost)}};
+          {"amountDecided", MoneyJson(wagered)}, {"amountWon", MoneyJson(amountWon)},
+          {"amountLost", MoneyJson(amountLost)}, {"net", MoneyJson(net)},
+          {"netPercent", NetPercent(net, wagered)}};
+}
+
+// The expected value to the cent.
+double Cents(double v) { return std::nearbyint(v * 100) / 100; }
+
+Json BetResultsJson(const std::vector<ActualBetLine>& lines) {
+  Json bets = Json::array();
+  for (const ActualBetLine& b : lines)
+    bets.push_back({{"id", b.BetId}, {"name", b.Name}, {"decided", b.Decided}, {"won", b.Won}, {"lost", b.Lost},
+                    {"amountDecided", MoneyJson(b.Wagered)}, {"amountWon", MoneyJson(b.AmountWon)},
+                    {"amountLost", MoneyJson(b.AmountLost)}, {"net", MoneyJson(b.Net)},
+                    {"netPercent", NetPercent(b.Net, b.Wagered)}, {"expectedValue", Cents(b.ExpectedValue)}});
+  return bets;
 }
 
 Json GameJson(const GameResult& r, bool withTiming) {
@@ -27,7 +47,8 @@ Json GameJson(const GameResult& r, bool withTiming) {
                           {"low", MoneyJson(r.BankrollLow)},
                           {"average", MoneyJson(r.BankrollAverage)}}},
             {"net", MoneyJson(r.Net)},
-            {"bets", BetsJson(r.BetsWon, r.BetsLost, r.AmountWon, r.AmountLost)},
+            {"bets", BetsJson(r.BetsWon, r.BetsLost, r.AmountWagered, r.AmountWon, r.AmountLost)},
+            {"betResults", BetResultsJson(r.Bets)},
             {"ruined", r.Ruined}};
   if (withTiming) j["seconds"] = r.Seconds, j["rollsPerSecond"] = RollsPerSecond(r.Rolls, r.Seconds);
   return j;
@@ -44,6 +65,26 @@ std::string Fixed(double v, int decimals = 2) {
 // A figure of the batch, to the cent.
 std::string MoneyFigure(double v) { return Money(Currency::FromDouble(std::nearbyint(v * 100) / 100)); }
 
+std::string Percent(Currency net, Currency wagered) { return Fixed(NetPercent(net, wagered)) + "%"; }
+
+void WriteBetFigures(std::ostream& out, int64_t won, int64_t lost, Currency wagered, Currency amountWon,
+                     Currency amountLost) {
+  const Currency net = amountWon - amountLost;
+  out << "  bets decided " << FormatWithCommas(won + lost) << " (" << Money(wagered) << "): won "
+      << FormatWithCommas(won) << " (" << Money(amountWon) << "), lost " << FormatWithCommas(lost) << " ("
+      << Money(amountLost) << ")\n"
+      << "  " << (net < 0 ? "net loss " : "net win ") << Money(net) << ", " << Percent(net, wagered)
+      << " of the amount decided\n";
+}
+
+void WriteBetResultsText(std::ostream& out, const std::vector<ActualBetLine>& lines) {
+  for (const ActualBetLine& b : lines)
+    out << "    " << b.Name << " (" << b.BetId << "): decided " << FormatWithCommas(b.Decided) << " ("
+        << Money(b.Wagered) << "), won " << FormatWithCommas(b.Won) << " (" << Money(b.AmountWon) << "), lost "
+        << FormatWithCommas(b.Lost) << " (" << Money(b.AmountLost) << "), net " << Money(b.Net) << " ("
+        << Percent(b.Net, b.Wagered) << "), expected " << MoneyFigure(b.ExpectedValue) << "\n";
+}
+
 void WriteGameText(std::ostream& out, const GameResult& r) {
   out << "Game (seed " << r.Seed << "): " << (r.StopReason.empty() ? "(no stop reason)" : r.StopReason) << "\n"
       << "  rolls " << FormatWithCommas(r.Rolls) << ", hands " << FormatWithCommas(r.Hands) << ", sim hrs "
@@ -51,11 +92,11 @@ void WriteGameText(std::ostream& out, const GameResult& r) {
       << "  bankroll start " << Money(r.BankrollStart) << ", end " << Money(r.BankrollEnd) << ", high "
       << Money(r.BankrollHigh) << ", low " << Money(r.BankrollLow) << ", average " << Money(r.BankrollAverage)
       << "\n"
-      << "  net " << Money(r.Net) << "\n"
-      << "  bets decided " << FormatWithCommas(r.BetsWon + r.BetsLost) << ": won " << FormatWithCommas(r.BetsWon)
-      << " (" << Money(r.AmountWon) << "), lost " << FormatWithCommas(r.BetsLost) << " (" << Money(r.AmountLost)
-      << ")\n"
-      << "  time " << Fixed(r.Seconds, 3) << " s, " << FormatWithCommas(static_cast<int64_t>(RollsPerSecond(r.Rolls, r.Seconds)))
+      << "  net " << Money(r.Net) << "\n";
+  WriteBetFigures(out, r.BetsWon, r.BetsLost, r.AmountWagered, r.AmountWon, r.AmountLost);
+  if (!r.Bets.empty()) out << "  bet results (actual):\n";
+  WriteBetResultsText(out, r.Bets);
+  out << "  time " << Fixed(r.Seconds, 3) << " s, " << FormatWithCommas(static_cast<int64_t>(RollsPerSecond(r.Rolls, r.Seconds)))
       << " rolls/s\n";
 }
 
@@ -68,7 +109,7 @@ Json RunReportJson(const RunOptions& options, const BatchResult& batch, bool wit
   Json summary = {{"games", s.Games},
                   {"rolls", s.Rolls},
                   {"hands", s.Hands},
-                  {"bets", BetsJson(s.BetsWon, s.BetsLost, s.AmountWon, s.AmountLost)},
+                  {"bets", BetsJson(s.BetsWon, s.BetsLost, s.AmountWagered, s.AmountWon, s.AmountLost)},
                   {"meanNet", s.MeanNet},
                   {"netStandardError", s.NetStandardError},
                   {"netPercentiles", {{"p10", s.NetP10}, {"p50", s.NetP50}, {"p90", s.NetP90}}},
@@ -93,11 +134,9 @@ void WriteRunReportText(std::ostream& out, const RunOptions& options, const Batc
   if (batch.Games.size() < 2) return;
   const BatchSummary s = Summarize(batch.Games);
   out << "Batch of " << s.Games << " games: " << FormatWithCommas(s.Rolls) << " rolls, " << FormatWithCommas(s.Hands)
-      << " hands\n"
-      << "  bets decided " << FormatWithCommas(s.BetsWon + s.BetsLost) << ": won " << FormatWithCommas(s.BetsWon)
-      << " (" << Money(s.AmountWon) << "), lost " << FormatWithCommas(s.BetsLost) << " (" << Money(s.AmountLost)
-      << ")\n"
-      << "  mean net " << MoneyFigure(s.MeanNet) << " +/- " << Fixed(s.NetStandardError) << " (standard error)\n"
+      << " hands\n";
+  WriteBetFigures(out, s.BetsWon, s.BetsLost, s.AmountWagered, s.AmountWon, s.AmountLost);
+  out << "  mean net " << MoneyFigure(s.MeanNet) << " +/- " << Fixed(s.NetStandardError) << " (standard error)\n"
       << "  net percentiles: 10th " << MoneyFigure(s.NetP10) << ", 50th " << MoneyFigure(s.NetP50) << ", 90th "
       << MoneyFigure(s.NetP90) << "\n"
       << "  risk of ruin " << Fixed(100 * s.RiskOfRuin, 1) << "%\n"

@@ -168,11 +168,28 @@ struct Game {
   Currency SimRollRate = 100;  // simulated rolls per hour
   bool IncludeZeroOutcomes = false;  // the advantage table counts a push as a decision
 
-  // Every bet decided in the game, for the run report: a push decides nothing.
-  struct DecidedBets {
-    int64_t Won = 0, Lost = 0;
-    Currency WonAmount, LostAmount;  // net won, and lost, both positive
-  } Decided;
+  // --- Bet results -------------------------------------------------------------
+  // BetWagers, BetWins, BetLosses [kind: 0 phantom, 1 actual][BetId 0..100]
+  // [measure 0..7]; see stats/bet_results.h. BetId 0 is the totals cell.
+  using BetResultTable = std::array<std::array<std::array<Currency, 8>, 101>, 2>;
+  // Aligned so that a cell is one cache line: every decision touches them.
+  alignas(64) BetResultTable BetWagers{};
+  alignas(64) BetResultTable BetWins{};
+  alignas(64) BetResultTable BetLosses{};
+  // The cells booked since the top of the roll (kind x 128 + BetId), so that
+  // clearing the last-roll measures costs only what was booked.
+  std::array<int16_t, 256> BookedThisRoll{};
+  std::array<uint8_t, 256> BookedListed{};
+  int32_t BookedThisRollCount = 0;
+  // The latest results of the bets actually made, oldest first, for the
+  // trends view: signed net amounts and the roll count of each.
+  static constexpr int kTrendCells = 10;
+  struct BetTrend {
+    std::array<Currency, kTrendCells> Net{};
+    std::array<int32_t, kTrendCells> Roll{};
+    int32_t Count = 0;
+  };
+  std::array<BetTrend, 84> BetTrends{};
 
   // --- Dice Roll File ---------------------------------------------------------
   // The open file, its positions and its handle (closed with the game).

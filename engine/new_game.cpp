@@ -9,6 +9,7 @@
 #include "engine/game.h"
 #include "engine/roll.h"
 #include "store/small_files.h"
+#include "stats/bet_results.h"
 
 namespace {
 
@@ -87,7 +88,7 @@ void NewGame(Game& g, bool keepChipStacks) {
   g.LayVigOnBet.fill(0);
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) g.BetStatus[id] = g.WorkOnComeOut[id];
   for (Flag& f : g.AutoBet.Flags) f.FlagValue = f.FlagPrevious = 0;
-  g.Decided = {};
+  ClearBetResults(g);
   if (g.ReSeedNewGames) SeedRNG(g, false);
 
   const Currency bankroll = BeginningBankroll(g, savedBankroll);

@@ -13,6 +13,7 @@
 #include "engine/place_bet.h"
 #include "engine/settle_order.h"
 #include "script/interpreter.h"
+#include "stats/bet_results.h"
 #include "stats/roll_counters.h"
 
 namespace {
@@ -108,8 +109,7 @@ void Finish(Game& g) {
 void TakeSnapshots(Game& g) {
   g.BetAtRollStart = g.BetAmount;
   g.BetStreak[0] = g.BetStreak[1];
-  // The per-roll columns of the bet results are cleared here, and the result
-  // bookkeeping of the number rolled last runs here, once bet results exist.
+  MoveResultMarks(g);  // reads the last roll's DiceTotal and PointBeforeRoll
   // What the script's dice-event conditions compare with.
   g.PreviousRollCounts = g.RollCounts;
   g.PreviousRollsSinceLast = g.RollsSinceLast;

@@ -5,6 +5,8 @@
 #include "autoplay/bet_handling.h"
 #include "engine/game.h"
 #include "engine/settle_notice.h"
+#include "stats/bet_results.h"
+#include "stats/phantom_payoff.h"
 
 namespace {
 
@@ -85,15 +87,8 @@ void KeepStreak(Game& g, int betId) {
 [[gnu::noinline]] void SettleWorkingBet(Game& g, int outcome, int betId) {
   const Currency amount = g.BetAmount[betId];
   FigurePayoff(g, 1, betId, outcome, amount);
-  // The real bet's result is booked here once bet results exist.
+  BookBetResult(g, results::kActual, betId, amount, g.NetPayoff);
   if (g.Payoff[0].Win == 0 && g.NetPayoff == 0) return;  // a push: nothing happened
-  if (g.NetPayoff > 0) {
-    ++g.Decided.Won;
-    g.Decided.WonAmount += g.NetPayoff;
-  } else if (g.NetPayoff < 0) {
-    ++g.Decided.Lost;
-    g.Decided.LostAmount -= g.NetPayoff;
-  }
 
   g.Bankroll() += g.NetPayoff;
   if (betId < static_cast<int>(g.BetCommitted.size())) g.BetCommitted[betId] = 0;
@@ -137,11 +132,12 @@ void SettleBet(Game& g, int outcome, int betId) {
   g.SettlingBetId = betId;
   if (!bet::IsTableBet(betId)) return;
   // The phantom unit of a working bet, FigurePayoff (0, BetId, Outcome, 1),
-  // is figured and booked here, for empty spots too, once bet results exist;
-  // figured alone it would change nothing. Beyond it an empty spot has
+  // figured and booked for empty spots too. Beyond it an empty spot has
   // nothing to settle, working or not.
+  const bool working = g.BetStatus[betId] >= 1;
+  if (working) BookPhantomResult(g, betId, outcome);
   if (g.BetAmount[betId] == 0) return;
-  if (g.BetStatus[betId] >= 1)
+  if (working)
     SettleWorkingBet(g, outcome, betId);
   else
     ReturnIdleOdds(g, outcome, betId);

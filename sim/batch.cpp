@@ -67,6 +67,7 @@ BatchSummary Summarize(const std::vector<GameResult>& games) {
     s.Hands += r.Hands;
     s.BetsWon += r.BetsWon;
     s.BetsLost += r.BetsLost;
+    s.AmountWagered += r.AmountWagered;
     s.AmountWon += r.AmountWon;
     s.AmountLost += r.AmountLost;
     nets.push_back(r.Net.ToDouble());

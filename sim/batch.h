@@ -20,7 +20,7 @@ BatchResult RunBatch(const RunOptions& options, const Script& script, RunControl
 struct BatchSummary {
   int Games = 0;
   int64_t Rolls = 0, Hands = 0, BetsWon = 0, BetsLost = 0;
-  Currency AmountWon, AmountLost;
+  Currency AmountWagered, AmountWon, AmountLost;
   double MeanNet = 0, NetStandardError = 0;
   double NetP10 = 0, NetP50 = 0, NetP90 = 0;
   double RiskOfRuin = 0;  // share of games ruined

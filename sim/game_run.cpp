@@ -13,6 +13,7 @@
 #include "script/interpreter.h"
 #include "script/values.h"
 #include "sim/hyper_drive.h"
+#include "stats/bet_results.h"
 
 namespace {
 
@@ -126,10 +127,13 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t seed
   r.BankrollLow = g.LowBankroll;
   r.BankrollAverage = AverageBankroll(g);
   r.Net = NetResult(g);
-  r.BetsWon = g.Decided.Won;
-  r.BetsLost = g.Decided.Lost;
-  r.AmountWon = g.Decided.WonAmount;
-  r.AmountLost = g.Decided.LostAmount;
+  const BetTotalsOfKind actual = BetTotals(g, results::kActual);
+  r.BetsWon = Floor(actual.Wins[results::kCount]);
+  r.BetsLost = Floor(actual.Losses[results::kCount]);
+  r.AmountWagered = actual.Wagers[results::kTotal];
+  r.AmountWon = actual.Wins[results::kTotal];
+  r.AmountLost = actual.Losses[results::kTotal];
+  r.Bets = ActualBetLines(g);
   r.Ruined = g.LowBankroll <= 0 || r.StopReason.rfind(kMaxLossReason, 0) == 0;
   r.Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
   return r;

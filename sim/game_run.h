@@ -5,10 +5,12 @@
 #include <atomic>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "engine/money.h"
 #include "script/script.h"
 #include "sim/run_options.h"
+#include "stats/bet_results_view.h"
 
 struct GameResult {
   int64_t Seed = 0;
@@ -19,7 +21,8 @@ struct GameResult {
   Currency BankrollStart, BankrollEnd, BankrollHigh, BankrollLow, BankrollAverage;
   Currency Net;       // the end against the money brought to the table (ATM included)
   int64_t BetsWon = 0, BetsLost = 0;
-  Currency AmountWon, AmountLost;
+  Currency AmountWagered, AmountWon, AmountLost;  // stakes include the vig paid
+  std::vector<ActualBetLine> Bets;  // every bet that was decided, in BetId order
   bool Ruined = false;  // the bankroll fell to zero or below, or the max loss limit stopped it
   double Seconds = 0;
 };

@@ -1,0 +1,119 @@
+// The summary's figures and formats, and the trends rows.
+
+#include "stats/summary.h"
+
+#include <gtest/gtest.h>
+
+#include "engine/test_support.h"
+#include "stats/bet_results.h"
+#include "stats/number_formats.h"
+
+using namespace results;
+
+namespace {
+
+std::string ValueOf(const std::vector<SummaryRow>& rows, const std::string& label, int occurrence = 0) {
+  for (const SummaryRow& row : rows)
+    if (row.Label == label && occurrence-- == 0) return row.Value;
+  return "(missing)";
+}
+
+const SummaryRow* NetRow(const std::vector<SummaryRow>& rows) {
+  for (const SummaryRow& row : rows)
+    if (row.Label == "Net win:" || row.Label == "Net loss:") return &row;
+  return nullptr;
+}
+
+}  // namespace
+
+TEST(Summary, NumberPatterns) {
+  const struct { double v; const char* upToTwo; const char* percent; const char* two; } cases[] = {
+      {0, "0", "0%", "0"},
+      {0.5, ".5", "50.00%", ".50"},
+      {3, "3.", "300.00%", "3.00"},
+      {2.375, "2.38", "237.50%", "2.38"},
+      {-1234.5, "-1,234.5", "-123,450.00%", "-1,234.50"},
+      {0.035, ".04", "3.50%", ".04"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(FormatUpToTwoDecimals(c.v), c.upToTwo) << c.v;
+    EXPECT_EQ(FormatPercent(c.v), c.percent) << c.v;
+    EXPECT_EQ(FormatTwoDecimals(c.v), c.two) << c.v;
+  }
+}
+
+TEST(Summary, LabelsInOrderAndAveragesOfZeroBeforeAHandEnds) {
+  Table t;
+  const std::vector<SummaryRow> rows = ShowSummary(t.g);
+  std::vector<std::string> labels;
+  for (const SummaryRow& row : rows) labels.push_back(row.Label);
+  EXPECT_EQ(labels, (std::vector<std::string>{
+                        "Total rolls:", "Total comp value:", "Rolls/hr:", "Sim hrs:", "Bankroll:", "High:",
+                        "Current:", "Low:", "Average:", "Total number of:", "Bets decided:", "Bets won:",
+                        "Bets lost:", "Total $ amount of:", "Bets decided:", "Bets won:", "Bets lost:", "Net win:",
+                        "Hands:", "# of rolls (current Hand):", "# of Passes (current Hand):", "Total completed:",
+                        "Longest # of rolls:", "Average # of rolls:", "Most Passes:", "Average # of Passes:",
+                        "# of Come-out rolls:", "# that Passed (7, 11):", "# that Missed (2, 3, 12):",
+                        "# of Points established:", "# that Passed (rolled point):", "# that Missed (Seven-out):",
+                        "Total Passes:", "Total Misses:"}));
+  EXPECT_EQ(NetRow(rows)->Share, "0%");
+
+  // Rolls in a hand not yet finished: the averages stay 0.
+  t.g.HandStats[0] = 7;
+  t.g.HandStats[5] = 7;
+  t.g.HandStats[6] = 2;
+  EXPECT_EQ(ValueOf(ShowSummary(t.g), "Average # of rolls:"), "0");
+  EXPECT_EQ(ValueOf(ShowSummary(t.g), "Average # of Passes:"), "0");
+  t.g.HandStats[2] = 3;
+  t.g.HandStats[5] = 10;
+  t.g.HandStats[6] = 3;
+  EXPECT_EQ(ValueOf(ShowSummary(t.g), "Average # of rolls:"), "3.33");
+  EXPECT_EQ(ValueOf(ShowSummary(t.g), "Average # of Passes:"), "1.");
+}
+
+TEST(Summary, FiguresOfAPlayedGame) {
+  Table t;
+  t.g.SimRollRate = 100;
+  t.Place(bet::kField, 5);
+  t.Roll(1, 2);  // a 3: the field wins 5
+  t.Roll(3, 4);  // a natural: the field loses 5 and comes down
+  t.Place(bet::kField, 5);
+  t.Roll(2, 2);  // a point of 4: the field wins 5
+  t.Roll(6, 6);  // the field wins 10
+  t.g.HandStats[2] = 1;  // as if a hand had ended
+  const std::vector<SummaryRow> rows = ShowSummary(t.g);
+  EXPECT_EQ(ValueOf(rows, "Total rolls:"), "4");
+  EXPECT_EQ(ValueOf(rows, "Total comp value:"), "$0");
+  EXPECT_EQ(ValueOf(rows, "Rolls/hr:"), "100");
+  EXPECT_EQ(ValueOf(rows, "Sim hrs:"), ".04");
+  EXPECT_EQ(ValueOf(rows, "High:"), "$515");
+  EXPECT_EQ(ValueOf(rows, "Low:"), "$500");
+  EXPECT_EQ(ValueOf(rows, "Current:"), "$515");
+  EXPECT_EQ(ValueOf(rows, "Average:"), "$506.25");  // (505 + 500 + 505 + 515) / 4
+  EXPECT_EQ(ValueOf(rows, "Bets decided:"), "4");
+  EXPECT_EQ(ValueOf(rows, "Bets won:"), "3");
+  EXPECT_EQ(ValueOf(rows, "Bets lost:", 0), "1");
+  EXPECT_EQ(ValueOf(rows, "Bets decided:", 1), "$20");
+  EXPECT_EQ(ValueOf(rows, "Bets won:", 1), "$20");
+  EXPECT_EQ(ValueOf(rows, "Bets lost:", 1), "$5");
+  EXPECT_EQ(NetRow(rows)->Label, "Net win:");
+  EXPECT_EQ(NetRow(rows)->Value, "$15");
+  EXPECT_EQ(NetRow(rows)->Share, "75.00%");
+  EXPECT_EQ(ValueOf(rows, "# of Come-out rolls:"), "3");
+  EXPECT_EQ(ValueOf(rows, "# of Points established:"), "1");
+  EXPECT_EQ(ValueOf(rows, "Total Passes:"), "1");
+  EXPECT_EQ(ValueOf(rows, "Total Misses:"), "1");
+  EXPECT_EQ(ValueOf(rows, "Average # of rolls:"), "0");  // counter 5 grows only as a hand ends
+  EXPECT_EQ(t.g.BetWagers[kActual][0][kCount], 4);  // the totals cell was filled
+
+  const std::vector<BetTrendRow> trends = BetTrendRows(t.g);
+  ASSERT_EQ(trends.size(), 1u);
+  EXPECT_EQ(trends[0].Name, "Field");
+  EXPECT_EQ(trends[0].Results, "5|-5|5|10");
+  EXPECT_EQ(trends[0].Span, "4 rolls");
+
+  // A loss reads "Net loss:".
+  BookBetResult(t.g, kActual, bet::kSeven, 100, -100);
+  EXPECT_EQ(NetRow(ShowSummary(t.g))->Label, "Net loss:");
+  EXPECT_EQ(NetRow(ShowSummary(t.g))->Share, "-70.83%");
+}
