@@ -16,6 +16,7 @@
 #include "engine/frontend.h"
 #include "engine/money.h"
 #include "script/script.h"
+#include "store/game_file_extras.h"
 
 // A payoff: a winner nets Win for each Per bet. Form -1 shows it as "Win to
 // Per", 0 as "Win+Per for Per"; it never changes the money.
@@ -190,6 +191,12 @@ struct Game {
 
   // --- Files ----------------------------------------------------------------
   std::string DataFolder;  // where "default.crp" and the other files live
+
+  // --- Game file --------------------------------------------------------------
+  std::string GameFileName;            // the game's own file; empty for a new game
+  std::string TableCaption = "Dicemill";
+  bool ScriptDirty = false;            // the script differs from its file
+  GameFileExtras FileExtras;           // what a game file holds that this program does not use
 
   // --- Screen ---------------------------------------------------------------
   FrontEnd* Ui = &silentUi;

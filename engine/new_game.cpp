@@ -1,6 +1,7 @@
 #include "engine/new_game.h"
 
 #include <chrono>
+#include <filesystem>
 
 #include "config/payoffs.h"
 #include "dice/dice_roll_files.h"
@@ -8,6 +9,7 @@
 #include "engine/bet_status.h"
 #include "engine/game.h"
 #include "engine/roll.h"
+#include "store/game_file.h"
 
 namespace {
 
@@ -53,9 +55,11 @@ void StartUp(Game& g, const std::string& folder) {
   g.SpeedUnit = MeasureSpeedUnit();
   SeedAtStartUp(g);
   FillDefaults(g);
-  // The default game of the folder is opened here once game files exist;
-  // until then every start is a new game with its starting bankroll.
-  NewGame(g, false);
+  // The default game of the folder sets everything a game file holds; with
+  // none there (or one refused) the start is a new game.
+  std::error_code ec;
+  if (!std::filesystem::is_regular_file(DefaultGamePath(g), ec) || !OpenGame(g, DefaultGamePath(g)))
+    NewGame(g, false);
   if (g.Point == 0) PlayComeOutSound(g);
 }
 
