@@ -73,6 +73,8 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
       {"script", 1, 1, "script FILE", &PlaySession::ScriptFile},
       {"autobet", 1, 2, "autobet on|off|steps on|off|run", &PlaySession::AutoBet},
       {"flags", 0, 0, "flags", &PlaySession::Flags},
+      {"open", 1, 1, "open FILE", &PlaySession::OpenGameFile},
+      {"save", 1, 1, "save FILE", &PlaySession::SaveGameFile},
   };
   return commands;
 }
@@ -91,8 +93,7 @@ void PlaySession::Start(const PlayOptions& options) {
   std::string error;
   if (!EnsureFolder(folder, error)) Error(error + "; the built-in defaults stand");
   StartUp(*game_, folder.string());
-  if (!options.gameFile.empty())
-    Error("game files are not supported yet: \"" + options.gameFile + "\" was not opened");
+  if (!options.gameFile.empty()) RunLine("open \"" + options.gameFile + "\"");
 }
 
 void PlaySession::Error(const std::string& text) {

@@ -70,6 +70,8 @@ class PlaySession {
   void ScriptFile(const Args& a);  // cli/script_commands.cpp
   void AutoBet(const Args& a);
   void Flags(const Args& a);
+  void OpenGameFile(const Args& a);  // cli/game_commands.cpp
+  void SaveGameFile(const Args& a);
   // A changed script offers its first cycle before the table's next roll.
   void GoToTable();
 
