@@ -41,6 +41,8 @@ class RunnerFrontEnd : public SilentFrontEnd {
     control_.RollsDone.fetch_add(rolls - published_, std::memory_order_relaxed);
     published_ = rolls;
   }
+  // A saved game comes with rolls of its own, which are not this run's.
+  void StartCountingAt(int64_t rolls) { published_ = rolls; }
   const std::string& FirstMessage() const { return firstMessage_; }
   void ForgetMessages() { firstMessage_.clear(); }
   const std::string& StopReason() const { return stopReason_; }
@@ -128,6 +130,8 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t seed
   }
   ui.ForgetMessages();
 
+  const int64_t rollsBefore = g.RollCounts[0], handsBefore = g.HandStats[2];
+  ui.StartCountingAt(rollsBefore);
   GameResult r;
   r.Seed = seed;
   r.BankrollStart = g.Bankroll();
@@ -145,8 +149,8 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t seed
   if (g.DiceFile.File.IsOpen()) CloseRollFile(g);
 
   r.StopReason = ui.StopReason();
-  r.Rolls = g.RollCounts[0];
-  r.Hands = g.HandStats[2];
+  r.Rolls = g.RollCounts[0] - rollsBefore;
+  r.Hands = g.HandStats[2] - handsBefore;
   r.BankrollEnd = g.Bankroll();
   r.BankrollHigh = g.HighBankroll;
   r.BankrollLow = g.LowBankroll;
