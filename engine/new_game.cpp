@@ -103,6 +103,8 @@ void NewGame(Game& g, bool keepChipStacks) {
   g.Point = g.PointBeforeRoll = g.PointTwoRollsAgo = 0;
   g.TotalOnTable = 0;
   g.TableUsed = false;
+  g.TableCaption = "Dicemill";
+  g.GameFileName.clear();
   // A file being played or recorded: rewind it for the new game, or not.
   if (g.DiceFileMode != 0 && g.DiceFile.File.IsOpen()) OfferRewind(g);
   // The games log takes its row here once it exists.

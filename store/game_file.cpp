@@ -73,6 +73,10 @@ bool OpenGame(Game& g, const std::string& path) {
     ShowFileNameError(g);
     return false;
   }
+  return OpenGameBytes(g, bytes, path);
+}
+
+bool OpenGameBytes(Game& g, const std::string& bytes, const std::string& path) {
   RecordReader r(bytes);
   const FileRecord first = r.Next();
   if (GetSignature(first).find(kAcceptedFormat) == std::string::npos) {

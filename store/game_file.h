@@ -15,6 +15,8 @@ bool SaveGame(Game& g, const std::string& path);
 // Reads a game file into the game. A refused file shows its message and
 // leaves the game as it was.
 bool OpenGame(Game& g, const std::string& path);
+// OpenGame on bytes already read; `path` is the name the messages give.
+bool OpenGameBytes(Game& g, const std::string& bytes, const std::string& path);
 
 // "default.crp" in the data folder: saved at the stop, opened at the start.
 std::string DefaultGamePath(const Game& g);

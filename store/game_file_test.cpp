@@ -244,6 +244,18 @@ TEST(GameFile, DamagedFilesAreRefusedOrReadAsZerosWithoutHarm) {
     t.g.AutoBetActivated = false;
     for (int i = 0; i < 20; ++i) RollDice(t.g);
   }
+  // A file that ends with the last record: the streams go on as they are.
+  const size_t continuation = bytes.find("Dicemill Continuation");
+  ASSERT_NE(continuation, std::string::npos);
+  WriteBytes(path, bytes.substr(0, continuation));
+  SavedTable older(folder.path());
+  SeedSilently(older.g, 0, 99);
+  const Generators before = older.g.Rng;
+  ASSERT_TRUE(OpenGame(older.g, path.string()));
+  EXPECT_EQ(older.g.Rng.mt.mt, before.mt.mt);
+  EXPECT_EQ(older.g.Rng.mt.mti, before.mt.mti);
+  EXPECT_EQ(older.g.ModSeed, saved.g.ModSeed);  // record 15 is there
+
   std::string pureNoise(4096, '\0');
   for (char& c : pureNoise) c = static_cast<char>(random());
   WriteBytes(path, pureNoise);
