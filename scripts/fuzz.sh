@@ -5,6 +5,8 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds=${1:-20}
+# Undefined behaviour fails the run, as it fails the sanitizer build.
+export UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1
 targets=(game_file_fuzz bet_file_fuzz prob_file_fuzz script_text_fuzz roll_file_fuzz)
 CXX=clang++ cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DDICEMILL_FUZZ=ON -DDICEMILL_BENCH=OFF >/dev/null
 cmake --build build-fuzz -j"$(nproc)" --target "${targets[@]}" dicemill-cli
@@ -22,6 +24,6 @@ head -c 600 /dev/urandom | tr '\000-\377' '\044\050\054\060\064\070\104\110\114\
 for t in "${targets[@]}"; do
   name=${t%_fuzz}
   echo "fuzzing $name for ${seconds}s" >&2
-  build-fuzz/"$t" -max_total_time="$seconds" -print_final_stats=0 "$corpus/$name" 2>"$work/$t.log" ||
+  build-fuzz/"$t" -max_total_time="$seconds" -print_final_stats=0 -artifact_prefix=build-fuzz/ "$corpus/$name" 2>"$work/$t.log" ||
     { tail -40 "$work/$t.log" >&2; exit 1; }
 done

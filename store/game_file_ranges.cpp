@@ -35,6 +35,70 @@ void KeepGeneratorsInRange(Generators& rng) {
   for (int32_t& entry : r2.ir) into(entry, 714025);
 }
 
+// Money beyond any table's (the bank limit is under ten million), ratios up
+// to 1,000 and chips up to $100,000, so that sums and products of amounts
+// stay well inside 64 bits. The bankroll alone may go further.
+constexpr Currency kMostMoney = 10'000'000;
+constexpr Currency kMostBankroll = 1'000'000'000;
+constexpr Currency kMostRatio = 1'000;
+constexpr Currency kMostChip = 100'000;
+constexpr Currency kLeastUnit = Currency::FromRaw(100);  // a cent
+
+void Bound(Currency& v, Currency lo, Currency hi) { v = v < lo ? lo : v > hi ? hi : v; }
+void Bound(Currency& v) { Bound(v, -kMostMoney, kMostMoney); }
+
+void KeepMoneyInRange(Game& g) {
+  for (auto* table : {&g.BetAmount, &g.BetAtRollStart, &g.BetAfterRoll}) {
+    Currency bankroll = (*table)[bet::kBankroll];
+    Bound(bankroll, -kMostBankroll, kMostBankroll);
+    for (Currency& v : *table) Bound(v);
+    (*table)[bet::kBankroll] = bankroll;
+  }
+  for (Currency& v : g.BetCommitted) Bound(v);
+  for (Currency& v : g.BuyVigOnBet) Bound(v);
+  for (Currency& v : g.LayVigOnBet) Bound(v);
+  for (Currency& v : g.ModifyAmount) Bound(v, -kMostRatio, kMostRatio);
+  for (Currency* v : {&g.HighBankroll, &g.LowBankroll, &g.AmountInvested, &g.Decided.WonAmount, &g.Decided.LostAmount})
+    Bound(*v, -kMostBankroll, kMostBankroll);
+  for (Currency* v : {&g.TotalOnTable, &g.TableMinimum, &g.TableMaximum,
+                      &g.MaxOddsBet, &g.MaxPropBetPayoff, &g.BankrollInitAmount, &g.AtmAmount, &g.SimRollRate, &g.SeedRequest})
+    Bound(*v);
+  for (Currency* ratio : {&g.OddsAllowed410, &g.OddsAllowed59, &g.OddsAllowed68})
+    Bound(*ratio, -kMostRatio, kMostRatio);
+  Bound(g.LayVigRate, 0, 1);  // all of the money at most
+  Bound(g.BuyVigRate, 0, 1);
+  Bound(g.BankrollSum, -kMostBankroll * 100'000, kMostBankroll * 100'000);
+  // Chips are the rounding unit of every bet, and a chip times a payoff's
+  // Per divides: neither may come to nothing.
+  for (int id = bet::kFirstChip; id < bet::kFirstChip + 5; ++id)
+    Bound(g.BetAmount[static_cast<size_t>(id)], kLeastUnit, kMostChip);
+  auto payoffsInRange = [](auto& rows) {
+    for (PayoffRecord& p : rows) {  // no payoff above 1,000 for 1
+      Bound(p.Per, kLeastUnit, kMostRatio);
+      const Currency most = Currency::FromRaw(p.Per.raw * kMostRatio.raw / Currency::kScale);
+      Bound(p.Win, -most, most);
+    }
+  };
+  payoffsInRange(g.Payoff);
+  payoffsInRange(g.FieldPayoff);
+}
+
+// Counters a roll adds to: a billion, far more than any game rolls.
+constexpr int32_t kMostCount = 1'000'000'000;
+
+void KeepCountersInRange(Game& g) {
+  auto counts = [](auto& table, int32_t least) {
+    for (int32_t& n : table) n = std::clamp(n, least, kMostCount);
+  };
+  counts(g.HandStats, 0);
+  counts(g.RollCounts, 0);
+  counts(g.RollsSinceLast, 0);
+  counts(g.PreviousRollCounts, 0);
+  counts(g.PreviousRollsSinceLast, 0);
+  for (auto& row : g.BetStreak) counts(row, -kMostCount);
+  g.RollCountAfterPass = std::clamp(g.RollCountAfterPass, 0, kMostCount);
+}
+
 }  // namespace
 
 void KeepStateInRange(Game& g) {
@@ -57,9 +121,12 @@ void KeepStateInRange(Game& g) {
   for (int32_t* bias : {&g.LayBias, &g.PlaceBias, &g.DoBias, &g.DontBias}) *bias = std::clamp(*bias, 0, 2);
   for (int32_t& op : g.ModifyOperator) op = std::clamp(op, 0, 3);
   for (int32_t& units : g.ModifyUnits) units = std::clamp(units, -1, 6);
-  g.AutoRollDelay = std::max(g.AutoRollDelay, 0);
+  g.AutoRollDelay = std::clamp(g.AutoRollDelay, 0, 3600);
+  g.RollCountStop = std::clamp(g.RollCountStop, 0, static_cast<int32_t>(MaxRolls));
+  g.RollCountLeft = std::clamp(g.RollCountLeft, 0, static_cast<int32_t>(MaxRolls));
+  KeepCountersInRange(g);
   g.ProbDisplayMode = std::clamp(g.ProbDisplayMode, 0, 3);
-  if (g.ProbRollsOutOf < 1) g.ProbRollsOutOf = 36;
+  if (g.ProbRollsOutOf < 1 || g.ProbRollsOutOf > 1'000'000) g.ProbRollsOutOf = 36;
   for (int32_t& status : g.BetStatus) status = std::clamp(status, -1, 2);
   for (int32_t& status : g.WorkOnComeOut) status = std::clamp(status, 0, 1);
   g.ClickTool = std::clamp(g.ClickTool, 1, 91);
@@ -67,19 +134,11 @@ void KeepStateInRange(Game& g) {
   g.TrayStack[0] = 0;
   g.LastAnswer = std::clamp(g.LastAnswer, 1, 7);
 
-  // Chips are the rounding unit of every bet, and a payoff's Per divides.
-  for (int id = bet::kFirstChip; id < bet::kFirstChip + 5; ++id)
-    if (g.BetAmount[static_cast<size_t>(id)] <= 0) g.BetAmount[static_cast<size_t>(id)] = 1;
-  auto perAboveZero = [](auto& rows) {
-    for (PayoffRecord& p : rows)
-      if (p.Per <= 0) p.Per = 1;
-  };
-  perAboveZero(g.Payoff);
-  perAboveZero(g.FieldPayoff);
+  KeepMoneyInRange(g);
   for (auto& row : g.Prob.cell)
     for (ProbCell& cell : row) cell.value = std::clamp(cell.value, 0, kProbWhole);
 
   DiceFileState& f = g.DiceFile;
-  for (int32_t* n : {&f.NextRollNum, &f.LastRollNum, &f.SelectAnchor, &f.TopRollNum}) *n = std::max(*n, 0);
+  for (int32_t* n : {&f.NextRollNum, &f.LastRollNum, &f.SelectAnchor, &f.TopRollNum}) *n = std::clamp(*n, 0, kMostCount);
   KeepGeneratorsInRange(g.Rng);
 }
