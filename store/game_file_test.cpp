@@ -272,7 +272,6 @@ TEST(GameFile, LinksNameTheFilesInUse) {
   NewGame(empty.g, false);
   ASSERT_TRUE(SaveGame(empty.g, crp.string()));
   EXPECT_EQ(empty.g.TableCaption, "Dicemill");
-  RecordReader noLinks(ReadBytes(crp));
   const std::string firstRecord = ReadBytes(crp).substr(0, kGameRecordBytes);
   EXPECT_EQ(firstRecord.substr(kLinkPathOffset), std::string(kGameRecordBytes - kLinkPathOffset - 24, ' ') + std::string(24, '\0'));
 
@@ -285,7 +284,8 @@ TEST(GameFile, LinksNameTheFilesInUse) {
   ASSERT_TRUE(SaveGame(dirty.g, crp.string()));
   const fs::path bet = folder.path() / "default.bet";
   ASSERT_TRUE(fs::exists(bet));
-  RecordReader reader(ReadBytes(crp));
+  const std::string linking = ReadBytes(crp);
+  RecordReader reader(linking);
   const FileLink link = GetLink(reader.Next());
   EXPECT_EQ(link.Path, bet.string());
   EXPECT_EQ(link.Date, FileDateText(bet.string()));
@@ -294,7 +294,8 @@ TEST(GameFile, LinksNameTheFilesInUse) {
   // The same unsaved script in a game of another name is not linked.
   dirty.g.ScriptDirty = true;
   ASSERT_TRUE(SaveGame(dirty.g, (folder.path() / "other.crp").string()));
-  RecordReader other(ReadBytes(folder.path() / "other.crp"));
+  const std::string notLinking = ReadBytes(folder.path() / "other.crp");
+  RecordReader other(notLinking);
   EXPECT_TRUE(GetLink(other.Next()).Path.empty());
 
   // Gone and changed files are told about when the game opens.

@@ -42,7 +42,9 @@ class RecordWriter {
 
 class RecordReader {
  public:
+  // Reads from bytes the caller keeps alive.
   explicit RecordReader(const std::string& bytes) : bytes_(bytes) {}
+  explicit RecordReader(std::string&&) = delete;
 
   // The next record in order; zeros once the file has ended.
   FileRecord Next();
