@@ -82,6 +82,8 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
       {"results", 1, 2, "results IDS|all [actual|phantom]", &PlaySession::Results},
       {"summary", 0, 0, "summary", &PlaySession::Summary},
       {"trends", 0, 0, "trends", &PlaySession::Trends},
+      {"open", 1, 1, "open FILE", &PlaySession::OpenGameFile},
+      {"save", 1, 1, "save FILE", &PlaySession::SaveGameFile},
   };
   return commands;
 }
@@ -100,8 +102,7 @@ void PlaySession::Start(const PlayOptions& options) {
   std::string error;
   if (!EnsureFolder(folder, error)) Error(error + "; the built-in defaults stand");
   StartUp(*game_, folder.string());
-  if (!options.gameFile.empty())
-    Error("game files are not supported yet: \"" + options.gameFile + "\" was not opened");
+  if (!options.gameFile.empty()) RunLine("open \"" + options.gameFile + "\"");
 }
 
 void PlaySession::Error(const std::string& text) {

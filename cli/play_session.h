@@ -81,6 +81,8 @@ class PlaySession {
   void Results(const Args& a);  // cli/stats_commands.cpp
   void Summary(const Args& a);
   void Trends(const Args& a);
+  void OpenGameFile(const Args& a);  // cli/game_commands.cpp
+  void SaveGameFile(const Args& a);
   // A changed script offers its first cycle before the table's next roll.
   void GoToTable();
 

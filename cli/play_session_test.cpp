@@ -80,7 +80,7 @@ TEST(PlaySession, BlankLinesCommentsCaseQuitAndStrict) {
   const std::string printed = out.str();
   EXPECT_EQ(std::count(printed.begin(), printed.end(), '\n'), 2);  // state, error; the last state never ran
 
-  // A game file cannot be opened yet: an error, and the session goes on.
+  // A game file that is not there: an error, and the session goes on.
   Session withGame(false, "my game.crp");
   EXPECT_EQ(withGame.Run("state").size(), 1u);
   EXPECT_EQ(withGame.play.ExitStatus(), 0);

@@ -99,7 +99,9 @@ CLI::App* AddRunTool(CLI::App& app, RunToolOptions& o) {
   run->add_option("--game", o.gameFile, "Saved game to start from");
   run->add_option("--dice", o.run.DicePath, "Dice Roll File (.rol) to play back instead of a generator");
   run->add_option("--rng", o.run.Rng, "Generator 1..8")->check(CLI::Range(1, 8));
-  run->add_option("--seed", o.run.Seed, "Seed of the first game; game i takes seed + i")->check(CLI::PositiveNumber);
+  run->add_option("--seed", o.run.Seed, "Seed of the first game; game i takes seed + i")
+      ->check(CLI::PositiveNumber)
+      ->each([&o](const std::string&) { o.seedGiven = true; });
   run->add_option("--rolls", o.run.Rolls, "Rolls per game, at most 100,000,000; 0 rolls to the ceiling")
       ->check(CLI::Range(int64_t{0}, MaxRolls));
   run->add_option("--bankroll", o.bankroll, "Starting bankroll");
@@ -114,8 +116,13 @@ CLI::App* AddRunTool(CLI::App& app, RunToolOptions& o) {
 int RunRunTool(const RunToolOptions& options, std::ostream& out, std::ostream& err) {
   RunOptions run = options.run;
   if (!options.gameFile.empty()) {
-    err << "dicemill-cli run: game files are not supported yet: \"" << options.gameFile << "\" was not opened\n";
-    return 1;
+    // A saved game goes on with its own dice unless a seed is given.
+    run.GameFile = options.gameFile;
+    run.ReSeed = options.seedGiven;
+    if (run.Games > 1 && !run.ReSeed) {
+      err << "dicemill-cli run: --games above 1 with --game needs --seed, or every game would roll the same dice\n";
+      return 1;
+    }
   }
   if (!options.bankroll.empty()) {
     Currency amount;

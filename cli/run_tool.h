@@ -13,6 +13,7 @@ class App;
 struct RunToolOptions {
   RunOptions run;
   std::string gameFile;
+  bool seedGiven = false;
   std::string bankroll;  // read as an amount after parsing
   bool json = false, quiet = false, timing = false;
 };

@@ -84,7 +84,8 @@ TEST(RunTool, BadOptionsAreRefusedWithAReason) {
       {"--bankroll lots", "--bankroll lots is not an amount"},
       {"--rng 3 --seed 999999 --games 2", "outside the limits of generator #3"},
       {"--rolls 100000001", "--rolls"},
-      {"--game x.crp", "game files are not supported yet"},
+      {"--game x.crp", "File name error"},
+      {"--game x.crp --games 2", "--games above 1 with --game needs --seed"},
   };
   for (const auto& c : cases) {
     const Ran r = RunCli(work, c.args);

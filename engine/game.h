@@ -19,6 +19,7 @@
 #include "engine/frontend.h"
 #include "engine/money.h"
 #include "script/script.h"
+#include "store/game_file_extras.h"
 
 // A payoff: a winner nets Win for each Per bet. Form -1 shows it as "Win to
 // Per", 0 as "Win+Per for Per"; it never changes the money.
@@ -212,14 +213,16 @@ struct Game {
   // --- Files ----------------------------------------------------------------
   std::string DataFolder;  // where "default.crp" and the other files live
 
-  // --- Unsaved work, Hot-Keys and sound sets ---------------------------------
+  // --- Unsaved work, game file, Hot-Keys and sound sets ---------------------
   // GameChanged (above) and ProbModified are the game's and the probability
   // table's dirty flags; ScriptDirty is the script's.
   bool ScriptDirty = false;
   std::string GameFileName;       // the game's own file; empty for the default game
+  std::string TableCaption = "Dicemill";
   int32_t MsgReply = 1;           // the last save prompt's answer: 6 Yes, 7 No, 2 Cancel, 1 nothing asked
   std::vector<HotKeyBinding> HotKeys;
   SoundSets Sounds;
+  GameFileExtras FileExtras;      // what a game file holds that this program does not use
 
   // --- Screen ---------------------------------------------------------------
   FrontEnd* Ui = &silentUi;

@@ -1,6 +1,7 @@
 #include "engine/new_game.h"
 
 #include <chrono>
+#include <filesystem>
 
 #include "config/payoffs.h"
 #include "dice/dice_roll_files.h"
@@ -10,6 +11,7 @@
 #include "engine/roll.h"
 #include "store/small_files.h"
 #include "stats/bet_results.h"
+#include "store/game_file.h"
 
 namespace {
 
@@ -56,9 +58,11 @@ void StartUp(Game& g, const std::string& folder) {
   SeedAtStartUp(g);
   FillDefaults(g);
   ListSoundSetsAndHotKeys(g);
-  // The default game of the folder is opened here once game files exist;
-  // until then every start is a new game with its starting bankroll.
-  NewGame(g, false);
+  // The default game of the folder sets everything a game file holds; with
+  // none there (or one refused) the start is a new game.
+  std::error_code ec;
+  if (!std::filesystem::is_regular_file(DefaultGamePath(g), ec) || !OpenGame(g, DefaultGamePath(g)))
+    NewGame(g, false);
   WriteActiveScript(g);
   if (g.Point == 0) PlayComeOutSound(g);
 }
@@ -103,6 +107,7 @@ void NewGame(Game& g, bool keepChipStacks) {
   g.Point = g.PointBeforeRoll = g.PointTwoRollsAgo = 0;
   g.TotalOnTable = 0;
   g.TableUsed = false;
+  g.TableCaption = "Dicemill";
   g.GameFileName.clear();
   // A file being played or recorded: rewind it for the new game, or not.
   if (g.DiceFileMode != 0 && g.DiceFile.File.IsOpen()) OfferRewind(g);

@@ -14,6 +14,7 @@
 #include "script/values.h"
 #include "sim/hyper_drive.h"
 #include "stats/bet_results.h"
+#include "store/game_file.h"
 
 namespace {
 
@@ -42,6 +43,8 @@ class RunnerFrontEnd : public SilentFrontEnd {
     control_.RollsDone.fetch_add(rolls - published_, std::memory_order_relaxed);
     published_ = rolls;
   }
+  // A saved game comes with rolls of its own, which are not this run's.
+  void StartCountingAt(int64_t rolls) { published_ = rolls; }
   const std::string& FirstMessage() const { return firstMessage_; }
   void ForgetMessages() { firstMessage_.clear(); }
   const std::string& StopReason() const { return stopReason_; }
@@ -60,15 +63,35 @@ void FailIfTold(const RunnerFrontEnd& ui, const std::string& what) {
   if (!ui.FirstMessage().empty()) throw std::runtime_error(what + ": " + ui.FirstMessage());
 }
 
-void SetUpTable(Game& g, const RunOptions& options, int64_t seed, RunnerFrontEnd& ui) {
-  g.ReSeedNewGames = false;
+// The saved game as it stood; any message while opening (a refusal, a
+// linked file gone or changed) fails the set-up.
+void OpenSavedGame(Game& g, const RunOptions& options, RunnerFrontEnd& ui) {
+  g.DataFolder = std::filesystem::path(options.GameFile).parent_path().string();
   FillDefaults(g);
+  const bool opened = OpenGame(g, options.GameFile);
+  FailIfTold(ui, "game file \"" + options.GameFile + "\"");
+  if (!opened) throw std::runtime_error("game file \"" + options.GameFile + "\" could not be opened");
   if (options.Bankroll) {
-    g.BankrollInitType = 0;
-    g.BankrollInitAmount = *options.Bankroll;
+    g.BetAmount[bet::kBankroll] = g.AmountInvested = *options.Bankroll;
+    g.HighBankroll = g.LowBankroll = *options.Bankroll;
+    g.BankrollSum = 0;
   }
-  NewGame(g, false);
+}
+
+void SetUpTable(Game& g, const RunOptions& options, int64_t seed, RunnerFrontEnd& ui) {
+  if (!options.GameFile.empty()) {
+    OpenSavedGame(g, options, ui);
+  } else {
+    g.ReSeedNewGames = false;
+    FillDefaults(g);
+    if (options.Bankroll) {
+      g.BankrollInitType = 0;
+      g.BankrollInitAmount = *options.Bankroll;
+    }
+    NewGame(g, false);
+  }
   if (options.Rng != 0) g.RngChoice = options.Rng - 1;
+  if (!options.ReSeed) return;
   g.SeedRequest = Currency::FromRaw(seed * Currency::kScale);
   SeedRNG(g, true);
   FailIfTold(ui, "seed " + std::to_string(seed));
@@ -103,14 +126,23 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t seed
   RunnerFrontEnd ui(g, control);
   g.Ui = &ui;
   SetUpTable(g, options, seed, ui);
-  if (!options.DicePath.empty()) OpenDice(g, options.DicePath, ui);
+  if (!options.DicePath.empty()) {
+    if (g.DiceFile.File.IsOpen()) CloseRollFile(g);
+    OpenDice(g, options.DicePath, ui);
+  }
   ui.ForgetMessages();
 
+  const int64_t rollsBefore = g.RollCounts[0], handsBefore = g.HandStats[2];
+  ui.StartCountingAt(rollsBefore);
   GameResult r;
   r.Seed = seed;
   r.BankrollStart = g.Bankroll();
   g.HyperDriveOn = true;  // the run is headless from its first pass on
-  if (script.NumLines() > 0) StartScript(g, script);
+  if (script.NumLines() > 0) {
+    StartScript(g, script);
+  } else if (g.InitPending && g.AutoBetActivated && g.AutoBet.NumLines() > 0) {
+    StartScript(g, Script(g.AutoBet));  // a saved game whose first cycle was still due
+  }
   g.RollCountStop = g.RollCountLeft = static_cast<int32_t>(options.Rolls);
   g.KeepRolling = true;
   if (!control.Stop.load()) RollDice(g);
@@ -119,8 +151,8 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t seed
   if (g.DiceFile.File.IsOpen()) CloseRollFile(g);
 
   r.StopReason = ui.StopReason();
-  r.Rolls = g.RollCounts[0];
-  r.Hands = g.HandStats[2];
+  r.Rolls = g.RollCounts[0] - rollsBefore;
+  r.Hands = g.HandStats[2] - handsBefore;
   r.SimHours = SimHours(g);
   r.BankrollEnd = g.Bankroll();
   r.BankrollHigh = g.HighBankroll;

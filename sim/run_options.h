@@ -17,4 +17,9 @@ struct RunOptions {
   std::optional<Currency> Bankroll;  // the starting bankroll; default the table's
   int Games = 1;
   int Threads = 0;            // 0: every core
+  // A saved game every game starts from; its script, dice and settings stand
+  // unless the options above name others. Without ReSeed the generators go
+  // on from their saved state.
+  std::string GameFile;
+  bool ReSeed = true;
 };

@@ -1,4 +1,117 @@
 #include "store/game_file.h"
 
-bool SaveGame(Game&, const std::string&) { return false; }
-bool OpenGame(Game&, const std::string&) { return false; }
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "dice/dice_roll_files.h"
+#include "engine/game.h"
+#include "engine/notices.h"
+#include "store/file_errors.h"
+#include "store/game_file_links.h"
+#include "store/game_file_sections.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kAcceptedFormat = "Data Format 5.0";
+
+void SetCaption(Game& g, const std::string& path) {
+  const std::string name = fs::path(path).filename().string();
+  g.GameFileName = path;
+  g.TableCaption = name == kDefaultGameName ? "Dicemill" : "Dicemill (" + name + ")";
+}
+
+void WriteLinkRecords(Game& g, const std::string& path, RecordWriter& w) {
+  PutLink(w.Add(), AutoBetLinkForSave(g, path));
+  PutLink(w.Add(), DiceRollLinkForSave(g));
+  PutLink(w.Add(), ProbabilityLinkForSave(g, path));
+  // The games log and the note path are held as they were read.
+  for (int record : {4, 5}) PutLink(w.Add(), GetLink(g.FileExtras.Kept(record)));
+}
+
+bool ReadWholeFile(const std::string& path, std::string& bytes) {
+  std::error_code ec;
+  if (!fs::is_regular_file(path, ec)) return false;
+  std::ifstream in(path, std::ios::binary);
+  if (!in) return false;
+  std::ostringstream content;
+  content << in.rdbuf();
+  bytes = content.str();
+  return !in.bad();
+}
+
+void Refuse(Game& g, const std::string& path) {
+  ShowMessage(g, "Unable to Open Dicemill Game File",
+              path + kBreak +
+                  "is either from a different version, has been corrupted, or is not a true Dicemill game file.");
+}
+
+}  // namespace
+
+bool SaveGame(Game& g, const std::string& path) {
+  if (g.DiceFile.File.IsOpen()) g.DiceFile.File.Flush();  // its date must be the one on disk
+  RecordWriter w;
+  WriteLinkRecords(g, path, w);
+  WriteSettingsRecords(g, w);
+  WriteTableRecords(g, w);
+  WriteStatisticsRecords(g, w);
+  WriteScriptRecords(g, w);
+  WriteContinuationRecords(g, w);
+  if (!WriteFileAtomically(path, w.Bytes())) {
+    ShowFileNameError(g);
+    return false;
+  }
+  SetCaption(g, path);
+  return true;
+}
+
+bool OpenGame(Game& g, const std::string& path) {
+  std::string bytes;
+  if (!ReadWholeFile(path, bytes)) {
+    ShowFileNameError(g);
+    return false;
+  }
+  return OpenGameBytes(g, bytes, path);
+}
+
+bool OpenGameBytes(Game& g, const std::string& bytes, const std::string& path) {
+  RecordReader r(bytes);
+  const FileRecord first = r.Next();
+  if (GetSignature(first).find(kAcceptedFormat) == std::string::npos) {
+    Refuse(g, path);
+    return false;
+  }
+
+  if (g.DiceFile.File.IsOpen()) CloseRollFile(g);
+  if (g.ScriptOutput.is_open()) g.ScriptOutput.close();
+  const FileLink autoBet = GetLink(first);
+  const FileLink diceRoll = GetLink(r.Next());
+  const FileLink probability = GetLink(r.Next());
+  g.FileExtras.Kept(4) = r.Next();
+  g.FileExtras.Kept(5) = r.Next();
+  ReadSettingsRecords(g, r);
+  ReadTableRecords(g, r);
+  ReadStatisticsRecords(g, r);
+  ReadScriptRecords(g, r);
+  ReadContinuationRecords(g, r);
+  KeepStateInRange(g);
+
+  const bool initPending = g.InitPending;
+  OpenAutoBetLink(g, autoBet);
+  RestoreFlagValues(g);
+  g.InitPending = initPending;
+  OpenDiceRollLink(g, diceRoll);
+  OpenProbabilityLink(g, probability);
+  CheckGamesLogLink(g, GetLink(g.FileExtras.Kept(4)));
+
+  SetCaption(g, path);
+  g.TableDirty = true;
+  g.Ui->RefreshTable();
+  return true;
+}
+
+std::string DefaultGamePath(const Game& g) { return (fs::path(g.DataFolder) / kDefaultGameName).string(); }
+
+bool SaveDefaultGame(Game& g) { return SaveGame(g, DefaultGamePath(g)); }

@@ -1,0 +1,82 @@
+#pragma once
+// One input for each reader of outside files. Whatever the bytes, a reader
+// refuses them or reads them into something the engine can use: nothing may
+// crash, hang or touch memory it does not own. Shared by the libFuzzer
+// targets of this folder and the mutation test of store/.
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "dice/dice_roll_files.h"
+#include "dice/skewed_draw.h"
+#include "engine/game.h"
+#include "engine/new_game.h"
+#include "engine/roll.h"
+#include "script/text_form.h"
+#include "store/bet_file.h"
+#include "store/game_file.h"
+#include "store/prob_file.h"
+
+namespace fuzz {
+
+// A game file, then a few rolls of the game it made.
+inline void GameFile(const std::string& bytes) {
+  Game g;
+  FillDefaults(g);
+  if (!OpenGameBytes(g, bytes, "fuzz.crp")) return;
+  if (g.DiceFile.File.IsOpen()) CloseRollFile(g);  // never write into a file a damaged link names
+  g.HyperDriveOn = true;
+  for (int i = 0; i < 3; ++i) {
+    g.KeepRolling = false;
+    RollDice(g);
+  }
+}
+
+// An Auto-Bet file, and the text of every line it holds.
+inline void BetFile(const std::string& bytes) {
+  const DecodedBetFile decoded = DecodeBetFile(bytes);
+  if (decoded.Status != BetFileStatus::Ok) return;
+  Script script;
+  script.Lines = decoded.Lines;
+  RebuildFlags(script);
+  for (const ScriptLine& line : script.Lines) (void)LineToText(line);
+}
+
+// A probability file, and draws through the table it holds.
+inline void ProbFile(const std::string& bytes) {
+  const std::optional<ProbTable> table = DecodeProbFile(bytes);
+  if (!table) return;
+  uint32_t rnd = kRndStartState;
+  for (int32_t x : {1, 2778, 50000, 100000, 100001}) (void)DrawSkewed(*table, x, rnd);
+}
+
+// The text form of a script.
+inline void ScriptText(const std::string& bytes) {
+  Script script;
+  std::string error;
+  if (ReadScriptText(bytes, script, error)) (void)ScriptToText(script);
+}
+
+// A Dice Roll File played back to its end (or its first bad byte).
+inline void RollFile(const std::string& bytes) {
+  const std::filesystem::path path =
+      std::filesystem::temp_directory_path() / ("dicemill_fuzz_" + std::to_string(getpid()) + ".rol");
+  std::ofstream(path, std::ios::binary | std::ios::trunc) << bytes;
+  {
+    Game g;
+    FillDefaults(g);
+    NewGame(g, false);
+    if (OpenRollFile(g, path.string()) && SetRecorderStatus(g, kRecorderPlayback)) {
+      g.HyperDriveOn = true;
+      for (size_t i = 0; i <= bytes.size() && g.DiceFileMode == kRecorderPlayback; ++i)
+        if (NextRollFromFile(g) != FileRoll::Rolled) break;
+    }
+  }
+  std::error_code ignored;
+  std::filesystem::remove(path, ignored);
+}
+
+}  // namespace fuzz

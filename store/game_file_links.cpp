@@ -1,0 +1,171 @@
+#include "store/game_file_links.h"
+
+#include <chrono>
+#include <ctime>
+#include <filesystem>
+
+#include "dice/dice_roll_files.h"
+#include "engine/game.h"
+#include "engine/notices.h"
+#include "script/script_files.h"
+#include "store/game_file.h"
+#include "store/prob_file.h"
+#include "store/script_file.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool IsDefaultGame(const std::string& gamePath) { return fs::path(gamePath).filename() == "default.crp"; }
+
+std::string Beside(const std::string& gamePath, const char* name) {
+  return (fs::path(gamePath).parent_path() / name).string();
+}
+
+bool FileExists(const std::string& path) {
+  std::error_code ec;
+  return !path.empty() && fs::is_regular_file(path, ec);
+}
+
+// The two complaints every link can make: gone, or changed since the save.
+struct LinkWords {
+  const char* firstLine;
+  const char* missingTitle;
+  const char* alteredTitle;
+};
+constexpr LinkWords kAutoBetWords{"The following Auto-Bet file (that was in use when this game ",
+                                  "Missing Auto-Bet File", "Altered Auto-Bet File"};
+constexpr LinkWords kDiceRollWords{"The following Dice Roll file (that was in use when this game ",
+                                   "Missing Dice Roll File", "Altered Dice Roll File"};
+constexpr LinkWords kProbabilityWords{"The following Probability file (that was in use when this game ",
+                                      "Missing Probability File", "Altered Probability File"};
+
+enum class LinkState { None, Missing, Altered, Same };
+
+// Checks a link against the disk and says what is wrong with it.
+LinkState CheckLink(Game& g, const FileLink& link, const LinkWords& words) {
+  if (link.Path.empty()) return LinkState::None;
+  if (!FileExists(link.Path)) {
+    ShowMessage(g, words.missingTitle,
+                std::string(words.firstLine) + kBreak + "was saved) was not found:" + kBreak + link.Path);
+    return LinkState::Missing;
+  }
+  if (FileDateText(link.Path) != link.Date) {
+    ShowMessage(g, words.alteredTitle,
+                std::string(words.firstLine) + kBreak + "was saved) has been changed:" + kBreak + link.Path);
+    return LinkState::Altered;
+  }
+  return LinkState::Same;
+}
+
+}  // namespace
+
+std::string FileDateText(const std::string& path) {
+  std::error_code ec;
+  const auto stamp = fs::last_write_time(path, ec);
+  if (ec) return "";
+  const auto seconds = std::chrono::time_point_cast<std::chrono::seconds>(std::chrono::file_clock::to_sys(stamp));
+  const std::time_t t = std::chrono::system_clock::to_time_t(seconds);
+  std::tm parts{};
+  gmtime_r(&t, &parts);
+  char text[32];
+  std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &parts);
+  return text;
+}
+
+FileLink LinkTo(const std::string& path) {
+  if (path.empty()) return {};
+  return {path, FileDateText(path)};
+}
+
+void PutLink(FileRecord& r, const FileLink& link) {
+  PutText(r, 0, kSignatureWidth, kGameFileSignature);
+  PutText(r, kLinkPathOffset, kLinkPathWidth, link.Path);
+  PutText(r, kLinkDateOffset, kLinkDateWidth, link.Date);
+}
+
+FileLink GetLink(const FileRecord& r) {
+  return {GetText(r, kLinkPathOffset, kLinkPathWidth), GetText(r, kLinkDateOffset, kLinkDateWidth)};
+}
+
+std::string GetSignature(const FileRecord& r) { return GetText(r, 0, kSignatureWidth); }
+
+FileLink AutoBetLinkForSave(Game& g, const std::string& gamePath) {
+  Script& script = g.AutoBet;
+  if (g.ScriptDirty) {
+    if (!IsDefaultGame(gamePath) || script.NumLines() == 0) return {};
+    const std::string path = Beside(gamePath, "default.bet");
+    std::string error;
+    if (!SaveScriptFile(path, script, error)) return {};
+    script.FileName = path;
+    g.ScriptDirty = false;
+    return LinkTo(path);
+  }
+  return FileExists(script.FileName) ? LinkTo(script.FileName) : FileLink{};
+}
+
+FileLink DiceRollLinkForSave(const Game& g) { return LinkTo(g.DiceFile.RollFileName); }
+
+FileLink ProbabilityLinkForSave(Game& g, const std::string& gamePath) {
+  if (g.ProbModified) {
+    if (!IsDefaultGame(gamePath)) return {};
+    const std::string path = Beside(gamePath, "default.prb");
+    return SaveProbabilityFile(g, path) ? LinkTo(path) : FileLink{};
+  }
+  return FileExists(g.ProbFileName) ? LinkTo(g.ProbFileName) : FileLink{};
+}
+
+void OpenAutoBetLink(Game& g, const FileLink& link) {
+  const auto names = g.AutoBet.ChipStackNames;  // the game's, not the file's
+  g.AutoBet.Lines.clear();
+  g.AutoBet.Flags.clear();
+  g.AutoBet.FileName.clear();
+  const LinkState state = CheckLink(g, link, kAutoBetWords);
+  if (state == LinkState::Same || state == LinkState::Altered) {
+    std::string error;
+    if (!OpenScriptFile(g, link.Path, error) && !error.empty()) ShowMessage(g, "Error", error);
+  }
+  g.AutoBet.ChipStackNames = names;
+  g.ScriptDirty = false;
+}
+
+void OpenDiceRollLink(Game& g, const FileLink& link) {
+  // Opening a file moves its positions; the saved ones are put back.
+  DiceFileState& f = g.DiceFile;
+  const int32_t mode = g.DiceFileMode;
+  const std::array<int32_t, 4> positions{f.NextRollNum, f.LastRollNum, f.SelectAnchor, f.TopRollNum};
+  const bool insert = f.InsertRolls;
+  g.DiceFileMode = kRecorderOff;
+  f.RollFileName.clear();
+  const LinkState state = CheckLink(g, link, kDiceRollWords);
+  if (state != LinkState::Same && state != LinkState::Altered) return;
+  if (!OpenRollFile(g, link.Path)) return;
+  f.NextRollNum = positions[0];
+  f.LastRollNum = positions[1];
+  f.SelectAnchor = positions[2];
+  f.TopRollNum = positions[3];
+  f.InsertRolls = insert;
+  g.DiceFileMode = mode;
+}
+
+void OpenProbabilityLink(Game& g, const FileLink& link) {
+  // The table itself came with the game; the link only names its file.
+  const LinkState state = CheckLink(g, link, kProbabilityWords);
+  if (state == LinkState::Same || state == LinkState::Altered) {
+    g.ProbFileName = link.Path;
+    if (state == LinkState::Altered) g.ProbModified = true;
+  } else {
+    g.ProbFileName = "untitled";
+    if (state == LinkState::Missing) g.ProbModified = true;
+  }
+}
+
+void CheckGamesLogLink(Game& g, const FileLink& link) {
+  if (link.Path.empty() || FileExists(link.Path)) return;
+  const std::string instead = (fs::path(g.DataFolder) / "default.glg").string();
+  ShowMessage(g, "Missing Games Log",
+              std::string("The following Games Log (that was in use when this game ") + kBreak +
+                  "was saved) was not found:" + kBreak + link.Path + kBreak +
+                  "The following Games Log will be opened instead:" + kBreak + instead);
+  PutLink(g.FileExtras.Kept(4), LinkTo(instead));
+}

@@ -1,0 +1,50 @@
+// The statistics and results tables of a game file, in one fixed order.
+//
+// Tables not kept by the game yet are appended HERE, in this order, each in
+// both functions at the same place:
+//   - the three phantom-wager tables, 1..100 by eight (Currency, before the
+//     streaks: AddCurrencies / NextCurrencies),
+//   - the bankroll graph points 0..1050 (Currency, same place),
+//   - the two further tables 0..90 after the four roll tables,
+//   - the table of 200 rows by 90 before HandStats.
+// Each table is packed into records of its own, so a table added here moves
+// only the sections after it.
+
+#include <algorithm>
+
+#include "engine/game.h"
+#include "store/game_file_sections.h"
+
+namespace {
+
+template <size_t N>
+std::vector<int32_t> ListOf(const std::array<int32_t, N>& table) {
+  return std::vector<int32_t>(table.begin(), table.end());
+}
+
+template <size_t N>
+void Fill(std::array<int32_t, N>& table, const std::vector<int32_t>& values) {
+  std::copy_n(values.begin(), N, table.begin());
+}
+
+}  // namespace
+
+void WriteStatisticsRecords(const Game& g, RecordWriter& w) {
+  w.AddInt32s(ListOf(g.BetStreak[0]));
+  w.AddInt32s(ListOf(g.BetStreak[1]));
+  w.AddInt32s(ListOf(g.RollCounts));
+  w.AddInt32s(ListOf(g.RollsSinceLast));
+  w.AddInt32s(ListOf(g.PreviousRollCounts));
+  w.AddInt32s(ListOf(g.PreviousRollsSinceLast));
+  w.AddInt32s(ListOf(g.HandStats));
+}
+
+void ReadStatisticsRecords(Game& g, RecordReader& r) {
+  Fill(g.BetStreak[0], r.NextInt32s(g.BetStreak[0].size()));
+  Fill(g.BetStreak[1], r.NextInt32s(g.BetStreak[1].size()));
+  Fill(g.RollCounts, r.NextInt32s(g.RollCounts.size()));
+  Fill(g.RollsSinceLast, r.NextInt32s(g.RollsSinceLast.size()));
+  Fill(g.PreviousRollCounts, r.NextInt32s(g.PreviousRollCounts.size()));
+  Fill(g.PreviousRollsSinceLast, r.NextInt32s(g.PreviousRollsSinceLast.size()));
+  Fill(g.HandStats, r.NextInt32s(g.HandStats.size()));
+}

@@ -1,0 +1,380 @@
+#include "store/game_file.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <sstream>
+
+#include "cli/temp_folder_for_test.h"
+#include "dice/dice_roll_files.h"
+#include "engine/table_commands.h"
+#include "engine/test_support.h"
+#include "script/interpreter.h"
+#include "store/game_file_links.h"
+#include "store/game_record.h"
+#include "store/script_file.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Pass Line and two Come bets with full odds, a Field bet whose results set
+// a flag, and a named Chip-Stack that grows while the flag is up.
+constexpr const char* kStrategy = R"('Game file test strategy
+When
+  Initializing Auto-Bet
+then
+  Name Chip-Stack #1 "unit"
+  Bet $5 on Chip-Stack #1
+While
+  Next roll is a come-out roll
+then
+  Set Auto-Take Full Odds on
+  Bet $10 on Pass Line
+While
+  Next roll is NOT a come-out roll
+  Total Come bets number less than 2
+then
+  Bet $10 on Come
+When
+  Field has lost
+then
+  Set flag "cold" to True
+When
+  Field has won
+then
+  Set flag "cold" to False
+While
+  Flag "cold" is True
+then
+  Add $1 to Chip-Stack #1
+While
+  Chip-Stack #1 is greater than $40
+then
+  Bet $5 on Chip-Stack #1
+Do this
+  Bet 100% of Chip-Stack #1 on Field
+)";
+
+std::string ReadBytes(const fs::path& p) {
+  std::ifstream in(p, std::ios::binary);
+  std::stringstream s;
+  s << in.rdbuf();
+  return s.str();
+}
+
+void WriteBytes(const fs::path& p, const std::string& bytes) {
+  std::ofstream(p, std::ios::binary | std::ios::trunc) << bytes;
+}
+
+struct SavedTable {
+  Game g;
+  RecordingFrontEnd ui;
+
+  explicit SavedTable(const fs::path& folder) {
+    g.Ui = &ui;
+    g.DataFolder = folder.string();
+    g.ReSeedNewGames = false;
+    FillDefaults(g);
+  }
+};
+
+void StartStrategy(Game& g, const fs::path& folder) {
+  const std::string text = (folder / "strategy.txt").string();
+  WriteBytes(text, kStrategy);
+  std::string error;
+  ASSERT_TRUE(LoadScriptFile(text, g.AutoBet, error)) << error;
+  ASSERT_GE(g.AutoBet.Flags.size(), 1u);
+  g.AutoBetActivated = true;
+  g.InitPending = true;
+  RunAutoBet(g);
+  TakeScriptSnapshots(g);
+  g.InitPending = false;
+}
+
+// Rolls one throw at a time until the table is busy: point on, a Come bet
+// on its number with odds behind it.
+void RollUntilBusy(Game& g) {
+  auto busy = [&g] {
+    for (int come = 19; come <= 24; ++come)
+      if (g.Point != 0 && g.BetAmount[come] > 0 && g.BetAmount[come + 6] > 0) return true;
+    return false;
+  };
+  for (int i = 0; i < 3000 && !busy(); ++i) {
+    g.KeepRolling = false;
+    RollDice(g);
+  }
+  ASSERT_TRUE(busy());
+}
+
+// Each throw and what it left: the dice, the bankroll, the table and the
+// script's state.
+std::vector<int64_t> Trail(Game& g, int rolls) {
+  std::vector<int64_t> trail;
+  g.HyperDriveOn = true;
+  for (int i = 0; i < rolls; ++i) {
+    g.KeepRolling = false;
+    RollDice(g);
+    trail.insert(trail.end(), {g.Die1, g.Die2, g.Point, g.Bankroll().raw, g.TotalOnTable.raw,
+                               g.BetAmount[101].raw, g.RollCounts[0]});
+  }
+  for (const Flag& f : g.AutoBet.Flags) trail.push_back(f.FlagValue);
+  trail.insert(trail.end(), g.HandStats.begin(), g.HandStats.end());
+  trail.insert(trail.end(), g.RollsSinceLast.begin(), g.RollsSinceLast.end());
+  return trail;
+}
+
+enum class Dice { Generator, Percentage, RollFile };
+
+void ExpectContinuesAsIfNeverSaved(int rng, Dice dice) {
+  SCOPED_TRACE("generator #" + std::to_string(rng) + " dice " + std::to_string(static_cast<int>(dice)));
+  TempFolder folder;
+  SavedTable a(folder.path());
+  NewGame(a.g, false);
+  SeedSilently(a.g, rng - 1, 4321);
+  if (dice == Dice::Percentage) {
+    a.g.UseSkewedProbability = true;
+    a.g.ProbModified = true;  // never saved to a file of its own
+  }
+  if (dice == Dice::RollFile) {
+    std::mt19937 source(7);
+    std::string rolls;
+    for (int i = 0; i < 16000; ++i)
+      rolls.push_back(static_cast<char>(RollByte(1 + static_cast<int>(source() % 6), 1 + static_cast<int>(source() % 6))));
+    WriteBytes(folder.path() / "rolls.rol", rolls);
+    ASSERT_TRUE(OpenRollFile(a.g, (folder.path() / "rolls.rol").string()));
+    ASSERT_TRUE(SetRecorderStatus(a.g, kRecorderPlayback));
+  }
+  StartStrategy(a.g, folder.path());
+  RollUntilBusy(a.g);
+  a.g.BetChange = 12;
+  PlaceBet(a.g, 33);  // Place 6, called OFF
+  CallBet(a.g, 33, kToolCallOff);
+  ASSERT_EQ(a.g.BetStatus[33], -1);
+  ASSERT_GT(a.g.RollCounts[0], 0);
+
+  const std::string path = (folder.path() / "mid-run.crp").string();
+  ASSERT_TRUE(SaveGame(a.g, path));
+  EXPECT_EQ(a.g.TableCaption, "Dicemill (mid-run.crp)");
+
+  SavedTable b(folder.path());
+  ASSERT_TRUE(OpenGame(b.g, path));
+  EXPECT_TRUE(b.ui.messages.empty()) << b.ui.messages.front().title;
+  EXPECT_EQ(b.g.BetStatus[33], -1);
+  EXPECT_EQ(b.g.AutoBet.ChipStackNames[1], "unit");
+  EXPECT_EQ(b.g.AutoBet.NumLines(), a.g.AutoBet.NumLines());
+  EXPECT_EQ(Trail(b.g, 10000), Trail(a.g, 10000));
+}
+
+}  // namespace
+
+TEST(GameFile, ASavedGameContinuesRollForRollWithEveryGenerator) {
+  for (int rng = 1; rng <= kRngCount; ++rng) {
+    ExpectContinuesAsIfNeverSaved(rng, Dice::Generator);
+    ExpectContinuesAsIfNeverSaved(rng, Dice::Percentage);
+  }
+  ExpectContinuesAsIfNeverSaved(1, Dice::RollFile);
+}
+
+TEST(GameFile, TheSignatureDecidesWhatOpens) {
+  TempFolder folder;
+  SavedTable saved(folder.path());
+  NewGame(saved.g, false);
+  saved.g.BetAmount[0] = 777;
+  const fs::path path = folder.path() / "game.crp";
+  ASSERT_TRUE(SaveGame(saved.g, path.string()));
+  std::string bytes = ReadBytes(path);
+  EXPECT_EQ(bytes.size() % kGameRecordBytes, 0u);
+  EXPECT_EQ(bytes.substr(0, 36), kGameFileSignature);
+
+  auto withSignature = [&](const std::string& signature) {
+    std::string changed = bytes;
+    for (size_t i = 0; i < kSignatureWidth; ++i) changed[i] = i < signature.size() ? signature[i] : ' ';
+    WriteBytes(path, changed);
+  };
+  for (const char* accepted : {"Dicemill Game File, Data Format 5.0a", "Dicemill Game File, Data Format 5.0"}) {
+    withSignature(accepted);
+    SavedTable t(folder.path());
+    EXPECT_TRUE(OpenGame(t.g, path.string())) << accepted;
+    EXPECT_EQ(t.g.Bankroll(), 777);
+  }
+  withSignature("Dicemill Game File, Data Format 4.9k");
+  SavedTable refused(folder.path());
+  refused.g.BetAmount[0] = 5;
+  EXPECT_FALSE(OpenGame(refused.g, path.string()));
+  ASSERT_EQ(refused.ui.messages.size(), 1u);
+  EXPECT_EQ(refused.ui.messages[0].title, "Unable to Open Dicemill Game File");
+  EXPECT_EQ(refused.ui.messages[0].text,
+            path.string() + "\ris either from a different version, has been corrupted, or is not a true Dicemill game file.");
+  EXPECT_EQ(refused.g.Bankroll(), 5);  // left as it was
+}
+
+TEST(GameFile, DamagedFilesAreRefusedOrReadAsZerosWithoutHarm) {
+  TempFolder folder;
+  SavedTable saved(folder.path());
+  NewGame(saved.g, false);
+  StartStrategy(saved.g, folder.path());
+  RollUntilBusy(saved.g);
+  const fs::path path = folder.path() / "game.crp";
+  ASSERT_TRUE(SaveGame(saved.g, path.string()));
+  const std::string bytes = ReadBytes(path);
+
+  // Cut anywhere after the signature: what is there is read, the rest is
+  // zeros, and the table still rolls.
+  for (size_t length : {size_t{0}, size_t{100}, size_t{256}, size_t{257}, 256 * size_t{20}, bytes.size() - 1}) {
+    WriteBytes(path, bytes.substr(0, length));
+    SavedTable t(folder.path());
+    const bool opened = OpenGame(t.g, path.string());
+    EXPECT_EQ(opened, length >= 92) << length;
+    t.g.HyperDriveOn = true;
+    for (int i = 0; i < 20; ++i) RollDice(t.g);
+  }
+  // Random bytes behind a good signature: read, kept in range, and rollable.
+  std::mt19937 random(11);
+  for (int round = 0; round < 20; ++round) {
+    std::string noise = bytes;
+    for (size_t i = kGameRecordBytes; i < noise.size(); ++i) noise[i] = static_cast<char>(random());
+    WriteBytes(path, noise);
+    SavedTable t(folder.path());
+    ASSERT_TRUE(OpenGame(t.g, path.string()));
+    EXPECT_TRUE(t.g.Die1 >= 1 && t.g.Die1 <= 6 && t.g.RngChoice >= 0 && t.g.RngChoice < kRngCount);
+    t.g.HyperDriveOn = true;
+    t.g.AutoBetActivated = false;
+    for (int i = 0; i < 20; ++i) RollDice(t.g);
+  }
+  // A file that ends with the last record: the streams go on as they are.
+  const size_t continuation = bytes.find("Dicemill Continuation");
+  ASSERT_NE(continuation, std::string::npos);
+  WriteBytes(path, bytes.substr(0, continuation));
+  SavedTable older(folder.path());
+  SeedSilently(older.g, 0, 99);
+  const Generators before = older.g.Rng;
+  ASSERT_TRUE(OpenGame(older.g, path.string()));
+  EXPECT_EQ(older.g.Rng.mt.mt, before.mt.mt);
+  EXPECT_EQ(older.g.Rng.mt.mti, before.mt.mti);
+  EXPECT_EQ(older.g.ModSeed, saved.g.ModSeed);  // record 15 is there
+
+  std::string pureNoise(4096, '\0');
+  for (char& c : pureNoise) c = static_cast<char>(random());
+  WriteBytes(path, pureNoise);
+  SavedTable t(folder.path());
+  EXPECT_FALSE(OpenGame(t.g, path.string()));
+}
+
+TEST(GameFile, LinksNameTheFilesInUse) {
+  TempFolder folder;
+  const fs::path crp = folder.path() / "default.crp";
+
+  // A script with no name and no lines: empty path and date.
+  SavedTable empty(folder.path());
+  NewGame(empty.g, false);
+  ASSERT_TRUE(SaveGame(empty.g, crp.string()));
+  EXPECT_EQ(empty.g.TableCaption, "Dicemill");
+  const std::string firstRecord = ReadBytes(crp).substr(0, kGameRecordBytes);
+  EXPECT_EQ(firstRecord.substr(kLinkPathOffset), std::string(kGameRecordBytes - kLinkPathOffset - 24, ' ') + std::string(24, '\0'));
+
+  // An unsaved script in default.crp goes to default.bet beside it.
+  SavedTable dirty(folder.path());
+  NewGame(dirty.g, false);
+  StartStrategy(dirty.g, folder.path());
+  dirty.g.AutoBet.FileName.clear();
+  dirty.g.ScriptDirty = true;
+  ASSERT_TRUE(SaveGame(dirty.g, crp.string()));
+  const fs::path bet = folder.path() / "default.bet";
+  ASSERT_TRUE(fs::exists(bet));
+  const std::string linking = ReadBytes(crp);
+  RecordReader reader(linking);
+  const FileLink link = GetLink(reader.Next());
+  EXPECT_EQ(link.Path, bet.string());
+  EXPECT_EQ(link.Date, FileDateText(bet.string()));
+  EXPECT_FALSE(link.Date.empty());
+
+  // The same unsaved script in a game of another name is not linked.
+  dirty.g.ScriptDirty = true;
+  ASSERT_TRUE(SaveGame(dirty.g, (folder.path() / "other.crp").string()));
+  const std::string notLinking = ReadBytes(folder.path() / "other.crp");
+  RecordReader other(notLinking);
+  EXPECT_TRUE(GetLink(other.Next()).Path.empty());
+
+  // Gone and changed files are told about when the game opens.
+  const fs::path rol = folder.path() / "r.rol";
+  WriteBytes(rol, std::string(10, static_cast<char>(RollByte(3, 4))));
+  SavedTable linked(folder.path());
+  NewGame(linked.g, false);
+  ASSERT_TRUE(OpenRollFile(linked.g, rol.string()));
+  std::string error;
+  ASSERT_TRUE(LoadScriptFile(bet.string(), linked.g.AutoBet, error));
+  const fs::path game = folder.path() / "linked.crp";
+  ASSERT_TRUE(SaveGame(linked.g, game.string()));
+  fs::last_write_time(rol, fs::last_write_time(rol) - std::chrono::hours(2));
+  fs::remove(bet);
+  SavedTable reopened(folder.path());
+  ASSERT_TRUE(OpenGame(reopened.g, game.string()));
+  ASSERT_EQ(reopened.ui.messages.size(), 2u);
+  EXPECT_EQ(reopened.ui.messages[0].title, "Missing Auto-Bet File");
+  EXPECT_EQ(reopened.ui.messages[0].text,
+            "The following Auto-Bet file (that was in use when this game \rwas saved) was not found:\r" + bet.string());
+  EXPECT_EQ(reopened.ui.messages[1].title, "Altered Dice Roll File");
+  EXPECT_EQ(reopened.ui.messages[1].text,
+            "The following Dice Roll file (that was in use when this game \rwas saved) has been changed:\r" + rol.string());
+  EXPECT_EQ(reopened.g.AutoBet.NumLines(), 0);
+  EXPECT_EQ(reopened.g.DiceFile.RollFileName, rol.string());
+}
+
+TEST(GameFile, WhatThisProgramDoesNotUseGoesBackOutUnchanged) {
+  TempFolder folder;
+  SavedTable t(folder.path());
+  NewGame(t.g, false);
+  const fs::path path = folder.path() / "g.crp";
+  ASSERT_TRUE(SaveGame(t.g, path.string()));
+  std::string bytes = ReadBytes(path);
+  auto slot = [](int record, int currencySlot) { return (record - 1) * kGameRecordBytes + currencySlot * 8; };
+  const std::vector<size_t> foreign = {5 * kGameRecordBytes + 3,  // a geometry entry, record 6
+                                       slot(8, 0),                // ConfigTab
+                                       slot(9, 19),               // AdvantageScrollTop
+                                       slot(11, 20),              // a screen index
+                                       slot(12, 30),              // a graph value
+                                       12 * kGameRecordBytes + 7};  // the 6-by-6 table
+  for (size_t at : foreign) bytes[at] = 0x5A;
+  WriteBytes(path, bytes);
+  SavedTable again(folder.path());
+  ASSERT_TRUE(OpenGame(again.g, path.string()));
+  ASSERT_TRUE(SaveGame(again.g, path.string()));
+  const std::string rewritten = ReadBytes(path);
+  for (size_t at : foreign) EXPECT_EQ(rewritten[at], 0x5A) << at;
+}
+
+TEST(GameFile, AFailedSaveLeavesTheOldFileWhole) {
+  TempFolder folder;
+  SavedTable t(folder.path());
+  NewGame(t.g, false);
+  const fs::path path = folder.path() / "keep.crp";
+  ASSERT_TRUE(SaveGame(t.g, path.string()));
+  const std::string before = ReadBytes(path);
+  fs::create_directory(folder.path() / "keep.crp.tmp");  // the temporary file cannot be made
+  t.g.BetAmount[0] = 12345;
+  EXPECT_FALSE(SaveGame(t.g, path.string()));
+  ASSERT_EQ(t.ui.messages.size(), 1u);
+  EXPECT_EQ(t.ui.messages[0].title, "Error");
+  EXPECT_EQ(t.ui.messages[0].text, "File name error, file not found, or device error.\rCheck path and file name.");
+  EXPECT_EQ(ReadBytes(path), before);
+  SavedTable back(folder.path());
+  ASSERT_TRUE(OpenGame(back.g, path.string()));
+  EXPECT_EQ(back.g.Bankroll(), 500);
+}
+
+TEST(GameFile, TheDefaultGameIsSavedAtTheStopAndOpenedAtTheStart) {
+  TempFolder folder;
+  SavedTable t(folder.path());
+  NewGame(t.g, false);
+  t.g.BetAmount[0] = 4321;
+  t.g.TableMaximum = 2500;
+  ASSERT_TRUE(SaveDefaultGame(t.g));
+  Game next;
+  StartUp(next, folder.path().string());
+  EXPECT_EQ(next.Bankroll(), 4321);
+  EXPECT_EQ(next.TableMaximum, 2500);
+  EXPECT_EQ(next.TableCaption, "Dicemill");
+}
