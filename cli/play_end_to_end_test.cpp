@@ -64,11 +64,13 @@ TEST(PlayEndToEnd, StrictExitsTwoAndTheFolderComesFromTheEnvironment) {
 
 TEST(PlayEndToEnd, TheSameSeedGivesTheSameDiceInANewProcess) {
   TempFolder work;
-  const std::string folder = "--folder '" + (work.path() / "data").string() + "'";
+  // Each process in a folder of its own: a stop leaves its game behind as
+  // the folder's default game, which the next start would continue.
+  auto folder = [&](int run) { return "--folder '" + (work.path() / ("data" + std::to_string(run))).string() + "'"; };
   for (int rng = 0; rng <= 7; ++rng) {
     const std::string input = "set RngChoice " + std::to_string(rng) + "\nseed 777\n" + "roll\nroll\nroll\nroll\nroll\n";
-    const CliRun first = RunCli(work.path(), "", folder, input);
-    const CliRun second = RunCli(work.path(), "", folder, input);
+    const CliRun first = RunCli(work.path(), "", folder(2 * rng), input);
+    const CliRun second = RunCli(work.path(), "", folder(2 * rng + 1), input);
     std::vector<Json> rolled;
     for (const Json& o : first.objects)
       if (o.contains("rolled")) rolled.push_back(o);

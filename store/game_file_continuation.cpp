@@ -67,10 +67,6 @@ void ContinuationFields(G& g, F&& f) {
   f(g.ModifyOperator[1]);
   f(g.ModifyOperator[3]);
   f(g.AutoArrangeChips);
-  f(g.Decided.Won);
-  f(g.Decided.Lost);
-  f(g.Decided.WonAmount);
-  f(g.Decided.LostAmount);
   f(g.ClickTool);
   for (auto& stack : g.TrayStack) f(stack);
 

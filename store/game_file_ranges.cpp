@@ -58,8 +58,13 @@ void KeepMoneyInRange(Game& g) {
   for (Currency& v : g.BuyVigOnBet) Bound(v);
   for (Currency& v : g.LayVigOnBet) Bound(v);
   for (Currency& v : g.ModifyAmount) Bound(v, -kMostRatio, kMostRatio);
-  for (Currency* v : {&g.HighBankroll, &g.LowBankroll, &g.AmountInvested, &g.Decided.WonAmount, &g.Decided.LostAmount})
-    Bound(*v, -kMostBankroll, kMostBankroll);
+  for (Currency* v : {&g.HighBankroll, &g.LowBankroll, &g.AmountInvested}) Bound(*v, -kMostBankroll, kMostBankroll);
+  // Results add up over a game of 100,000,000 rolls: sums of a billion
+  // dollars a roll still stay inside 64 bits.
+  for (auto* table : {&g.BetWagers, &g.BetWins, &g.BetLosses})
+    for (auto& kind : *table)
+      for (auto& cells : kind)
+        for (Currency& v : cells) Bound(v, -kMostBankroll * 100'000, kMostBankroll * 100'000);
   for (Currency* v : {&g.TotalOnTable, &g.TableMinimum, &g.TableMaximum,
                       &g.MaxOddsBet, &g.MaxPropBetPayoff, &g.BankrollInitAmount, &g.AtmAmount, &g.SimRollRate, &g.SeedRequest})
     Bound(*v);

@@ -2,9 +2,7 @@
 //
 // Tables not kept by the game yet are appended HERE, in this order, each in
 // both functions at the same place:
-//   - the three phantom-wager tables, 1..100 by eight (Currency, before the
-//     streaks: AddCurrencies / NextCurrencies),
-//   - the bankroll graph points 0..1050 (Currency, same place),
+//   - the bankroll graph points 0..1050 (Currency, after the bet results),
 //   - the two further tables 0..90 after the four roll tables,
 //   - the table of 200 rows by 90 before HandStats.
 // Each table is packed into records of its own, so a table added here moves
@@ -13,6 +11,7 @@
 #include <algorithm>
 
 #include "engine/game.h"
+#include "stats/bet_results.h"
 #include "store/game_file_sections.h"
 
 namespace {
@@ -27,9 +26,29 @@ void Fill(std::array<int32_t, N>& table, const std::vector<int32_t>& values) {
   std::copy_n(values.begin(), N, table.begin());
 }
 
+// A bet results table, both kinds, BetId 1..100 by its eight measures.
+std::vector<Currency> ListOf(const Game::BetResultTable& table) {
+  std::vector<Currency> values;
+  for (const auto& kind : table)
+    for (int id = 1; id <= 100; ++id) values.insert(values.end(), kind[id].begin(), kind[id].end());
+  return values;
+}
+
+void Fill(Game::BetResultTable& table, const std::vector<Currency>& values) {
+  auto next = values.begin();
+  for (auto& kind : table)
+    for (int id = 1; id <= 100; ++id)
+      for (Currency& cell : kind[id]) cell = *next++;
+}
+
+constexpr size_t kResultCells = 2 * 100 * 8;
+
 }  // namespace
 
 void WriteStatisticsRecords(const Game& g, RecordWriter& w) {
+  w.AddCurrencies(ListOf(g.BetWagers));
+  w.AddCurrencies(ListOf(g.BetWins));
+  w.AddCurrencies(ListOf(g.BetLosses));
   w.AddInt32s(ListOf(g.BetStreak[0]));
   w.AddInt32s(ListOf(g.BetStreak[1]));
   w.AddInt32s(ListOf(g.RollCounts));
@@ -40,6 +59,10 @@ void WriteStatisticsRecords(const Game& g, RecordWriter& w) {
 }
 
 void ReadStatisticsRecords(Game& g, RecordReader& r) {
+  Fill(g.BetWagers, r.NextCurrencies(kResultCells));
+  Fill(g.BetWins, r.NextCurrencies(kResultCells));
+  Fill(g.BetLosses, r.NextCurrencies(kResultCells));
+  RelistLastRollCells(g);  // the last roll's cells are cleared at the next roll
   Fill(g.BetStreak[0], r.NextInt32s(g.BetStreak[0].size()));
   Fill(g.BetStreak[1], r.NextInt32s(g.BetStreak[1].size()));
   Fill(g.RollCounts, r.NextInt32s(g.RollCounts.size()));
