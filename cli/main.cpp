@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/dice_tool.h"
+#include "cli/games_tool.h"
 #include "cli/play_session.h"
 #include "cli/run_tool.h"
 #include "cli/script_tool.h"
@@ -25,12 +26,16 @@ int main(int argc, char** argv) {
   ScriptToolOptions scriptOptions;
   CLI::App* script = AddScriptTool(app, scriptOptions);
 
+  GamesToolOptions gamesOptions;
+  CLI::App* games = AddGamesTool(app, gamesOptions);
+
   CLI11_PARSE(app, argc, argv);
 
   std::ios::sync_with_stdio(false);
   if (play->parsed()) return RunPlay(std::cin, std::cout, options);
   if (dice->parsed()) return RunDiceTool(*dice, diceOptions, std::cout, std::cerr);
   if (run->parsed()) return RunRunTool(runOptions, std::cout, std::cerr);
+  if (games->parsed()) return RunGamesTool(gamesOptions, std::cout, std::cerr);
   if (script->parsed()) return RunScriptTool(*script, scriptOptions, std::cout, std::cerr);
   return 0;
 }

@@ -73,6 +73,9 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
       {"script", 1, 1, "script FILE", &PlaySession::ScriptFile},
       {"autobet", 1, 2, "autobet on|off|steps on|off|run", &PlaySession::AutoBet},
       {"flags", 0, 0, "flags", &PlaySession::Flags},
+      {"stats", 0, 3, "stats [VIEW] [true|skewed] | stats freq N [true|skewed] | stats selections", &PlaySession::Stats},
+      {"graph", 0, 3, "graph [average N|scale larger|smaller|move up|down|adjust 0|1|2|reflines P1 P2|off]", &PlaySession::Graph},
+      {"gameslog", 1, 1, "gameslog FILE|off", &PlaySession::GamesLog},
   };
   return commands;
 }

@@ -70,6 +70,9 @@ class PlaySession {
   void ScriptFile(const Args& a);  // cli/script_commands.cpp
   void AutoBet(const Args& a);
   void Flags(const Args& a);
+  void Stats(const Args& a);     // cli/roll_stats_commands.cpp
+  void Graph(const Args& a);
+  void GamesLog(const Args& a);
   // A changed script offers its first cycle before the table's next roll.
   void GoToTable();
 

@@ -14,6 +14,8 @@ struct RunToolOptions {
   RunOptions run;
   std::string gameFile;
   std::string bankroll;  // read as an amount after parsing
+  std::string bankrollCsv;  // the bankroll of every roll, as CSV
+  std::string gamesLog;     // a ".glg" games log each game is added to
   bool json = false, quiet = false, timing = false;
 };
 

@@ -5,10 +5,12 @@
 #include <atomic>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "engine/money.h"
 #include "script/script.h"
 #include "sim/run_options.h"
+#include "store/games_log_file.h"
 
 struct GameResult {
   int64_t Seed = 0;
@@ -21,6 +23,8 @@ struct GameResult {
   Currency AmountWon, AmountLost;
   bool Ruined = false;  // the bankroll fell to zero or below, or the max loss limit stopped it
   double Seconds = 0;
+  GameLogRecord LogRecord{};            // the game as the games log keeps it
+  std::vector<Currency> BankrollSeries;  // with KeepBankrollSeries: the start, then each roll
 };
 
 // Shared by the games of a batch: a stop request (checked once per roll) and

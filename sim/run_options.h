@@ -17,4 +17,5 @@ struct RunOptions {
   std::optional<Currency> Bankroll;  // the starting bankroll; default the table's
   int Games = 1;
   int Threads = 0;            // 0: every core
+  bool KeepBankrollSeries = false;  // keep the bankroll after every roll of every game
 };
