@@ -95,30 +95,33 @@ bool Moments(const std::vector<Currency>& values, int measure, GamesStatistics& 
   return true;
 }
 
-void MakeHistogram(const std::vector<Currency>& sorted, const GamesView& view, GamesStatistics& s) {
-  const Currency spread = MulRatio(s.StdDev, view.SDCount.ToDouble());
-  s.RangeLow = s.Mean - spread;
-  s.RangeHigh = s.Mean + spread;
+// The bars run from mean - SDCount standard deviations to mean + SDCount;
+// edges are worked in double so that no spread can overflow them.
+bool MakeHistogram(const std::vector<Currency>& sorted, const GamesView& view, GamesStatistics& s) {
+  const double spread = s.StdDev.ToDouble() * view.SDCount.ToDouble();
+  if (!ToCurrency(s.Mean.ToDouble() - spread, s.RangeLow) || !ToCurrency(s.Mean.ToDouble() + spread, s.RangeHigh))
+    return false;
   s.RangeMid = s.Mean;
-  const int bars = std::clamp(view.ValueCount, 1, 1000);
-  const int64_t width = s.RangeHigh.raw - s.RangeLow.raw;
-  s.Bars.assign(width > 0 ? bars : 1, HistogramBar{});
-  const int64_t count = static_cast<int64_t>(s.Bars.size());
+  const double low = s.RangeLow.ToDouble(), width = s.RangeHigh.ToDouble() - low;
+  const int64_t count = width > 0 ? std::clamp(view.ValueCount, 1, 1000) : 1;
+  s.Bars.assign(count, HistogramBar{});
   for (int64_t i = 0; i < count; ++i) {
-    s.Bars[i].Low = Currency::FromRaw(s.RangeLow.raw + width * i / count);
-    s.Bars[i].High = Currency::FromRaw(s.RangeLow.raw + width * (i + 1) / count);
+    s.Bars[i].Low = i == 0 ? s.RangeLow : Currency::FromDouble(low + width * i / count);
+    s.Bars[i].High = i == count - 1 ? s.RangeHigh : Currency::FromDouble(low + width * (i + 1) / count);
   }
+  int64_t bar = 0;  // the values come sorted, so the bar only moves up
   for (Currency x : sorted) {
-    if (x < s.RangeLow) ++s.BelowRange;
-    else if (x > s.RangeHigh) ++s.AboveRange;
-    else {
-      const int64_t bar = width > 0 ? std::min(count - 1, static_cast<int64_t>(
-                                                                  static_cast<double>(x.raw - s.RangeLow.raw) / width * count))
-                                    : 0;
+    if (x < s.RangeLow) {
+      ++s.BelowRange;
+    } else if (x > s.RangeHigh) {
+      ++s.AboveRange;
+    } else {
+      while (bar + 1 < count && x >= s.Bars[bar + 1].Low) ++bar;
       ++s.Bars[bar].Games;
     }
   }
   for (const HistogramBar& bar : s.Bars) s.HighGames = std::max(s.HighGames, bar.Games);
+  return true;
 }
 
 }  // namespace
@@ -209,7 +212,10 @@ bool UpdateGamesPlayed(const std::vector<GameLogRecord>& games, const GamesView&
   s.MedianIsAverage = values.size() % 2 == 0;
   FindMode(values, s);
   if (!Moments(values, view.Measure, s, error)) return false;
-  MakeHistogram(values, view, s);
+  if (!MakeHistogram(values, view, s)) {
+    error = CalculationError(view.Measure);
+    return false;
+  }
   return true;
 }
 

@@ -133,6 +133,14 @@ TEST(GamesLog, HistogramBarsSpanTheStandardDeviations) {
   EXPECT_EQ(s.BelowRange, 1);
   EXPECT_EQ(s.AboveRange, 1);
   EXPECT_EQ(s.HighGames, 3);
+  // A spread too wide for money is a failure, not a wrong answer.
+  GamesView wide = view;
+  wide.SDCount = 1'000'000;
+  std::string error;
+  GamesStatistics failed;
+  const Currency far = Currency::FromRaw(4'000'000'000'000'000'000);
+  EXPECT_FALSE(UpdateGamesPlayed(Nets({-far, far}), wide, failed, error));
+  EXPECT_NE(error.find("Net Amount Won"), std::string::npos);
   // No spread: one bar holds every game.
   const GamesStatistics flat = Statistics(Nets({7, 7}), view);
   ASSERT_EQ(flat.Bars.size(), 1u);

@@ -1,7 +1,6 @@
 #include "store/games_log_file.h"
 
 #include <cstdint>
-#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <system_error>
