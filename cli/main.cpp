@@ -4,6 +4,7 @@
 
 #include "cli/advantage_tool.h"
 #include "cli/dice_tool.h"
+#include "cli/games_tool.h"
 #include "cli/play_session.h"
 #include "cli/run_tool.h"
 #include "cli/script_tool.h"
@@ -28,12 +29,16 @@ int main(int argc, char** argv) {
   AdvantageToolOptions advantageOptions;
   CLI::App* advantage = AddAdvantageTool(app, advantageOptions);
 
+  GamesToolOptions gamesOptions;
+  CLI::App* games = AddGamesTool(app, gamesOptions);
+
   CLI11_PARSE(app, argc, argv);
 
   std::ios::sync_with_stdio(false);
   if (play->parsed()) return RunPlay(std::cin, std::cout, options);
   if (dice->parsed()) return RunDiceTool(*dice, diceOptions, std::cout, std::cerr);
   if (run->parsed()) return RunRunTool(runOptions, std::cout, std::cerr);
+  if (games->parsed()) return RunGamesTool(gamesOptions, std::cout, std::cerr);
   if (script->parsed()) return RunScriptTool(*script, scriptOptions, std::cout, std::cerr);
   if (advantage->parsed()) return RunAdvantageTool(advantageOptions, std::cout, std::cerr);
   return 0;

@@ -84,6 +84,9 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
       {"trends", 0, 0, "trends", &PlaySession::Trends},
       {"open", 1, 1, "open FILE", &PlaySession::OpenGameFile},
       {"save", 1, 1, "save FILE", &PlaySession::SaveGameFile},
+      {"stats", 0, 3, "stats [VIEW] [true|skewed] | stats freq N [true|skewed] | stats selections", &PlaySession::Stats},
+      {"graph", 0, 3, "graph [average N|scale larger|smaller|move up|down|adjust 0|1|2|reflines P1 P2|off]", &PlaySession::Graph},
+      {"gameslog", 1, 1, "gameslog FILE|off", &PlaySession::GamesLog},
   };
   return commands;
 }

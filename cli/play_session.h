@@ -83,6 +83,9 @@ class PlaySession {
   void Trends(const Args& a);
   void OpenGameFile(const Args& a);  // cli/game_commands.cpp
   void SaveGameFile(const Args& a);
+  void Stats(const Args& a);     // cli/roll_stats_commands.cpp
+  void Graph(const Args& a);
+  void GamesLog(const Args& a);
   // A changed script offers its first cycle before the table's next roll.
   void GoToTable();
 

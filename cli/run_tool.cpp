@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <thread>
 
+#include "cli/run_outputs.h"
 #include "cli/run_report.h"
 #include "engine/game.h"
 #include "engine/roll.h"
@@ -107,6 +108,8 @@ CLI::App* AddRunTool(CLI::App& app, RunToolOptions& o) {
   run->add_option("--bankroll", o.bankroll, "Starting bankroll");
   run->add_option("--games", o.run.Games, "Independent games, each with its own seed")->check(CLI::Range(1, 1'000'000));
   run->add_option("--threads", o.run.Threads, "Threads (default: every core)")->check(CLI::Range(1, 1024));
+  run->add_option("--bankroll-csv", o.bankrollCsv, "Write the bankroll after every roll of every game to this CSV file");
+  run->add_option("--log", o.gamesLog, "Add each game to this games log (.glg), made if it is not there");
   run->add_flag("--json", o.json, "Print one JSON document instead of text");
   run->add_flag("--timing", o.timing, "Put the time taken into the JSON document too");
   run->add_flag("--quiet", o.quiet, "No progress bar");
@@ -132,6 +135,11 @@ int RunRunTool(const RunToolOptions& options, std::ostream& out, std::ostream& e
     }
     run.Bankroll = amount;
   }
+  run.KeepBankrollSeries = !options.bankrollCsv.empty();
+  if (std::string error; !options.gamesLog.empty() && !CheckGamesLog(options.gamesLog, error)) {
+    err << "dicemill-cli run: " << error << "\n";
+    return 1;
+  }
   Script script;
   if (!ReadScript(run.ScriptPath, script, err)) return 1;
 
@@ -152,5 +160,16 @@ int RunRunTool(const RunToolOptions& options, std::ostream& out, std::ostream& e
     out << RunReportJson(run, batch, options.timing).dump(2) << "\n";
   else
     WriteRunReportText(out, run, batch);
-  return batch.Interrupted ? 130 : 0;
+  std::string error;
+  bool written = true;
+  if (!options.bankrollCsv.empty() && !WriteBankrollCsv(options.bankrollCsv, batch, error)) {
+    err << "dicemill-cli run: " << error << "\n";
+    written = false;
+  }
+  if (!options.gamesLog.empty() && !AppendBatchToLog(options.gamesLog, batch, error)) {
+    err << "dicemill-cli run: " << error << "\n";
+    written = false;
+  }
+  if (batch.Interrupted) return 130;
+  return written ? 0 : 1;
 }

@@ -15,6 +15,8 @@ struct RunToolOptions {
   std::string gameFile;
   bool seedGiven = false;
   std::string bankroll;  // read as an amount after parsing
+  std::string bankrollCsv;  // the bankroll of every roll, as CSV
+  std::string gamesLog;     // a ".glg" games log each game is added to
   bool json = false, quiet = false, timing = false;
 };
 

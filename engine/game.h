@@ -192,6 +192,28 @@ struct Game {
   };
   std::array<BetTrend, 84> BetTrends{};
 
+  // --- Bankroll graph and games log ---------------------------------------------
+  // GraphBankroll[0] is the roll count at the window's left edge, 1..525 the
+  // window being drawn, 526..1050 the window before it. The scales are money
+  // per pixel row; a window is 300 rows high.
+  std::array<Currency, 1051> GraphBankroll{};
+  std::array<Currency, 526> GraphAverage{};
+  int32_t GraphCount = 0;
+  int32_t MovingAverageRolls = 0;  // 0: every roll of the game
+  bool DisplayAverage = false;
+  Currency GraphHigh, GraphLow;
+  int32_t AutoAdjustType = 1;  // 0 manual, 1 expanding scale, 2 snap-back scale
+  Currency GraphScale = 1;
+  Currency ManualScale = 1;
+  Currency GraphTop;
+  bool DisplayGridLines = true;
+  bool DisplayRefLines = false;
+  std::array<int32_t, 2> RefLinePosition{};  // window points of the two lines, 0 none
+  int32_t GraphStyle = 0;
+  int32_t GraphColor = 0;
+  bool AutoPrint = false;
+  std::string GamesLogFile;  // the games log a finished game is added to; empty: none
+
   // --- Dice Roll File ---------------------------------------------------------
   // The open file, its positions and its handle (closed with the game).
   // DiceFileMode above is the recorder status.

@@ -12,6 +12,8 @@
 #include "store/small_files.h"
 #include "stats/bet_results.h"
 #include "store/game_file.h"
+#include "stats/bankroll_graph.h"
+#include "stats/games_log.h"
 
 namespace {
 
@@ -68,6 +70,8 @@ void StartUp(Game& g, const std::string& folder) {
 }
 
 void NewGame(Game& g, bool keepChipStacks) {
+  // The games log takes its row before the counters are cleared.
+  LogFinishedGame(g);
   const Currency savedBankroll = g.Bankroll();
   for (int id = 0; id <= bet::kLastTableBet; ++id)
     g.BetAmount[id] = g.BetAtRollStart[id] = g.BetAfterRoll[id] = 0;
@@ -99,7 +103,7 @@ void NewGame(Game& g, bool keepChipStacks) {
   g.BetAmount[bet::kBankroll] = g.BetAtRollStart[bet::kBankroll] = g.BetAfterRoll[bet::kBankroll] = bankroll;
   if (g.BankrollInitType != 3) g.AmountInvested = bankroll;  // type 3 keeps counting from the first start
   if (bankroll < 0) g.AllowNegativeBankroll = true;
-  // The bankroll graph's history is erased here once the graph exists.
+  ClearBankrollGraph(g);
   g.HighBankroll = g.LowBankroll = bankroll;
   g.BankrollSum = 0;
   g.RollCountLeft = g.RollCountStop;
@@ -111,6 +115,5 @@ void NewGame(Game& g, bool keepChipStacks) {
   g.GameFileName.clear();
   // A file being played or recorded: rewind it for the new game, or not.
   if (g.DiceFileMode != 0 && g.DiceFile.File.IsOpen()) OfferRewind(g);
-  // The games log takes its row here once it exists.
   g.Ui->RefreshTable();
 }

@@ -14,6 +14,7 @@
 #include "engine/settle_order.h"
 #include "script/interpreter.h"
 #include "stats/bet_results.h"
+#include "stats/bankroll_graph.h"
 #include "stats/roll_counters.h"
 
 namespace {
@@ -173,7 +174,7 @@ void Throw(Game& g) {
   if (Abs(g.Bankroll()) > Currency(BankLimit)) CheckBankLimit(g);
   g.HighBankroll = Max(g.HighBankroll, g.Bankroll());
   g.LowBankroll = Min(g.LowBankroll, g.Bankroll());
-  // The bankroll graph takes its point here once it exists.
+  RecordBankrollPoint(g);
   if (g.AutoBetActivated && g.AutoBet.NumLines() > 0) RunAutoBet(g);
   TakeScriptSnapshots(g);
 

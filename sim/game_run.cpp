@@ -15,6 +15,7 @@
 #include "sim/hyper_drive.h"
 #include "stats/bet_results.h"
 #include "store/game_file.h"
+#include "stats/games_log.h"
 
 namespace {
 
@@ -32,6 +33,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
     return SilentFrontEnd::ShowMessage(title, text, buttons);
   }
   void LetInputRun() override {
+    if (series_ && game_.RollCounts[0] >= static_cast<int64_t>(series_->size())) series_->push_back(game_.Bankroll());
     if (++calls_ % kPublishEvery == 0) Publish();
     if (control_.Stop.load(std::memory_order_relaxed)) game_.KeepRolling = false;
   }
@@ -48,6 +50,8 @@ class RunnerFrontEnd : public SilentFrontEnd {
   const std::string& FirstMessage() const { return firstMessage_; }
   void ForgetMessages() { firstMessage_.clear(); }
   const std::string& StopReason() const { return stopReason_; }
+  // Every roll's bankroll goes to `series` from now on.
+  void KeepSeries(std::vector<Currency>* series) { series_ = series; }
 
  private:
   static constexpr int64_t kPublishEvery = 4096;
@@ -57,6 +61,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
   int64_t published_ = 0;
   std::string firstMessage_;
   std::string stopReason_;
+  std::vector<Currency>* series_ = nullptr;
 };
 
 void FailIfTold(const RunnerFrontEnd& ui, const std::string& what) {
@@ -137,6 +142,11 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t seed
   GameResult r;
   r.Seed = seed;
   r.BankrollStart = g.Bankroll();
+  if (options.KeepBankrollSeries) {
+    if (options.Rolls > 0) r.BankrollSeries.reserve(static_cast<size_t>(options.Rolls) + 1);
+    r.BankrollSeries.push_back(g.Bankroll());
+    ui.KeepSeries(&r.BankrollSeries);
+  }
   g.HyperDriveOn = true;  // the run is headless from its first pass on
   if (script.NumLines() > 0) {
     StartScript(g, script);
@@ -167,6 +177,7 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t seed
   r.AmountLost = actual.Losses[results::kTotal];
   r.Bets = ActualBetLines(g);
   r.Ruined = g.LowBankroll <= 0 || r.StopReason.rfind(kMaxLossReason, 0) == 0;
+  r.LogRecord = FinishedGameRecord(g);
   r.Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
   return r;
 }

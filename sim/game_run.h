@@ -11,6 +11,7 @@
 #include "script/script.h"
 #include "sim/run_options.h"
 #include "stats/bet_results_view.h"
+#include "store/games_log_file.h"
 
 struct GameResult {
   int64_t Seed = 0;
@@ -25,6 +26,8 @@ struct GameResult {
   std::vector<ActualBetLine> Bets;  // every bet that was decided, in BetId order
   bool Ruined = false;  // the bankroll fell to zero or below, or the max loss limit stopped it
   double Seconds = 0;
+  GameLogRecord LogRecord{};            // the game as the games log keeps it
+  std::vector<Currency> BankrollSeries;  // with KeepBankrollSeries: the start, then each roll
 };
 
 // Shared by the games of a batch: a stop request (checked once per roll) and

@@ -22,4 +22,5 @@ struct RunOptions {
   // on from their saved state.
   std::string GameFile;
   bool ReSeed = true;
+  bool KeepBankrollSeries = false;  // keep the bankroll after every roll of every game
 };

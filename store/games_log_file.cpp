@@ -1,0 +1,133 @@
+#include "store/games_log_file.h"
+
+#include <cstdint>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+#include "engine/game.h"
+#include "engine/notices.h"
+#include "store/file_errors.h"
+
+namespace {
+
+constexpr int kTitleBytes = 92;
+constexpr int kCountOffset = 92;
+
+void PutLittleEndian(std::string& bytes, size_t at, uint64_t value, int size) {
+  for (int i = 0; i < size; ++i) bytes[at + i] = static_cast<char>((value >> (8 * i)) & 0xFF);
+}
+
+uint64_t GetLittleEndian(const std::string& bytes, size_t at, int size) {
+  uint64_t value = 0;
+  for (int i = 0; i < size; ++i) value |= uint64_t{static_cast<unsigned char>(bytes[at + i])} << (8 * i);
+  return value;
+}
+
+std::string TrimBlanks(const std::string& text) {
+  const auto first = text.find_first_not_of(" \t\r\n");
+  if (first == std::string::npos) return "";
+  const auto last = text.find_last_not_of(" \t\r\n");
+  return text.substr(first, last - first + 1);
+}
+
+GamesFileError NotAGamesFile(const std::filesystem::path& path) {
+  return {"Unable to Open Dicemill Games File",
+          path.string() + kBreak + "is either from an older version, has been corrupted, or is not a true Dicemill Games File."};
+}
+
+GamesFileError RunTimeError(const std::string& description, int number, const std::string& routine) {
+  return {"Dicemill", RunTimeErrorText(description, number, routine)};
+}
+
+bool ReadBytes(const std::filesystem::path& path, std::string& bytes) {
+  std::ifstream in(path, std::ios::binary);
+  if (!in) return false;
+  bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+  return !in.bad();
+}
+
+void Show(Game& g, const GamesFileError& error) { ShowMessage(g, error.Title, error.Text); }
+
+}  // namespace
+
+std::string EncodeGamesFile(const std::vector<GameLogRecord>& games) {
+  std::string bytes((games.size() + 1) * kGamesRecordBytes, '\0');
+  std::string title = kGamesFileTitle;
+  title.resize(kTitleBytes, ' ');
+  bytes.replace(0, kTitleBytes, title);
+  PutLittleEndian(bytes, kCountOffset, static_cast<uint32_t>(games.size()), 4);
+  for (size_t game = 0; game < games.size(); ++game)
+    for (int field = 0; field < kGameLogFields; ++field)
+      PutLittleEndian(bytes, (game + 1) * kGamesRecordBytes + field * 8, static_cast<uint64_t>(games[game][field].raw), 8);
+  return bytes;
+}
+
+bool DecodeGamesFile(const std::string& bytes, std::vector<GameLogRecord>& games) {
+  if (bytes.size() < static_cast<size_t>(kGamesRecordBytes)) return false;
+  if (TrimBlanks(bytes.substr(0, kTitleBytes)) != kGamesFileTitle) return false;
+  const auto count = static_cast<int32_t>(GetLittleEndian(bytes, kCountOffset, 4));
+  if (count < 0 || bytes.size() / kGamesRecordBytes - 1 < static_cast<size_t>(count)) return false;
+  std::vector<GameLogRecord> read(static_cast<size_t>(count));
+  for (size_t game = 0; game < read.size(); ++game)
+    for (int field = 0; field < kGameLogFields; ++field)
+      read[game][field] = Currency::FromRaw(
+          static_cast<int64_t>(GetLittleEndian(bytes, (game + 1) * kGamesRecordBytes + field * 8, 8)));
+  games = std::move(read);
+  return true;
+}
+
+bool ReadGamesFile(const std::filesystem::path& path, std::vector<GameLogRecord>& games, GamesFileError& error) {
+  std::error_code ec;
+  if (!std::filesystem::is_regular_file(path, ec)) {
+    error = RunTimeError("File not found", 53, "Open Games File");
+    return false;
+  }
+  std::string bytes;
+  if (!ReadBytes(path, bytes)) {
+    error = RunTimeError("Path/File access error", 75, "Open Games File");
+    return false;
+  }
+  if (!DecodeGamesFile(bytes, games)) {
+    error = NotAGamesFile(path);
+    return false;
+  }
+  return true;
+}
+
+bool AppendGamesToLog(const std::filesystem::path& path, const std::vector<GameLogRecord>& added,
+                      GamesFileError& error) {
+  std::vector<GameLogRecord> games;
+  std::error_code ec;
+  if (std::filesystem::exists(path, ec) && !ReadGamesFile(path, games, error)) return false;
+  games.insert(games.end(), added.begin(), added.end());
+  if (games.size() > static_cast<size_t>(INT32_MAX) || !WriteFileAtomically(path, EncodeGamesFile(games))) {
+    error = RunTimeError("Path/File access error", 75, "Save Game To Log");
+    return false;
+  }
+  return true;
+}
+
+bool OpenGamesFile(Game& g, const std::string& path) {
+  std::error_code ec;
+  GamesFileError error;
+  if (std::filesystem::exists(path, ec)) {
+    std::vector<GameLogRecord> games;
+    if (!ReadGamesFile(path, games, error)) {
+      Show(g, error);
+      return false;
+    }
+  } else if (!AppendGamesToLog(path, {}, error)) {
+    Show(g, RunTimeError("Path/File access error", 75, "Open Games File"));
+    return false;
+  }
+  g.GamesLogFile = path;
+  return true;
+}
+
+bool SaveGameToLog(Game& g, const std::string& path, const GameLogRecord& record) {
+  GamesFileError error;
+  if (AppendGamesToLog(path, {record}, error)) return true;
+  Show(g, error);
+  return false;
+}
