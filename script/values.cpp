@@ -59,10 +59,13 @@ Currency ValueOf(const Game& g, int code, int num, bool last) {
       const int ref = ChipStackReference(g, num);
       return ref < 0 ? Currency() : amounts[ref + bet::kFirstStack];
     }
-    // The decided-wager tables arrive with the bet results; until then no
-    // wager has been decided.
     case 1700:
-    case 1701: return Currency();
+    case 1701: {  // actual decided wagers: their count, or their amount
+      const int measure = code == 1700 ? 1 : 2;
+      Currency sum;
+      for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) sum += g.BetWagers[1][id][measure];
+      return sum;
+    }
     case 1702: return Currency(LiveBets(g));
     case 1703: return g.TotalOnTable;
     case 1800:

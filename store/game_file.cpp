@@ -27,8 +27,11 @@ void WriteLinkRecords(Game& g, const std::string& path, RecordWriter& w) {
   PutLink(w.Add(), AutoBetLinkForSave(g, path));
   PutLink(w.Add(), DiceRollLinkForSave(g));
   PutLink(w.Add(), ProbabilityLinkForSave(g, path));
-  // The games log and the note path are held as they were read.
-  for (int record : {4, 5}) PutLink(w.Add(), GetLink(g.FileExtras.Kept(record)));
+  // The games log in use; the note path is held as it was read.
+  FileLink log = LinkTo(g.GamesLogFile);
+  log.Date.clear();  // the log grows with every game: only its path is checked
+  PutLink(w.Add(), log);
+  PutLink(w.Add(), GetLink(g.FileExtras.Kept(5)));
 }
 
 bool ReadWholeFile(const std::string& path, std::string& bytes) {
@@ -105,6 +108,7 @@ bool OpenGameBytes(Game& g, const std::string& bytes, const std::string& path) {
   OpenDiceRollLink(g, diceRoll);
   OpenProbabilityLink(g, probability);
   CheckGamesLogLink(g, GetLink(g.FileExtras.Kept(4)));
+  g.GamesLogFile = GetLink(g.FileExtras.Kept(4)).Path;
 
   SetCaption(g, path);
   g.TableDirty = true;

@@ -104,9 +104,29 @@ void KeepCountersInRange(Game& g) {
   g.RollCountAfterPass = std::clamp(g.RollCountAfterPass, 0, kMostCount);
 }
 
+// The graph's window and the trends' cells index tables of their own.
+void KeepGraphInRange(Game& g) {
+  constexpr int32_t kWindow = 525;
+  g.GraphCount = std::clamp(g.GraphCount, 0, kWindow);
+  g.MovingAverageRolls = std::clamp(g.MovingAverageRolls, 0, kWindow);
+  g.AutoAdjustType = std::clamp(g.AutoAdjustType, 0, 2);
+  for (int32_t& line : g.RefLinePosition) line = std::clamp(line, 0, kWindow);
+  const Currency most = kMostBankroll;
+  for (Currency& v : g.GraphBankroll) Bound(v, -most, most);
+  for (Currency& v : g.GraphAverage) Bound(v, -most, most);
+  for (Currency* v : {&g.GraphHigh, &g.GraphLow, &g.GraphTop}) Bound(*v, -most, most);
+  Bound(g.GraphScale, kLeastUnit, most);  // money per row: it divides
+  Bound(g.ManualScale, kLeastUnit, most);
+  for (Game::BetTrend& t : g.BetTrends) {
+    t.Count = std::clamp(t.Count, 0, Game::kTrendCells);
+    for (Currency& v : t.Net) Bound(v, -most, most);
+  }
+}
+
 }  // namespace
 
 void KeepStateInRange(Game& g) {
+  KeepGraphInRange(g);
   g.RngChoice = std::clamp(g.RngChoice, 0, kRngCount - 1);
   g.Die1 = std::clamp(g.Die1, 1, 6);
   g.Die2 = std::clamp(g.Die2, 1, 6);

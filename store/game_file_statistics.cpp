@@ -2,7 +2,6 @@
 //
 // Tables not kept by the game yet are appended HERE, in this order, each in
 // both functions at the same place:
-//   - the bankroll graph points 0..1050 (Currency, after the bet results),
 //   - the two further tables 0..90 after the four roll tables,
 //   - the table of 200 rows by 90 before HandStats.
 // Each table is packed into records of its own, so a table added here moves
@@ -43,12 +42,66 @@ void Fill(Game::BetResultTable& table, const std::vector<Currency>& values) {
 
 constexpr size_t kResultCells = 2 * 100 * 8;
 
+template <size_t N>
+std::vector<Currency> MoneyOf(const std::array<Currency, N>& table) {
+  return std::vector<Currency>(table.begin(), table.end());
+}
+
+template <size_t N>
+void FillMoney(std::array<Currency, N>& table, const std::vector<Currency>& values) {
+  std::copy_n(values.begin(), N, table.begin());
+}
+
+// The graph's points and the settings that place its window.
+void WriteGraph(const Game& g, RecordWriter& w) {
+  w.AddCurrencies(MoneyOf(g.GraphBankroll));
+  w.AddCurrencies(MoneyOf(g.GraphAverage));
+  w.AddCurrencies({g.GraphHigh, g.GraphLow, g.GraphScale, g.ManualScale, g.GraphTop});
+  w.AddInt32s({g.GraphCount, g.MovingAverageRolls, g.DisplayAverage, g.AutoAdjustType, g.DisplayGridLines,
+               g.DisplayRefLines, g.RefLinePosition[0], g.RefLinePosition[1], g.GraphStyle, g.GraphColor,
+               g.AutoPrint});
+}
+
+void ReadGraph(Game& g, RecordReader& r) {
+  FillMoney(g.GraphBankroll, r.NextCurrencies(g.GraphBankroll.size()));
+  FillMoney(g.GraphAverage, r.NextCurrencies(g.GraphAverage.size()));
+  const std::vector<Currency> money = r.NextCurrencies(5);
+  g.GraphHigh = money[0], g.GraphLow = money[1], g.GraphScale = money[2], g.ManualScale = money[3];
+  g.GraphTop = money[4];
+  const std::vector<int32_t> v = r.NextInt32s(11);
+  g.GraphCount = v[0], g.MovingAverageRolls = v[1], g.DisplayAverage = v[2] != 0, g.AutoAdjustType = v[3];
+  g.DisplayGridLines = v[4] != 0, g.DisplayRefLines = v[5] != 0;
+  g.RefLinePosition = {v[6], v[7]};
+  g.GraphStyle = v[8], g.GraphColor = v[9], g.AutoPrint = v[10] != 0;
+}
+
+// The latest results of each bet for the trends view.
+void WriteTrends(const Game& g, RecordWriter& w) {
+  for (const Game::BetTrend& t : g.BetTrends) {
+    w.AddCurrencies(MoneyOf(t.Net));
+    std::vector<int32_t> rolls(t.Roll.begin(), t.Roll.end());
+    rolls.push_back(t.Count);
+    w.AddInt32s(rolls);
+  }
+}
+
+void ReadTrends(Game& g, RecordReader& r) {
+  for (Game::BetTrend& t : g.BetTrends) {
+    FillMoney(t.Net, r.NextCurrencies(t.Net.size()));
+    const std::vector<int32_t> rolls = r.NextInt32s(t.Roll.size() + 1);
+    std::copy_n(rolls.begin(), t.Roll.size(), t.Roll.begin());
+    t.Count = rolls.back();
+  }
+}
+
 }  // namespace
 
 void WriteStatisticsRecords(const Game& g, RecordWriter& w) {
   w.AddCurrencies(ListOf(g.BetWagers));
   w.AddCurrencies(ListOf(g.BetWins));
   w.AddCurrencies(ListOf(g.BetLosses));
+  WriteGraph(g, w);
+  WriteTrends(g, w);
   w.AddInt32s(ListOf(g.BetStreak[0]));
   w.AddInt32s(ListOf(g.BetStreak[1]));
   w.AddInt32s(ListOf(g.RollCounts));
@@ -63,6 +116,8 @@ void ReadStatisticsRecords(Game& g, RecordReader& r) {
   Fill(g.BetWins, r.NextCurrencies(kResultCells));
   Fill(g.BetLosses, r.NextCurrencies(kResultCells));
   RelistLastRollCells(g);  // the last roll's cells are cleared at the next roll
+  ReadGraph(g, r);
+  ReadTrends(g, r);
   Fill(g.BetStreak[0], r.NextInt32s(g.BetStreak[0].size()));
   Fill(g.BetStreak[1], r.NextInt32s(g.BetStreak[1].size()));
   Fill(g.RollCounts, r.NextInt32s(g.RollCounts.size()));

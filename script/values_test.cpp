@@ -1,0 +1,37 @@
+#include "script/values.h"
+
+#include <gtest/gtest.h>
+
+#include "engine/test_support.h"
+
+TEST(ScriptValues, GroupsReferencesPointsAndDecidedWagers) {
+  Table t;
+  for (int n : {4, 5, 6, 8, 9, 10}) t.Stand(bet::Place(n), n);
+  EXPECT_EQ(GetValue(t.g, 1006, 0), Currency(42));
+  EXPECT_EQ(GetValue(t.g, 1007, 0), Currency(5 + 6 + 8 + 9));  // inside: 5, 6, 8, 9
+  EXPECT_EQ(GetValue(t.g, 1008, 0), Currency(4 + 5 + 9 + 10));  // outside: all but 6 and 8
+  EXPECT_EQ(GetValue(t.g, 1702, 0), Currency(6));
+
+  // Chip-Stack 3 points at Chip-Stack 7; a value of 100 or below 0 reads $0.
+  t.g.BetAmount[103] = Currency::FromRaw(75'000);  // 7.5: its whole part
+  t.g.BetAmount[107] = 25;
+  EXPECT_EQ(GetValue(t.g, 1601, 3), Currency(25));
+  for (Currency bad : {Currency(100), Currency(-1)}) {
+    t.g.BetAmount[103] = bad;
+    EXPECT_EQ(GetValue(t.g, 1601, 3), Currency(0));
+  }
+
+  // The shooter's-point Place bet is the Place bet of the point; none without one.
+  EXPECT_EQ(GetValue(t.g, 1805, 0), Currency(0));
+  t.SetPoint(8);
+  EXPECT_EQ(GetValue(t.g, 1805, 0), Currency(8));
+  t.SetPoint(10);
+  EXPECT_EQ(GetValue(t.g, 1805, 0), Currency(10));
+
+  // Decided wagers: a 6 decides the Place 6 (working, as all are here).
+  t.SetPoint(0);
+  t.g.BetStatus.fill(1);
+  t.Roll(3, 3);
+  EXPECT_EQ(GetValue(t.g, 1700, 0), Currency(1));
+  EXPECT_EQ(GetValue(t.g, 1701, 0), Currency(6));
+}
