@@ -9,6 +9,7 @@
 #include "engine/game.h"
 #include "engine/new_game.h"
 #include "stats/advantage.h"
+#include "store/game_file.h"
 
 namespace {
 
@@ -85,15 +86,34 @@ CLI::App* AddAdvantageTool(CLI::App& app, AdvantageToolOptions& o) {
   return advantage;
 }
 
+namespace {
+
+// The messages of opening a game go to standard error: a refusal ends the
+// command, a missing linked file (say, a script) does not matter here.
+class NotesToStderr : public SilentFrontEnd {
+ public:
+  explicit NotesToStderr(std::ostream& err) : err_(err) {}
+  Reply ShowMessage(const std::string& title, const std::string& text, Buttons b) override {
+    std::string oneLine = text;
+    for (char& c : oneLine)
+      if (c == '\r') c = ' ';
+    err_ << "dicemill-cli advantage: " << title << ": " << oneLine << "\n";
+    return SilentFrontEnd::ShowMessage(title, text, b);
+  }
+
+ private:
+  std::ostream& err_;
+};
+
+}  // namespace
+
 int RunAdvantageTool(const AdvantageToolOptions& o, std::ostream& out, std::ostream& err) {
   Game g;
+  NotesToStderr notes(err);
+  g.Ui = &notes;
   FillDefaults(g);
   NewGame(g, false);
-  // Opening a game file goes here once game files can be read.
-  if (!o.gameFile.empty()) {
-    err << "dicemill-cli advantage: game files are not supported yet: \"" << o.gameFile << "\" was not opened\n";
-    return 1;
-  }
+  if (!o.gameFile.empty() && !OpenGame(g, o.gameFile)) return 1;
   g.IncludeZeroOutcomes = g.IncludeZeroOutcomes || o.zeroOutcomes;
   if (!o.json) {
     WriteAdvantageText(g, o.misc, out);

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "cli/temp_folder_for_test.h"
+#include "engine/new_game.h"
+#include "store/game_file.h"
+
 #include <sstream>
 
 #include "cli/session_for_test.h"
@@ -46,12 +50,28 @@ TEST(AdvantageTool, TextJsonAndRefusals) {
   EXPECT_NEAR(rows[42]["evPerDecision"].get<double>(), -700.0 / 495, 1e-9);
   EXPECT_NEAR(rows[42]["rollsPerDecision"].get<double>(), 557.0 / 165, 1e-9);
 
+  // A saved game's payoffs: Place 6 at 8 to 6 is in the player's favour.
+  TempFolder folder;
+  const std::string saved = (folder.path() / "rich.crp").string();
+  {
+    Game g;
+    FillDefaults(g);
+    NewGame(g, false);
+    g.Payoff[bet::Place(6)] = {8, -1, 6};
+    ASSERT_TRUE(SaveGame(g, saved));
+  }
   AdvantageToolOptions game;
-  game.gameFile = "x.crp";
+  game.gameFile = saved;
+  game.json = true;
   out.str("");
+  ASSERT_EQ(RunAdvantageTool(game, out, err), 0);
+  EXPECT_GT(Json::parse(out.str())["advantage"][bet::Place(6) - 1]["evPerDecision"].get<double>(), 0);
+  game.gameFile = (folder.path() / "none.crp").string();
+  out.str("");
+  err.str("");
   EXPECT_EQ(RunAdvantageTool(game, out, err), 1);
   EXPECT_TRUE(out.str().empty());
-  EXPECT_NE(err.str().find("game files are not supported yet"), std::string::npos);
+  EXPECT_NE(err.str().find("File name error"), std::string::npos);
 }
 
 TEST(AdvantageTool, PlayCommandFollowsTheGame) {
