@@ -3,9 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <random>
-#include <sstream>
 
 #include "cli/temp_folder_for_test.h"
 #include "dice/dice_roll_files.h"
@@ -14,6 +12,7 @@
 #include "script/interpreter.h"
 #include "store/game_file_links.h"
 #include "store/game_record.h"
+#include "store/file_bytes_for_test.h"
 #include "store/script_file.h"
 
 namespace fs = std::filesystem;
@@ -57,17 +56,6 @@ then
 Do this
   Bet 100% of Chip-Stack #1 on Field
 )";
-
-std::string ReadBytes(const fs::path& p) {
-  std::ifstream in(p, std::ios::binary);
-  std::stringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
-
-void WriteBytes(const fs::path& p, const std::string& bytes) {
-  std::ofstream(p, std::ios::binary | std::ios::trunc) << bytes;
-}
 
 struct SavedTable {
   Game g;

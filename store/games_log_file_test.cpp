@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <random>
 
 #include "cli/temp_folder_for_test.h"
 #include "engine/test_support.h"
+#include "store/file_bytes_for_test.h"
 
 namespace {
 
@@ -17,10 +17,6 @@ std::vector<GameLogRecord> SomeGames() {
   games[2][31] = Currency::FromRaw(INT64_MIN);
   games[1][0] = Currency::FromRaw(INT64_MAX);
   return games;
-}
-
-void WriteBytes(const std::filesystem::path& path, const std::string& bytes) {
-  std::ofstream(path, std::ios::binary) << bytes;
 }
 
 TEST(GamesLogFile, TheLayoutOfTheRecords) {
@@ -92,8 +88,7 @@ TEST(GamesLogFile, ACorruptFileIsRefusedAndLeftAlone) {
                               "File.");
     // Nothing is added to a file that is not a games log.
     EXPECT_FALSE(AppendGamesToLog(path, SomeGames(), error)) << c.name;
-    std::ifstream in(path, std::ios::binary);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), c.bytes) << c.name;
+    EXPECT_EQ(ReadBytes(path), c.bytes) << c.name;
   }
   std::vector<GameLogRecord> games;
   GamesFileError error;

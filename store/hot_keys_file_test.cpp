@@ -6,6 +6,7 @@
 #include <random>
 
 #include "cli/temp_folder_for_test.h"
+#include "store/file_bytes_for_test.h"
 #include "engine/test_support.h"
 #include "store/file_errors.h"
 
@@ -22,11 +23,6 @@ bool Same(const std::vector<HotKeyBinding>& a, const std::vector<HotKeyBinding>&
   for (size_t i = 0; i < a.size(); ++i)
     if (a[i].Key != b[i].Key || a[i].File != b[i].File || a[i].Label != b[i].Label) return false;
   return true;
-}
-
-std::string ReadAll(const std::filesystem::path& p) {
-  std::ifstream in(p, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
 }  // namespace
@@ -97,14 +93,14 @@ TEST(HotKeysFile, MissingCorruptAndFailedFiles) {
   EXPECT_TRUE(t.g.HotKeys.empty());
   ASSERT_EQ(t.ui.messages.size(), 1u);
   EXPECT_EQ(t.ui.messages[0].title, "Unable to Open Hot-Key File");
-  EXPECT_EQ(ReadAll(path), "not a hot-key file");  // left for the player to look at
+  EXPECT_EQ(ReadBytes(path), "not a hot-key file");  // left for the player to look at
 
   // A save that can't be written says so and leaves the old file whole.
   t.g.HotKeys = kKeys;
   std::filesystem::create_directory(path.string() + ".tmp");
   EXPECT_FALSE(SaveHotKeys(t.g));
   EXPECT_EQ(t.ui.messages.back(), (RecordedMessage{"Error", FileNameErrorText()}));
-  EXPECT_EQ(ReadAll(path), "not a hot-key file");
+  EXPECT_EQ(ReadBytes(path), "not a hot-key file");
 }
 
 TEST(HotKeysFile, DefiningAndClearing) {

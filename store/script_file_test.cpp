@@ -3,13 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "cli/temp_folder_for_test.h"
 #include "script/checker.h"
 #include "script/text_form.h"
 #include "store/bet_file.h"
+#include "store/file_bytes_for_test.h"
 
 namespace {
 
@@ -17,15 +16,6 @@ namespace fs = std::filesystem;
 
 const char* const kSamples[] = {"pass-line-full-odds", "three-point-molly",   "iron-cross",
                                 "place-6-8-press",     "dont-pass-stop-loss", "field-martingale"};
-
-std::string Bytes(const fs::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-void Write(const fs::path& path, const std::string& bytes) {
-  std::ofstream(path, std::ios::binary) << bytes;
-}
 
 TEST(ScriptFile, SamplesAreCleanAndTheirBetFilesAreTheConvertersOwn) {
   for (const char* name : kSamples) {
@@ -35,11 +25,11 @@ TEST(ScriptFile, SamplesAreCleanAndTheirBetFilesAreTheConvertersOwn) {
     std::string error;
     ASSERT_TRUE(LoadScriptFile(base.string() + ".txt", fromText, error)) << error;
     ASSERT_TRUE(LoadScriptFile(base.string() + ".bet", fromBet, error)) << error;
-    EXPECT_EQ(ScriptToText(fromText), Bytes(base.string() + ".txt"));  // written as the writer writes
-    EXPECT_EQ(EncodeBetFile(fromText, false), Bytes(base.string() + ".bet"));
-    EXPECT_EQ(ScriptToText(fromBet), Bytes(base.string() + ".txt"));
+    EXPECT_EQ(ScriptToText(fromText), ReadBytes(base.string() + ".txt"));  // written as the writer writes
+    EXPECT_EQ(EncodeBetFile(fromText, false), ReadBytes(base.string() + ".bet"));
+    EXPECT_EQ(ScriptToText(fromBet), ReadBytes(base.string() + ".txt"));
     EXPECT_EQ(CheckScript(fromText), std::nullopt);
-    EXPECT_EQ(Bytes(base.string() + ".txt").find('{'), std::string::npos);  // no field needs braces
+    EXPECT_EQ(ReadBytes(base.string() + ".txt").find('{'), std::string::npos);  // no field needs braces
   }
 }
 
@@ -52,8 +42,8 @@ TEST(ScriptFile, LoadsEitherFormAndSavesByExtension) {
   const std::string bet = (folder.path() / "a.BET").string(), text = (folder.path() / "a.txt").string();
   ASSERT_TRUE(SaveScriptFile(bet, s, error)) << error;
   ASSERT_TRUE(SaveScriptFile(text, s, error)) << error;
-  EXPECT_EQ(Bytes(bet), EncodeBetFile(s, false));
-  EXPECT_EQ(Bytes(text), ScriptToText(s));
+  EXPECT_EQ(ReadBytes(bet), EncodeBetFile(s, false));
+  EXPECT_EQ(ReadBytes(text), ScriptToText(s));
 
   const std::string renamed = (folder.path() / "records.dat").string();  // a .bet by its magic
   fs::copy_file(bet, renamed);
@@ -69,12 +59,12 @@ TEST(ScriptFile, LoadsEitherFormAndSavesByExtension) {
 TEST(ScriptFile, AnUnreadableFileLeavesTheScriptAsItWas) {
   TempFolder folder;
   const fs::path dir = folder.path();
-  Write(dir / "bad.txt", "When\n  On each roll\nthen\n  Bet $10 on Pass Lime\n");
-  Write(dir / "junk.bet", std::string(300, 'x'));
+  WriteBytes(dir / "bad.txt", "When\n  On each roll\nthen\n  Bet $10 on Pass Lime\n");
+  WriteBytes(dir / "junk.bet", std::string(300, 'x'));
   std::string newer(512, ' ');
   newer.replace(0, 34, "Dicemill AutoBets, Data Format 6.0");
   newer.replace(128, 34, std::string(34, ' '));
-  Write(dir / "newer.bet", newer);
+  WriteBytes(dir / "newer.bet", newer);
   struct Case {
     fs::path path;
     std::string message;

@@ -5,6 +5,7 @@
 #include <fstream>
 
 #include "cli/temp_folder_for_test.h"
+#include "store/file_bytes_for_test.h"
 #include "dice/dice_roll_files.h"
 #include "engine/test_support.h"
 #include "store/bet_file.h"
@@ -14,11 +15,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string ReadAll(const fs::path& p) {
-  std::ifstream in(p, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 ScriptLine Comment(const std::string& text) {
   ScriptLine l;
@@ -37,19 +33,19 @@ TEST(SmallFiles, ActiveScriptLifecycle) {
     Game g;
     StartUp(g, folder.path().string());
     ASSERT_TRUE(fs::exists(active));
-    EXPECT_EQ(ReadAll(active), EncodeBetFile(g.AutoBet, false));
+    EXPECT_EQ(ReadBytes(active), EncodeBetFile(g.AutoBet, false));
   }
   Table t;
   t.g.DataFolder = folder.path().string();
   t.g.AutoBet.Lines = {Comment("'one"), Comment("'two")};
   ScriptEditorClosed(t.g, false);  // no changes: nothing moves
   EXPECT_FALSE(t.g.ScriptDirty);
-  EXPECT_NE(ReadAll(active), EncodeBetFile(t.g.AutoBet, false));
+  EXPECT_NE(ReadBytes(active), EncodeBetFile(t.g.AutoBet, false));
 
   ScriptEditorClosed(t.g, true);
   EXPECT_TRUE(t.g.ScriptDirty);
   EXPECT_TRUE(t.g.InitPending);
-  EXPECT_EQ(ReadAll(active), EncodeBetFile(t.g.AutoBet, false));
+  EXPECT_EQ(ReadBytes(active), EncodeBetFile(t.g.AutoBet, false));
   auto lines = ReadActiveScript(t.g);
   ASSERT_TRUE(lines);
   EXPECT_EQ(*lines, t.g.AutoBet.Lines);
@@ -60,10 +56,10 @@ TEST(SmallFiles, ActiveScriptLifecycle) {
   EXPECT_TRUE(t.g.GameChanged);
 
   // A line too wide for a record keeps the old copy.
-  const std::string before = ReadAll(active);
+  const std::string before = ReadBytes(active);
   t.g.AutoBet.Lines[0].Spare1 = 70000;
   EXPECT_FALSE(WriteActiveScript(t.g));
-  EXPECT_EQ(ReadAll(active), before);
+  EXPECT_EQ(ReadBytes(active), before);
 
   std::ofstream(folder.path() / kClipboardName) << "rolls";
   RemoveWorkFiles(t.g);
