@@ -3,10 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
+#include "cli/temp_folder_for_test.h"
 #include "engine/test_support.h"
+#include "store/file_bytes_for_test.h"
+#include "script/script_for_test.h"
 
 namespace {
 
@@ -20,14 +21,8 @@ const int kPlace8 = bet::Place(8);
 
 ScriptLine Action(int code, Currency amount = 0, int target = 0, int subject = 0, int subjectNum = 0,
                   const std::string& name = "") {
-  ScriptLine l;
-  l.Kind = line_kind::kAction;
-  l.Code = code;
-  l.LineAmount = amount;
-  l.Target = target;
-  l.Subject = subject;
+  ScriptLine l = MakeLine(line_kind::kAction, code, amount, subject, target, name);
   l.SubjectNum = subjectNum;
-  l.Name = name;
   return l;
 }
 
@@ -299,18 +294,15 @@ TEST(Actions, InputFlagsNamesAndSettings) {
 }
 
 TEST(Actions, OutputFileAndErrors) {
-  const std::filesystem::path dir = std::filesystem::temp_directory_path() / "dicemill_actions_test";
-  std::filesystem::create_directories(dir);
+  TempFolder folder;
+  const std::filesystem::path& dir = folder.path();
   const std::string path = (dir / "out.txt").string();
   ScriptTable t;
   t.Run({Action(113, 0, 0, 0, 0, path), Action(100, 0, 0, 0, 0, "Bankroll"), Action(101, 0, 0, 1400),
          Action(102), Action(100, 0, 0, 0, 0, "run on;"), Action(114)});
   t.Stack(2) = Money(-2.5);
   t.Run({Action(99, 0, 0, 0, 0, path), Action(108, 0, 0, kChipStack, 2), Action(114)});
-  std::ifstream in(path);
-  std::stringstream text;
-  text << in.rdbuf();
-  EXPECT_EQ(text.str(), "Bankroll\t\t500\nrun on\t-2.5");
+  EXPECT_EQ(ReadBytes(path), "Bankroll\t\t500\nrun on\t-2.5");
 
   auto throwsNumber = [&](const ScriptLine& l) {
     try {
@@ -331,7 +323,6 @@ TEST(Actions, OutputFileAndErrors) {
   multiply.TargetNum = 1;
   EXPECT_EQ(throwsNumber(multiply), 6);
   EXPECT_EQ(throwsNumber(Action(11, Currency::FromRaw(INT64_MAX), kPlace6, kChipStack, 1)), 6);
-  std::filesystem::remove_all(dir);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "engine/test_support.h"
+#include "script/script_for_test.h"
 
 namespace {
 
@@ -15,12 +16,7 @@ struct Outcome {
 void PrintTo(const Outcome& o, std::ostream* os) { *os << "{now " << o.now << ", just " << o.just << "}"; }
 
 ScriptLine Condition(int subject, int code, Currency amount = 0, int target = 0, int targetNum = 0) {
-  ScriptLine line;
-  line.Kind = line_kind::kCondition;
-  line.Subject = subject;
-  line.Code = code;
-  line.LineAmount = amount;
-  line.Target = target;
+  ScriptLine line = MakeLine(line_kind::kCondition, code, amount, subject, target);
   line.TargetNum = targetNum;
   return line;
 }

@@ -8,6 +8,7 @@
 #include "engine/notices.h"
 #include "engine/test_support.h"
 #include "script/jumps.h"
+#include "script/script_for_test.h"
 
 namespace {
 
@@ -41,13 +42,7 @@ class StepsFrontEnd : public RecordingFrontEnd {
   }
 };
 
-ScriptLine Line(int kind, int code = 0, const std::string& name = "") {
-  ScriptLine l;
-  l.Kind = kind;
-  l.Code = code;
-  l.Name = name;
-  return l;
-}
+ScriptLine Line(int kind, int code = 0, const std::string& name = "") { return MakeLine(kind, code, 0, 0, 0, name); }
 // "Flag <name> is True": true when the flag is -1, fresh when it changed.
 ScriptLine FlagIsTrue(const std::string& name) {
   ScriptLine l = Line(kCondition, 0, name);
@@ -135,53 +130,41 @@ TEST(Interpreter, WhenNeedsAFreshLineWhileDoesNot) {
   }
 }
 
-TEST(Interpreter, XorIsTrueForExactlyOneBlockInEitherOrder) {
+TEST(Interpreter, TwoBlocksJoinedByAndOrXor) {
   struct Case {
-    bool a, b, taken;
+    int first, second;
+    bool a, aFresh, b, bFresh, taken;
   };
-  const Case cases[] = {{true, true, false}, {true, false, true}, {false, true, true}, {false, false, false}};
-  for (int first : {kWhen, kWhile})
-    for (const Case& c : cases) {
-      const int second = first == kWhen ? kXorWhen : kXorWhile;
-      Pass p({Line(first), FlagIsTrue("a"), Line(second), FlagIsTrue("b"), Line(kThen), Act()});
-      p.Flag("a", c.a);
-      p.Flag("b", c.b);
-      EXPECT_EQ(p.Run(), c.taken ? Lines{6} : Lines{}) << first << " " << c.a << " xor " << c.b;
+  const Case cases[] = {
+      // Xor: exactly one block, in either order, for When and While alike.
+      {kWhen, kXorWhen, true, true, true, true, false},     {kWhen, kXorWhen, true, true, false, true, true},
+      {kWhen, kXorWhen, false, true, true, true, true},     {kWhen, kXorWhen, false, true, false, true, false},
+      {kWhile, kXorWhile, true, true, true, true, false},   {kWhile, kXorWhile, true, true, false, true, true},
+      {kWhile, kXorWhile, false, true, true, true, true},   {kWhile, kXorWhile, false, true, false, true, false},
+      // Or: either block.
+      {kWhen, kOrWhen, true, true, false, true, true},      {kWhen, kOrWhen, false, true, true, true, true},
+      // And When needs a fresh line of its own.
+      {kWhen, kAndWhen, true, true, true, true, true},      {kWhen, kAndWhen, true, true, true, false, false},
+      {kWhen, kAndWhen, true, false, true, true, false},
+  };
+  for (const Case& c : cases) {
+    Pass p({Line(c.first), FlagIsTrue("a"), Line(c.second), FlagIsTrue("b"), Line(kThen), Act()});
+    p.Flag("a", c.a, c.aFresh);
+    p.Flag("b", c.b, c.bFresh);
+    EXPECT_EQ(p.Run(), c.taken ? Lines{6} : Lines{})
+        << c.first << "/" << c.second << " a " << c.a << c.aFresh << " b " << c.b << c.bFresh;
+    // After a true first block an or-block's lines are skipped.
+    if (c.second == kOrWhen && c.a) EXPECT_TRUE(p.StatusesOf(4).empty());
+    if (c.second == kOrWhen && !c.a)
+      EXPECT_EQ(p.StatusesOf(4), std::vector<std::string>{"Status: Condition is true (just now occurred). "});
+    if (c.second == kAndWhen && !c.aFresh) {
+      EXPECT_EQ(p.StatusesOf(3),
+                (std::vector<std::string>{"All the conditions in the block were true, but none have just now "
+                                          "occurred - so the block is false. ",
+                                          "Since some conditions are already false, this block will be skipped. "}));
+      EXPECT_TRUE(p.StatusesOf(4).empty());
     }
-}
-
-TEST(Interpreter, OrTriesBlocksUntilOneIsTrue) {
-  Pass p({Line(kWhen), FlagIsTrue("a"), Line(kOrWhen), FlagIsTrue("b"), Line(kThen), Act()});
-  p.Flag("a", true);
-  p.Flag("b", false);
-  EXPECT_EQ(p.Run(), Lines{6});
-  EXPECT_TRUE(p.StatusesOf(4).empty()) << "after a true block the or-block's lines are skipped";
-
-  p.Flag("a", false);
-  p.Flag("b", true);
-  EXPECT_EQ(p.Run(), Lines{6});
-  EXPECT_EQ(p.StatusesOf(4), std::vector<std::string>{"Status: Condition is true (just now occurred). "});
-}
-
-TEST(Interpreter, AndWhenNeedsItsOwnFreshLine) {
-  struct Case {
-    bool aFresh, bFresh, taken;
-  };
-  for (const Case& c : {Case{true, true, true}, Case{true, false, false}, Case{false, true, false}}) {
-    Pass p({Line(kWhen), FlagIsTrue("a"), Line(kAndWhen), FlagIsTrue("b"), Line(kThen), Act()});
-    p.Flag("a", true, c.aFresh);
-    p.Flag("b", true, c.bFresh);
-    EXPECT_EQ(p.Run(), c.taken ? Lines{6} : Lines{}) << c.aFresh << c.bFresh;
   }
-  Pass p({Line(kWhen), FlagIsTrue("a"), Line(kAndWhen), FlagIsTrue("b"), Line(kThen), Act()});
-  p.Flag("a", true, false);
-  p.Flag("b", true);
-  p.Run();
-  EXPECT_EQ(p.StatusesOf(3),
-            (std::vector<std::string>{
-                "All the conditions in the block were true, but none have just now occurred - so the block is false. ",
-                "Since some conditions are already false, this block will be skipped. "}));
-  EXPECT_TRUE(p.StatusesOf(4).empty());
 }
 
 TEST(Interpreter, StatusTextsOfTheSteps) {

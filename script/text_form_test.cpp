@@ -8,6 +8,7 @@
 
 #include "script/catalogue.h"
 #include "script/line_text.h"
+#include "script/script_for_test.h"
 #include "script/text_form_grammar.h"
 #include "script/text_form_words.h"
 #include "store/bet_file.h"
@@ -19,13 +20,7 @@ using namespace text_form;
 
 ScriptLine Line(int kind, int code = 0, int subject = 0, int target = 0, Currency amount = 0,
                 const std::string& name = "") {
-  ScriptLine l;
-  l.Kind = kind;
-  l.Code = code;
-  l.Subject = subject;
-  l.Target = target;
-  l.LineAmount = amount;
-  l.Name = name;
+  ScriptLine l = MakeLine(kind, code, amount, subject, target, name);
   if (subject == 1600 || subject == 1601) l.SubjectNum = 3;
   if (target == 1600 || target == 1601) l.TargetNum = 4;
   l.Text = RenderedText(l);
