@@ -50,7 +50,6 @@ struct PromptCase {
   const char* dialogTitle;
   const char* pattern;
   std::string Game::*fileName;  // nullptr: the script's own
-  bool canSave;                 // a save that works without the game file
 };
 
 std::string& FileNameOf(Game& g, const PromptCase& c) { return c.fileName ? g.*c.fileName : g.AutoBet.FileName; }
@@ -58,17 +57,17 @@ std::string& FileNameOf(Game& g, const PromptCase& c) { return c.fileName ? g.*c
 const PromptCase kPrompts[] = {
     {"game", QuerySaveGame, &Game::GameChanged, "Save Game?",
      "Your current game has not been saved.\r\rDo you want to save it now?", "Save Game File As", "*.crp",
-     &Game::GameFileName, false},
+     &Game::GameFileName},
     {"script", QuerySaveAutoBets, &Game::ScriptDirty, "Save Auto-Bets?",
      "Your current logged Auto-Bets\rhave not been saved.\rDo you want to save them now?", "Save Auto-Bet File As",
-     "*.bet", nullptr, true},
+     "*.bet", nullptr},
     {"script editor", QuerySaveAutoBetsInEditor, &Game::ScriptDirty, "Save Auto-Bets?",
      "Your current logged bets have not been saved.\rDo you want to save them now?", "Save Auto-Bet File As", "*.bet",
-     nullptr, true},
+     nullptr},
     {"probabilities", QuerySaveProbability, &Game::ProbModified, "Save Probabilities?",
      "Your current probabilities (listed on the\rconfiguration screen) have not been saved.\rDo you want to save "
      "them now?",
-     "Save Probability File As", "*.prb", &Game::ProbFileName, true},
+     "Save Probability File As", "*.prb", &Game::ProbFileName},
 };
 
 }  // namespace
@@ -115,11 +114,8 @@ TEST(SavePrompts, EveryButtonOfEveryPrompt) {
       EXPECT_EQ(f.g.MsgReply, kMsgCancel);
       EXPECT_TRUE(f.g.*c.dirty);
       EXPECT_FALSE(fs::exists(FileNameOf(f.g, c)));
-      if (c.canSave) {
-        EXPECT_EQ(f.ui.messages.back(), (RecordedMessage{"Error", FileNameErrorText()}));
-      }
+      EXPECT_EQ(f.ui.messages.back(), (RecordedMessage{"Error", FileNameErrorText()}));
     }
-    if (!c.canSave) continue;
     {  // Yes with a name of its own saves there.
       Fixture f;
       f.g.*c.dirty = true;
@@ -144,18 +140,6 @@ TEST(SavePrompts, EveryButtonOfEveryPrompt) {
       EXPECT_TRUE(fs::exists(f.Path("chosen" + ext)));
     }
   }
-}
-
-// To be completed once game files are written: Yes on a named game saves it.
-TEST(SavePrompts, DISABLED_YesSavesTheGameToItsFile) {
-  Fixture f;
-  f.g.GameChanged = true;
-  f.g.GameFileName = f.Path("mine.crp");
-  f.ui.replies = {Reply::Yes};
-  QuerySaveGame(f.g);
-  EXPECT_EQ(f.g.MsgReply, kMsgYes);
-  EXPECT_FALSE(f.g.GameChanged);
-  EXPECT_TRUE(fs::exists(f.Path("mine.crp")));
 }
 
 TEST(SavePrompts, StopAsksGameScriptProbabilitiesThenRemovesWorkFiles) {
