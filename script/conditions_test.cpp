@@ -28,6 +28,10 @@ Outcome Evaluate(Game& g, const ScriptLine& line, int lastStart = line_kind::kWh
   return {pass.BlockTrue, pass.LineJustNow};
 }
 
+// Bet slots and the Place groups over them.
+constexpr int kPlace4 = 31, kPlace5 = 32, kPlace6 = 33, kPlace8 = 34, kPlace9 = 35, kPassLine = 43;
+constexpr int kAnyPlace = 1007, kAllPlace = 1107, kTotalPlace = 1207;
+
 constexpr Outcome kTrueNew{true, true}, kTrueOld{true, false}, kFalseNew{false, true}, kFalse{false, false};
 
 // A game some rolls in, with amounts now and as the last pass ended.
@@ -227,7 +231,6 @@ TEST(Conditions, ChipStacksAndTheirReferences) {
 }
 
 TEST(Conditions, BetRuleOnStreaks) {
-  constexpr int kPlace6 = 33;
   struct Case {
     int code, amount, streak, before;
     Outcome want;
@@ -247,8 +250,6 @@ TEST(Conditions, BetRuleOnStreaks) {
 }
 
 TEST(Conditions, AnyAndAllGroupsLeaveAbsentBetsOut) {
-  constexpr int kPlace4 = 31, kPlace5 = 32, kPlace6 = 33, kPlace9 = 35;
-  constexpr int kAnyPlace = 1007, kAllPlace = 1107;
   {
     Scene s;
     s.Bet(kPlace4, 5, 5);
@@ -279,7 +280,6 @@ TEST(Conditions, AnyAndAllGroupsLeaveAbsentBetsOut) {
 }
 
 TEST(Conditions, TotalGroupsCompareSumsAndCounts) {
-  constexpr int kPlace4 = 31, kPlace6 = 33, kPlace8 = 34, kTotalPlace = 1207;
   Scene s;
   s.Bet(kPlace4, 5, 5);
   s.Bet(kPlace6, 10, 5);
@@ -301,7 +301,6 @@ TEST(Conditions, TotalGroupsCompareSumsAndCounts) {
 }
 
 TEST(Conditions, AgainstASecondRange) {
-  constexpr int kPlace4 = 31, kPlace6 = 33, kPlace8 = 34, kPassLine = 43;
   Scene s;
   s.Bet(kPlace6, 10, 5);
   s.Bet(kPlace8, 5, 5);
@@ -327,7 +326,6 @@ TEST(Conditions, AgainstASecondRange) {
 }
 
 TEST(Conditions, BeforeTheFirstRollEveryTrueBetConditionIsJustNow) {
-  constexpr int kPlace6 = 33;
   for (int rolls : {0, 1}) {
     Scene s(rolls);
     s.Bet(kPlace6, 10, 10);
