@@ -52,10 +52,15 @@ TEST(GamesLog, KnownAnswers) {
       // and the median are rounded to four decimals, ties to even, and the
       // rest follows from the rounded mean.
       {Nets({Raw(1), Raw(2)}), Raw(2), Raw(2), true, 0.5e-8, Raw(1), Raw(-5000), Raw(5000)},
+      // An empty log: no statistics and no failure.
+      {Nets({}), 0, 0, false, 0.0, 0, 0, 0},
   };
   for (const Case& c : cases) {
     const GamesStatistics s = Statistics(c.games);
+    SCOPED_TRACE(c.games.size());
+    EXPECT_EQ(s.Total, static_cast<int64_t>(c.games.size()));
     EXPECT_EQ(s.Included, static_cast<int64_t>(c.games.size()));
+    EXPECT_EQ(s.Bars.empty(), c.games.empty());
     EXPECT_EQ(s.Mean, c.mean);
     EXPECT_EQ(s.Median, c.median);
     EXPECT_EQ(s.MedianIsAverage, c.medianIsAverage);
@@ -70,14 +75,6 @@ TEST(GamesLog, KnownAnswers) {
   EXPECT_EQ(MedianLabel(s), "   Median *");
   EXPECT_FALSE(Statistics(Nets({1, 2, 3})).HasMode);
   EXPECT_EQ(MedianLabel(Statistics(Nets({1, 2, 3}))), "Median");
-}
-
-TEST(GamesLog, AnEmptyLogHasNoStatisticsAndNoFailure) {
-  const GamesStatistics s = Statistics({});
-  EXPECT_EQ(s.Total, 0);
-  EXPECT_EQ(s.Included, 0);
-  EXPECT_EQ(s.Mean, 0);
-  EXPECT_TRUE(s.Bars.empty());
 }
 
 TEST(GamesLog, OutcomeRowsAndBreakPoints) {
