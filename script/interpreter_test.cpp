@@ -239,8 +239,7 @@ TEST(Interpreter, HyperDriveShowsAndWaitsForNothing) {
 }
 
 TEST(Interpreter, AnErrorAbortsThePassWithItsLine) {
-  ScriptLine hours = Line(kCondition, 13);
-  hours.Subject = 1405;  // simulated hours divide by the roll rate
+  const ScriptLine hours = MakeLine(kCondition, 13, 0, 1405);  // simulated hours divide by the roll rate
   for (bool hyper : {false, true}) {
     Pass p({Act(), Line(kWhile), hours, Line(kThen), Act()});
     p.t.g.SimRollRate = 0;
@@ -260,8 +259,7 @@ TEST(Interpreter, AnErrorAbortsThePassWithItsLine) {
 }
 
 TEST(Interpreter, TheRollRunsTheScriptAndTakesItsSnapshots) {
-  ScriptLine eachRoll = Line(kCondition);
-  eachRoll.Subject = 1300;
+  const ScriptLine eachRoll = MakeLine(kCondition, 0, 0, 1300);
   Pass p({Line(kWhen), eachRoll, Line(kThen), Act()});
   p.Flag("a", true);
   p.t.g.AutoBetActivated = true;
@@ -283,8 +281,7 @@ TEST(Interpreter, TheInitialCycleIsOfferedOnceAChangedScriptMeetsTheTable) {
       "Your Auto-Bets have changed\r\rYou have an opportunity now to run your Auto-Bet script for one cycle BEFORE "
       "the dice roll in order to check and set any initial conditions.\r\rWould you like to initialize your "
       "Auto-Bets?";
-  ScriptLine init = Line(kCondition);
-  init.Subject = 9999;
+  const ScriptLine init = MakeLine(kCondition, 0, 0, 9999);
   for (Reply answer : {Reply::Yes, Reply::No}) {
     Pass p({Line(kWhen), init, Line(kThen), Act()});
     p.Flag("a", true);
