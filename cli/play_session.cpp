@@ -296,6 +296,10 @@ void PlaySession::New(const Args& a) {
     if (ToLower(a[0]) != "keep") throw CommandError("expected: new [keep]");
     keep = true;
   }
+  // As the New menu: unsaved work is offered for saving first; Cancel keeps
+  // the game as it is.
+  QuerySaveGame(*game_);
+  if (game_->MsgReply == kMsgCancel) return;
   NewGame(*game_, keep);
 }
 

@@ -125,3 +125,14 @@ TEST(PromptCommands, EndOfInputAsksEveryQuestionOnce) {
   EXPECT_NE(printed.find("Save Auto-Bets?"), std::string::npos);  // a Cancel can't hold up the end
   EXPECT_FALSE(fs::exists(s.Path(kActiveScriptName)));
 }
+
+TEST(PromptCommands, NewAsksAboutAnUnsavedGameFirst) {
+  Session s;
+  EXPECT_TRUE(Asked(s.Run("new")).empty());  // nothing to save yet
+  s.Run("bet 49 5\nroll 3 4");
+  // Cancel (nothing queued) keeps the game as it is.
+  EXPECT_EQ(Asked(s.Run("new")), (Asks{{"Save Game?", "cancel"}}));
+  EXPECT_EQ(s.State()["rollCount"], 1);
+  EXPECT_EQ(Asked(s.Run("answer no\nnew")), (Asks{{"Save Game?", "no"}}));
+  EXPECT_EQ(s.State()["rollCount"], 0);
+}

@@ -75,7 +75,7 @@ TEST(RollStatsCommands, GamesLogTakesEachFinishedGame) {
   Session s;
   const std::string log = s.Path("play.glg");
   EXPECT_EQ(s.Only("gameslog \"" + log + "\"", "gameslog"), log);
-  s.Run("roll 3 4\nroll 5 5\nnew\nroll 1 1\nnew");
+  s.Run("roll 3 4\nroll 5 5\nanswer no\nnew\nroll 1 1\nanswer no\nnew");
   std::vector<GameLogRecord> games;
   GamesFileError error;
   ASSERT_TRUE(ReadGamesFile(log, games, error));
