@@ -37,11 +37,19 @@ Currency ReadForm(const std::string& word) {
   throw CommandError("'" + word + "' is neither to nor for");
 }
 
+// Payoffs and checks within these bounds keep every figure of a game of
+// 100,000,000 rolls inside the money's 64 bits; a game file is held to them too.
+constexpr Currency kLeastUnit = Currency::FromRaw(100);  // a cent
+constexpr Currency kMostPer = 1'000;
+constexpr int64_t kMostRatio = 1'000;
+constexpr Currency kMostChip = 100'000;
+
 PayoffRecord ReadPayoff(const std::vector<std::string>& a) {
   PayoffRecord p;
   p.Win = ReadAmount(a[1], "WIN");
   p.Per = ReadAmount(a[2], "PER");
-  if (p.Per <= 0) throw CommandError("PER " + a[2] + " must be above zero");
+  if (p.Per < kLeastUnit || p.Per > kMostPer) throw CommandError("PER " + a[2] + " must be from .01 to 1,000");
+  if (Abs(p.Win) > p.Per * kMostRatio) throw CommandError("WIN " + a[1] + " is more than 1,000 times PER");
   p.Form = a.size() > 3 ? ReadForm(a[3]) : Currency(-1);
   return p;
 }
@@ -246,7 +254,7 @@ void PlaySession::Get(const Args& a) {
 void PlaySession::Chip(const Args& a) {
   const int n = static_cast<int>(ReadInteger(a[0], 1, 5, "N"));
   const Currency value = ReadAmount(a[1], "VALUE");
-  if (value <= 0) throw CommandError("VALUE " + a[1] + " must be above zero");
+  if (value < kLeastUnit || value > kMostChip) throw CommandError("VALUE " + a[1] + " must be from .01 to 100,000");
   game_->BetAmount[94 + n] = value;
   game_->GameChanged = true;
 }
