@@ -72,10 +72,12 @@ std::vector<Setting> BuildRegistry() {
   const Currency bankLimit(BankLimit);
   std::vector<Setting> all = {
       // Rules and limits
-      Money("TableMinimum", &Game::TableMinimum),
-      Money("TableMaximum", &Game::TableMaximum),
-      Money("MaxOddsBet", &Game::MaxOddsBet),
-      Money("MaxPropBetPayoff", &Game::MaxPropBetPayoff),
+      // Limits past the bank limit mean nothing, and bounded they keep every
+      // payoff of a long game inside the money's range.
+      Money("TableMinimum", &Game::TableMinimum, Currency(0), Currency(BankLimit)),
+      Money("TableMaximum", &Game::TableMaximum, Currency(0), Currency(BankLimit)),
+      Money("MaxOddsBet", &Game::MaxOddsBet, Currency(0), Currency(BankLimit)),
+      Money("MaxPropBetPayoff", &Game::MaxPropBetPayoff, Currency(0), Currency(BankLimit)),
       Money("OddsAllowed410", &Game::OddsAllowed410),
       Money("OddsAllowed59", &Game::OddsAllowed59),
       Money("OddsAllowed68", &Game::OddsAllowed68),
