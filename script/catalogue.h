@@ -34,6 +34,11 @@ const ChoiceList& AutoHandleLosing();
 // Words of a comparison code, singular ("has won", "is equal to $") or
 // plural ("have won", "are equal to $"); "" for an unknown code.
 std::string ComparisonWords(int code, bool plural);
+
+// Subjects whose words are plural ("are", "have"): the All and Total groups.
+bool IsPluralSubject(int subject);
+// Subjects compared with a count ("is equal to 5", no "$").
+bool IsCountSubject(int subject);
 // The plural count form of 11..16: "are equal to " with no dollar sign.
 std::string CountComparisonWords(int code);
 

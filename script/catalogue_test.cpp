@@ -5,6 +5,7 @@
 #include <set>
 
 #include "script/line_text.h"
+#include "script/script_for_test.h"
 
 namespace {
 
@@ -64,14 +65,7 @@ TEST(ScriptCatalogue, CodesAreUniqueWithinEachList) {
 }
 
 ScriptLine Make(int kind, int code, int subject, int target, Currency amount, const std::string& name = "") {
-  ScriptLine l;
-  l.Kind = kind;
-  l.Code = code;
-  l.Subject = subject;
-  l.Target = target;
-  l.LineAmount = amount;
-  l.Name = name;
-  return l;
+  return MakeLine(kind, code, amount, subject, target, name);
 }
 
 TEST(ScriptLineText, RenderedFromCodes) {

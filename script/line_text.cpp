@@ -17,17 +17,6 @@ std::string Named(const ChoiceList& list, int code, int number) {
   return w;
 }
 
-bool IsPlural(int subject) { return subject >= 1100 && subject < 1300; }
-bool IsCount(int subject) {
-  switch (subject) {
-    case 1311: case 1312: case 1314: case 1315: case 1317: case 1318:
-    case 1323: case 1324: case 1325: case 1405: case 1503: case 1504:
-      return true;
-    default:
-      return false;
-  }
-}
-
 std::string ConditionText(const ScriptLine& l) {
   std::string text = Named(ConditionSubjects(), l.Subject, l.SubjectNum);
   const bool isTrue = l.LineAmount != Currency(0);
@@ -48,8 +37,8 @@ std::string ConditionText(const ScriptLine& l) {
     default:
       break;
   }
-  std::string words = ComparisonWords(l.Code, IsPlural(l.Subject));
-  if (l.Code >= 11 && l.Code <= 16 && IsCount(l.Subject) && !words.empty()) words.pop_back();
+  std::string words = ComparisonWords(l.Code, IsPluralSubject(l.Subject));
+  if (l.Code >= 11 && l.Code <= 16 && IsCountSubject(l.Subject) && !words.empty()) words.pop_back();
   text += " " + words;
   if (l.Code >= 11 && l.Code <= 16) return text + Amount(l.LineAmount);
   if (l.Code >= 17 && l.Code <= 22) return text + " " + Named(CompareTargets(), l.Target, l.TargetNum);

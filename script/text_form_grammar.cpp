@@ -24,18 +24,6 @@ SubjectKind SubjectKindOf(int subject) {
   }
 }
 
-bool IsPluralSubject(int subject) { return subject >= 1100 && subject < 1300; }
-
-bool IsCountSubject(int subject) {
-  switch (subject) {
-    case 1311: case 1312: case 1314: case 1315: case 1317: case 1318:
-    case 1323: case 1324: case 1325: case 1405: case 1503: case 1504:
-      return true;
-    default:
-      return false;
-  }
-}
-
 VerbKind VerbKindOf(int code) {
   if (code >= 10 && code <= 58 && code % 10 <= 8) return VerbKind::Operator;
   switch (code) {

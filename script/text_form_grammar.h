@@ -14,8 +14,6 @@ constexpr bool TakesNumber(int code) { return code == kChipStack || code == kChi
 
 enum class SubjectKind { Bare, Point, Decided, Flag, AnyFlag, AllFlags, Compared };
 SubjectKind SubjectKindOf(int subject);
-bool IsPluralSubject(int subject);  // the groups that read "are" and "have"
-bool IsCountSubject(int subject);   // compared with a count: "is equal to 5", no "$"
 
 enum class VerbKind {
   Operator,     // Bet, Add, Subtract, Multiply by, Divide by: codes 10..58

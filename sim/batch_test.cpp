@@ -2,25 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include "script/script_line.h"
+#include "script/script_for_test.h"
 
 namespace {
-
-ScriptLine Line(int kind, int code = 0, Currency amount = 0, int subject = 0, int target = 0) {
-  ScriptLine l;
-  l.Kind = kind;
-  l.Code = code;
-  l.LineAmount = amount;
-  l.Subject = subject;
-  l.Target = target;
-  return l;
-}
 
 // $10 on the Pass Line whenever the next roll is a come-out roll.
 Script PassLineScript() {
   Script s;
-  s.Lines = {Line(line_kind::kWhile), Line(line_kind::kCondition, 0, 0, 1301), Line(line_kind::kThen),
-             Line(line_kind::kAction, 10, 10, 0, 43)};
+  s.Lines = {MakeLine(line_kind::kWhile), MakeLine(line_kind::kCondition, 0, 0, 1301), MakeLine(line_kind::kThen),
+             MakeLine(line_kind::kAction, 10, 10, 0, 43)};
   return s;
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "script/script_for_test.h"
+
 #include <filesystem>
 #include <fstream>
 
@@ -11,13 +13,7 @@
 namespace {
 
 ScriptLine Line(int kind, int code, const std::string& name, Currency amount, int subject, int target) {
-  ScriptLine l;
-  l.Kind = kind;
-  l.Code = code;
-  l.Name = name;
-  l.LineAmount = amount;
-  l.Subject = subject;
-  l.Target = target;
+  ScriptLine l = MakeLine(kind, code, amount, subject, target, name);
   l.Text = "[" + name + "]";
   return l;
 }
