@@ -2,6 +2,7 @@
 // sample strategy making its pass after every roll, and a batch of games on
 // one thread against two.
 
+#include "test_paths.h"
 #include <benchmark/benchmark.h>
 
 #include <string>

@@ -2,6 +2,7 @@
 // goes on, `run --game` and `play --game` start from the file, and all roll
 // the same dice.
 
+#include "test_paths.h"
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 

@@ -1,6 +1,7 @@
 // `dicemill-cli run --bankroll-csv --log` and `dicemill-cli games`, run as a
 // user would.
 
+#include "test_paths.h"
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 

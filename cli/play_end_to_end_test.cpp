@@ -1,5 +1,6 @@
 // Runs the built program as a client would: commands on stdin, JSON on stdout.
 
+#include "test_paths.h"
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 

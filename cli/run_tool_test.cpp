@@ -1,5 +1,6 @@
 // Runs the built program as a user would: `dicemill-cli run ...`.
 
+#include "test_paths.h"
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 

@@ -2,6 +2,7 @@
 // lines promise, roll by roll. The .bet of a sample must do the same as its
 // text.
 
+#include "test_paths.h"
 #include <gtest/gtest.h>
 
 #include <filesystem>

@@ -3,6 +3,7 @@
 // plain noise. Each must refuse or read without crashing; the sanitizer
 // build catches what a crash would not show.
 
+#include "test_paths.h"
 #include <gtest/gtest.h>
 
 #include <fstream>

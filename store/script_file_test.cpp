@@ -1,3 +1,4 @@
+#include "test_paths.h"
 #include "store/script_file.h"
 
 #include <gtest/gtest.h>
