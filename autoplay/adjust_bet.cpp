@@ -119,6 +119,7 @@ Currency AdjustBet(Game& g, int betId, Currency request, bool neverUp) {
     }
   }
 
+  neverUp = neverUp || g.AdjustDownOnly;
   Currency chosen = Pick(neverUp ? 2 : BiasOf(g, betId), request, c);
   const Currency minimum = MinimumOf(g, betId);
   auto placeable = [&](Currency change) {

@@ -80,11 +80,14 @@ void TakeDown(Game& g, int betId) { ChangeBetTo(g, betId, 0); }
 
 // A bet kept at an amount: a Buy or Lay goes off and on again so that its vig
 // is figured anew; any other bet moves only by the difference, which keeps a
-// contract bet clear of the rules of taking down.
+// contract bet clear of the rules of taking down. Re-charging the vig is
+// bookkeeping: a call ON or OFF stays with a bet that stays.
 void PlaceAgain(Game& g, int betId, Currency amount) {
   if (amount < 0) amount = 0;
+  const int32_t status = g.BetStatus[betId];
   if (bet::IsBuy(betId) || bet::IsLay(betId)) TakeDown(g, betId);
   ChangeBetTo(g, betId, amount);
+  if (g.BetAmount[betId] > 0) g.BetStatus[betId] = status;
 }
 
 // The amount of a "Same Bet:" or "Bet:" form from `base`, the bet it starts
@@ -114,15 +117,12 @@ Currency BetModified(const Game& g, int entry, int betId, Currency base) {
   return MulRatio(ModifyUnit(g, entry, betId, base), g.ModifyAmount[entry].ToDouble());
 }
 
-// A parlay never adds more than was won: every bias leans down meanwhile.
+// A parlay never adds more than was won: the adjustment of every bet family
+// may only go down meanwhile, the biased ones and the others alike.
 void Parlay(Game& g, int betId) {
-  const int32_t saved[] = {g.LayBias, g.PlaceBias, g.DoBias, g.DontBias};
-  g.LayBias = g.PlaceBias = g.DoBias = g.DontBias = 2;
+  g.AdjustDownOnly = true;
   PlaceAgain(g, betId, g.BetAmount[betId] + g.NetPayoff);
-  g.LayBias = saved[0];
-  g.PlaceBias = saved[1];
-  g.DoBias = saved[2];
-  g.DontBias = saved[3];
+  g.AdjustDownOnly = false;
 }
 
 // The press and parlay results, told against the bet before the roll.

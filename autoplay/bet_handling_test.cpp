@@ -238,14 +238,38 @@ TEST(BetHandling, EveryOptionOverAHandOfRolls) {
   }
 }
 
-// A parlay adds no more than was won: the adjustment may only go down.
-TEST(BetHandling, ParlayOfAPlaceSixAddsSixNotSeven) {
-  Table t;
-  t.g.AutoAdjustMode = 2;
-  t.g.WonBetAction = 5;  // " Parlay"
-  t.Stand(bet::Place(6), 6);
-  t.Dice(2, 4, 5);
-  EXPECT_EQ(t.Settle(1, bet::Place(6)), Currency(7));
-  EXPECT_EQ(t.g.BetAmount[bet::Place(6)], Currency(12));
-  EXPECT_EQ(t.g.PlaceBias, 1);  // the biases come back after the parlay
+// A parlay adds no more than was won, whatever the bet's family: the
+// adjustment may only go down.
+TEST(BetHandling, ParlayNeverAddsMoreThanWasWon) {
+  const struct { int id; Currency amount; int die1, die2, point; Currency left; } cases[] = {
+      {bet::Place(6), 6, 2, 4, 5, 12},   // won 7, adds 6
+      {bet::Buy(6), 15, 2, 4, 5, 30},    // won 18 less the vig, adds 15 and not 20
+      {bet::kHorn, 4, 1, 1, 0, 28},      // won 27, adds 24 and not 28
+  };
+  for (const auto& c : cases) {
+    Table t;
+    t.g.AutoAdjustMode = 2;
+    t.g.WonBetAction = 5;  // " Parlay"
+    t.Stand(c.id, c.amount);
+    t.Dice(c.die1, c.die2, c.point);
+    t.Settle(1, c.id);
+    EXPECT_EQ(t.g.BetAmount[c.id], c.left) << t.g.BetName[c.id];
+    EXPECT_EQ(t.g.PlaceBias, 1) << t.g.BetName[c.id];  // the biases come back after the parlay
+  }
+}
+
+// Keeping a won bet is bookkeeping: a call ON stays, Buy and Lay alike.
+TEST(BetHandling, SameBetKeepsACall) {
+  const struct { int id; int outcome, die1, die2; } cases[] = {
+      {bet::Place(6), 1, 2, 4}, {bet::Buy(6), 1, 2, 4}, {bet::Lay(4), 1, 3, 4}};
+  for (const auto& c : cases) {
+    Table t;
+    t.g.WonBetAction = 2;  // " Same Bet - Take Winnings"
+    t.Stand(c.id, 20);
+    t.g.BetStatus[c.id] = 2;
+    t.Dice(c.die1, c.die2, 5);
+    t.Settle(c.outcome, c.id);
+    EXPECT_EQ(t.g.BetAmount[c.id], Currency(20)) << t.g.BetName[c.id];
+    EXPECT_EQ(t.g.BetStatus[c.id], 2) << t.g.BetName[c.id];
+  }
 }

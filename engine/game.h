@@ -126,6 +126,7 @@ struct Game {
   int32_t PlaceBias = 1;
   int32_t DoBias = 0;
   int32_t DontBias = 0;
+  bool AdjustDownOnly = false;  // set while a parlay places: every family rounds down
   // The "Same Bet:" and "Bet:" amounts, each form its own entry (kModify*):
   // operator 0 "+", 1 "-", 2 "x", 3 "/"; units -1 "$", 0 "%", 2..6 checks 95..99.
   std::array<int32_t, 6> ModifyOperator{};
