@@ -201,11 +201,6 @@ void PlaySession::Hyper(const Args& a) {
   } else if (g.RollCountLeft <= 0) {
     throw CommandError("no roll count is set (RollCountLeft is 0), so the run would not end: give N");
   }
-  if (Abs(g.Bankroll()) > Currency(BankLimit)) {  // the bank limit stops the start itself
-    CheckBankLimit(g);
-    WriteJsonLine(out_, {{"stopped", {{"reason", g.StopReason}, {"rolls", 0}}}});
-    return;
-  }
   g.HyperDriveOn = true;
   RunAndReport();
 }

@@ -152,3 +152,29 @@ TEST(PlaySession, RunsReportHowTheyStoppedAndPutSettingsBack) {
   s.Run("answer yes 250 take");
   EXPECT_EQ(s.play.frontEnd().PendingAnswers(), 3u);
 }
+
+// A start refused at the bank limit says why, by roll, Auto-Roll or
+// Hyper-Drive alike, and a run reports the same text as its stop reason.
+TEST(PlaySession, AStartRefusedAtTheBankLimitSaysWhy) {
+  const std::string tail = "\r\rSelect \"New\" from the \"Game\" menu to reset the table.";
+  const struct { int sign; const char* title; std::string text; } limits[] = {
+      {1, "Congratulations!", "You broke the bank limit of $9,999,999" + tail},
+      {-1, "Sorry ... this wasn't your lucky day.", "You've exceeded the max loss limit of $9,999,999" + tail}};
+  for (const auto& limit : limits) {
+    for (const char* start : {"roll", "roll 3 4", "autoroll 3", "hyper 3"}) {
+      Session s;
+      Game& g = s.play.game();
+      g.Bankroll() = Currency(10'000'000) * limit.sign;
+      g.BetAfterRoll[0] = g.Bankroll();  // the limit was broken by an earlier roll
+      const auto printed = s.Run(start);
+      ASSERT_FALSE(printed.empty()) << start;
+      EXPECT_EQ(printed.at(0).at("message").at("title"), limit.title) << start;
+      EXPECT_EQ(printed.at(0).at("message").at("text"), limit.text) << start;
+      if (printed.back().contains("stopped"))
+        EXPECT_EQ(printed.back().dump(), Json({{"stopped", {{"reason", limit.text}, {"rolls", 0}}}}).dump()) << start;
+      else
+        EXPECT_EQ(std::string(start).rfind("roll", 0), 0u) << start;
+      EXPECT_EQ(g.RollCounts[0], 0) << start;
+    }
+  }
+}

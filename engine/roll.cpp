@@ -198,12 +198,24 @@ bool BelowMaxRolls(Game& g) {
   return false;
 }
 
-void ShowBankLimit(Game& g) {
+// The dialog of the bank limit; returns its text.
+std::string ShowBankLimit(Game& g) {
   const bool won = g.Bankroll() > 0;
+  const std::string text =
+      WithTail((won ? "You broke the bank limit of " : "You've exceeded the max loss limit of ") + Dollars(BankLimit));
   g.Ui->PlaySoundFile("Chips.wav");
-  ShowMessage(g, won ? "Congratulations!" : "Sorry ... this wasn't your lucky day.",
-              WithTail((won ? "You broke the bank limit of " : "You've exceeded the max loss limit of ") +
-                       Dollars(BankLimit)));
+  ShowMessage(g, won ? "Congratulations!" : "Sorry ... this wasn't your lucky day.", text);
+  return text;
+}
+
+// A start beyond the bank limit is refused alike however it was asked for:
+// the dialog says why, and a run reports the same text as its stop reason.
+void RefuseStart(Game& g) {
+  Stop(g);
+  g.HyperDriveOn = false;
+  const std::string text = ShowBankLimit(g);
+  g.Ui->RollFinished(text);
+  g.StopReason.clear();
 }
 
 }  // namespace
@@ -218,17 +230,7 @@ void RollDice(Game& g) {
   // The bet-entry box of a screen is committed by the front end before it
   // asks for a roll.
   if (Abs(g.Bankroll()) > Currency(BankLimit)) {
-    // The table refuses to roll beyond the limit; a run that was asked to
-    // start ends at once with its reason.
-    if (g.HyperDriveOn) {
-      CheckBankLimit(g);
-      LeaveHyperDrive(g);
-      g.Ui->RollFinished(g.StopReason);
-      g.StopReason.clear();
-    } else {
-      Stop(g);
-      ShowBankLimit(g);
-    }
+    RefuseStart(g);
     return;
   }
   g.TableUsed = true;

