@@ -92,9 +92,14 @@ void BuyPlaceBet(Game& g, int& betId) {
   PlaceBet(g, placeId);
   g.Ui->RedrawBet(placeId);
 
+  // The money moves from one spot to the other as it is: no adjustment
+  // reshapes it, and what a limit cuts stays in the rack with its notice.
   betId = buyId;
   g.BetChange = amount - g.BetAmount[buyId];
+  const int32_t adjustMode = g.AutoAdjustMode;
+  g.AutoAdjustMode = 0;
   PlaceBetOnTable(g, buyId);
+  g.AutoAdjustMode = adjustMode;
 }
 
 void ClickBet(Game& g, int betId, bool shiftHeld) {

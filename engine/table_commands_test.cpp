@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "engine/bet_status.h"
 #include "engine/test_support.h"
 
@@ -113,6 +115,32 @@ TEST(BuyPlaceBet, MovesThePlaceAmountOntoTheBuySpot) {
   }
   EXPECT_EQ(t.g.BetAmount[bet::Buy(6)], Currency(30));
   EXPECT_TRUE(t.ui.messages.empty());
+}
+
+// The Buy bet ends equal to the Place bet it replaces: no adjustment moves
+// it, and what a limit cuts stays in the rack with the limit's notice.
+TEST(BuyPlaceBet, KeepsTheAmountOrTellsWhy) {
+  const struct { Currency bankroll; Currency buy; bool told; } cases[] = {
+      {1000, 12, false},  // 12 pays badly, yet stays 12
+      {12, 11, true},     // the vig up front leaves room for 11
+  };
+  for (const auto& c : cases) {
+    Commands t;
+    t.g.Bankroll() = c.bankroll;
+    t.g.AllowNegativeBankroll = false;
+    t.Put(bet::Place(6), 12);
+    t.g.AutoAdjustMode = 2;
+    int id = bet::Place(6);
+    BuyPlaceBet(t.g, id);
+    EXPECT_EQ(t.g.BetAmount[bet::Buy(6)], c.buy) << c.bankroll.ToDouble();
+    EXPECT_EQ(t.g.BetAmount[bet::Place(6)], Currency(0));
+    EXPECT_EQ(t.g.TotalOnTable, c.buy + t.g.BuyVigOnBet[2]);
+    EXPECT_EQ(t.g.AutoAdjustMode, 2);
+    const bool told = std::any_of(t.ui.messages.begin(), t.ui.messages.end(), [](const RecordedMessage& m) {
+      return m.text.find("enough bankroll") != std::string::npos;
+    });
+    EXPECT_EQ(told, c.told) << c.bankroll.ToDouble();
+  }
 }
 
 TEST(RemoveBet, TakesEveryBetDownThroughPlacement) {
