@@ -178,3 +178,29 @@ TEST(PlaySession, AStartRefusedAtTheBankLimitSaysWhy) {
     }
   }
 }
+
+// The unsaved mark clears with every save and open, and is never stored as
+// set: only a change made afterwards asks "Save Game?" again.
+TEST(PlaySession, SavingAndOpeningClearTheUnsavedMark) {
+  Session first;
+  const std::string file = first.Path("x.crp");
+  const struct { const char* lines; bool unsaved; } steps[] = {
+      {"roll 3 4", true},
+      {"save \"FILE\"", false},
+      {"bet 49 5", true},
+      {"answer yes\nnew", false},  // a Yes to the prompt saves to the game's file
+      {"roll 3 4", true},
+      {"open \"FILE\"", false},
+  };
+  for (const auto& step : steps) {
+    std::string lines = step.lines;
+    if (const size_t at = lines.find("FILE"); at != std::string::npos) lines.replace(at, 4, file);
+    first.Run(lines);
+    EXPECT_EQ(first.play.game().GameChanged, step.unsaved) << step.lines;
+  }
+  first.Run("bet 49 5\nsave \"" + file + "\"");
+  Session second(false, file);
+  EXPECT_FALSE(second.play.game().GameChanged);
+  for (const Json& printed : second.Run("quit"))
+    EXPECT_FALSE(printed.contains("message") && printed["message"]["title"] == "Save Game?");
+}

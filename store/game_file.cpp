@@ -10,6 +10,7 @@
 #include "store/file_errors.h"
 #include "store/game_file_links.h"
 #include "store/game_file_sections.h"
+#include "store/small_files.h"
 
 namespace fs = std::filesystem;
 
@@ -55,6 +56,10 @@ void Refuse(Game& g, const std::string& path) {
 
 bool SaveGame(Game& g, const std::string& path) {
   if (g.DiceFile.File.IsOpen()) g.DiceFile.File.Flush();  // its date must be the one on disk
+  // The file holds the game as saved, so its unsaved mark goes out clear;
+  // only a failed write leaves the game unsaved.
+  const bool changed = g.GameChanged;
+  g.GameChanged = false;
   RecordWriter w;
   WriteLinkRecords(g, path, w);
   WriteSettingsRecords(g, w);
@@ -63,6 +68,7 @@ bool SaveGame(Game& g, const std::string& path) {
   WriteScriptRecords(g, w);
   WriteContinuationRecords(g, w);
   if (!WriteFileAtomically(path, w.Bytes())) {
+    g.GameChanged = changed;
     ShowFileNameError(g);
     return false;
   }
@@ -109,6 +115,8 @@ bool OpenGameBytes(Game& g, const std::string& bytes, const std::string& path) {
   OpenProbabilityLink(g, probability);
   CheckGamesLogLink(g, GetLink(g.FileExtras.Kept(4)));
   g.GamesLogFile = GetLink(g.FileExtras.Kept(4)).Path;
+  WriteActiveScript(g);  // the working copy follows the script the game links
+  g.GameChanged = false;  // a game just opened is as saved, whatever the file held
 
   SetCaption(g, path);
   g.TableDirty = true;

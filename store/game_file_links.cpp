@@ -11,6 +11,7 @@
 #include "store/game_file.h"
 #include "store/prob_file.h"
 #include "store/script_file.h"
+#include "store/small_files.h"
 
 namespace fs = std::filesystem;
 
@@ -18,7 +19,10 @@ namespace {
 
 bool IsDefaultGame(const std::string& gamePath) { return fs::path(gamePath).filename() == "default.crp"; }
 
-std::string Beside(const std::string& gamePath, const char* name) {
+// The unsaved work of the default game is kept in the data folder, wherever
+// the game itself is saved; with no data folder, beside the game.
+std::string WorkFileFor(const Game& g, const std::string& gamePath, const char* name) {
+  if (!g.DataFolder.empty()) return DataFile(g, name).string();
   return (fs::path(gamePath).parent_path() / name).string();
 }
 
@@ -94,7 +98,7 @@ FileLink AutoBetLinkForSave(Game& g, const std::string& gamePath) {
   Script& script = g.AutoBet;
   if (g.ScriptDirty) {
     if (!IsDefaultGame(gamePath) || script.NumLines() == 0) return {};
-    const std::string path = Beside(gamePath, "default.bet");
+    const std::string path = WorkFileFor(g, gamePath, "default.bet");
     std::string error;
     if (!SaveScriptFile(path, script, error)) return {};
     script.FileName = path;
@@ -109,7 +113,7 @@ FileLink DiceRollLinkForSave(const Game& g) { return LinkTo(g.DiceFile.RollFileN
 FileLink ProbabilityLinkForSave(Game& g, const std::string& gamePath) {
   if (g.ProbModified) {
     if (!IsDefaultGame(gamePath)) return {};
-    const std::string path = Beside(gamePath, "default.prb");
+    const std::string path = WorkFileFor(g, gamePath, "default.prb");
     return SaveProbabilityFile(g, path) ? LinkTo(path) : FileLink{};
   }
   return FileExists(g.ProbFileName) ? LinkTo(g.ProbFileName) : FileLink{};

@@ -26,8 +26,9 @@ void PutLink(FileRecord& r, const FileLink& link);
 FileLink GetLink(const FileRecord& r);
 std::string GetSignature(const FileRecord& r);
 
-// The links a save writes. They may save the script to "default.bet" and the
-// percentage table to "default.prb" beside a game saved as "default.crp".
+// The links a save writes. A game saved as "default.crp" may first save the
+// script to "default.bet" and the percentage table to "default.prb", both in
+// the data folder.
 FileLink AutoBetLinkForSave(Game& g, const std::string& gamePath);
 FileLink DiceRollLinkForSave(const Game& g);
 FileLink ProbabilityLinkForSave(Game& g, const std::string& gamePath);
