@@ -2,6 +2,7 @@
 
 #include "script/condition_parts.h"
 #include "script/values.h"
+#include "stats/rounded_quotient.h"
 
 namespace {
 
@@ -75,7 +76,7 @@ SlotRange RangeOf(const Game& g, int code, int num) {
 Currency AverageOneRollBack(const Game& g) {
   const int rolls = g.RollCounts[0];
   if (rolls <= 1) return g.Bankroll();
-  return Currency::FromRaw((g.BankrollSum - g.Bankroll()).raw / (rolls - 1));
+  return RoundedQuotient(g.BankrollSum - g.Bankroll(), rolls - 1);
 }
 
 Currency Now(const Game& g, const SlotRange& r, int slot) { return r.average ? AverageBankroll(g) : g.BetAmount[slot]; }

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "stats/rounded_quotient.h"
+
 namespace {
 
 Currency SumSlots(const std::array<Currency, bet::kSlots>& amounts, int first, int last) {
@@ -84,7 +86,7 @@ Currency ValueOf(const Game& g, int code, int num, bool last) {
 
 Currency AverageBankroll(const Game& g) {
   if (g.RollCounts[0] == 0) return g.Bankroll();
-  return Currency::FromRaw(g.BankrollSum.raw / g.RollCounts[0]);
+  return RoundedQuotient(g.BankrollSum, g.RollCounts[0]);
 }
 
 int ChipStackReference(const Game& g, int num) {

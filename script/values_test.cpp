@@ -35,3 +35,20 @@ TEST(ScriptValues, GroupsReferencesPointsAndDecidedWagers) {
   EXPECT_EQ(GetValue(t.g, 1700, 0), Currency(1));
   EXPECT_EQ(GetValue(t.g, 1701, 0), Currency(6));
 }
+
+// The average bankroll is rounded to four places, ties to even, as every
+// average of the statistics is; scripts read it the same.
+TEST(ScriptValues, AverageBankrollIsRoundedNotCut) {
+  const struct { int64_t sumRaw; int32_t rolls; int64_t averageRaw; } cases[] = {
+      {55'420'000, 11, 5'038'182},   // 503.81818...
+      {-55'420'000, 11, -5'038'182},
+      {5, 2, 2}, {7, 2, 4},          // halves go to the even side
+  };
+  for (const auto& c : cases) {
+    Table t;
+    t.g.BankrollSum = Currency::FromRaw(c.sumRaw);
+    t.g.RollCounts[0] = c.rolls;
+    EXPECT_EQ(AverageBankroll(t.g).raw, c.averageRaw) << c.sumRaw;
+    EXPECT_EQ(GetValue(t.g, 1401, 0).raw, c.averageRaw) << c.sumRaw;
+  }
+}
