@@ -16,6 +16,14 @@ std::string Flattened(std::string text) {
   return text;
 }
 
+// A CSV field, quoted when it holds a comma, a quote or a line break.
+std::string CsvField(const std::string& text) {
+  if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
+  std::string quoted = "\"";
+  for (char c : text) quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
+  return quoted + "\"";
+}
+
 bool ReadMeasure(const std::string& word, int& field) {
   for (int f = 0; f < logfield::kMeasures; ++f)
     if (word == std::to_string(f) || word == MeasureName(f)) {
@@ -121,10 +129,15 @@ void WriteText(std::ostream& out, const std::vector<GameLogRecord>& games, const
           << " above\n";
   }
   if (!data) return;
+  // CSV for other programs: a header of the fields' names, then plain numbers
+  // with no thousands separators.
+  out << "Game";
+  for (int f = 0; f < logfield::kMeasures; ++f) out << "," << CsvField(MeasureName(f));
+  out << "\n";
   int n = 0;
   for (const GameLogRecord& game : games) {
     out << ++n;
-    for (int f = 0; f < logfield::kMeasures; ++f) out << (f == 0 ? "\t" : ",") << FormatNumberWithCommas(game[f]);
+    for (int f = 0; f < logfield::kMeasures; ++f) out << "," << MoneyJson(game[f]).dump();
     out << "\n";
   }
 }

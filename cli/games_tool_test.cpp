@@ -64,6 +64,27 @@ TEST(GamesTool, ARunWritesTheBankrollSeriesAndLogsEachGame) {
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_NE(r.out.find("Mean: 250\n"), std::string::npos) << r.out;
   EXPECT_NE(r.out.find("Median *: 300\n"), std::string::npos) << r.out;  // an even count of games
+
+  // The data rows are CSV: the game's number and its 18 fields, as plain numbers.
+  r = Cli(work, "games g.glg --data");
+  ASSERT_EQ(r.status, 0) << r.err;
+  std::istringstream text(r.out);
+  while (std::getline(text, line) && line.rfind("Game,", 0) != 0) {}
+  EXPECT_EQ(line.rfind("Game,Total Rolls,Bets Decided,", 0), 0u) << line;
+  int games = 0;
+  while (std::getline(text, line)) {
+    ++games;
+    std::istringstream fields(line);
+    int count = 0;
+    for (std::string field; std::getline(fields, field, ',');) {
+      size_t used = 0;
+      std::stod(field, &used);
+      EXPECT_EQ(used, field.size()) << line;
+      ++count;
+    }
+    EXPECT_EQ(count, 19) << line;
+  }
+  EXPECT_EQ(games, 4);
 }
 
 TEST(GamesTool, RefusalsLoseNothing) {
