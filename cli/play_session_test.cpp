@@ -38,7 +38,7 @@ TEST(PlaySession, MalformedLinesPrintOneErrorAndChangeNothing) {
       "foo", "bet", "bet 49", "bet 49 5 6", "bet 0 5", "bet 100 5", "bet 200 5", "bet 49 five", "bet 49 1e2",
       "bet x 5", "bet 49 0.00001", "remove 84", "remove", "call 49", "call up 49", "call on 84", "buy 0", "roll 1",
       "roll 0 3", "roll 3 7", "roll 3 4 5", "hyper 0", "hyper -3", "hyper x", "autoroll", "autoroll 0",
-      "set TableMinimum", "set TableMaximum 10000000", "set Nope 1", "set BarNumber 3", "get Nope", "chip 0 1", "chip 6 1", "chip 1 0",
+      "set TableMinimum", "set TableMaximum 10000000", "set AutoRollDelay 5000", "set ProbRollsOutOf 2000000", "set Nope 1", "set BarNumber 3", "get Nope", "chip 0 1", "chip 6 1", "chip 1 0",
       "chip 2 -5", "chip 1 0.001", "chip 1 100001", "payoff 0 1 1", "payoff 84 1 1", "payoff 31 9 0",
       "payoff 31 1 0.001", "payoff 31 9 1001", "payoff 31 1001 1", "field 5 -2001 2", "payoff 31 x 5", "payoff 31 9 5 from",
       "field 0 1 1", "field 22 1 1", "field 5 -1 1 to x", "seed", "seed abc", "new now", "answer maybe",

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "config/settings_table.h"
 #include "engine/game.h"
 #include "store/game_file_sections.h"
 
@@ -57,21 +58,14 @@ void KeepMoneyInRange(Game& g) {
   for (Currency& v : g.BetCommitted) Bound(v);
   for (Currency& v : g.BuyVigOnBet) Bound(v);
   for (Currency& v : g.LayVigOnBet) Bound(v);
-  for (Currency& v : g.ModifyAmount) Bound(v, -kMostRatio, kMostRatio);
-  for (Currency* v : {&g.HighBankroll, &g.LowBankroll, &g.AmountInvested}) Bound(*v, -kMostBankroll, kMostBankroll);
+  for (Currency* v : {&g.HighBankroll, &g.LowBankroll}) Bound(*v, -kMostBankroll, kMostBankroll);
   // Results add up over a game of 100,000,000 rolls: sums of a billion
   // dollars a roll still stay inside 64 bits.
   for (auto* table : {&g.BetWagers, &g.BetWins, &g.BetLosses})
     for (auto& kind : *table)
       for (auto& cells : kind)
         for (Currency& v : cells) Bound(v, -kMostBankroll * 100'000, kMostBankroll * 100'000);
-  for (Currency* v : {&g.TotalOnTable, &g.TableMinimum, &g.TableMaximum,
-                      &g.MaxOddsBet, &g.MaxPropBetPayoff, &g.BankrollInitAmount, &g.AtmAmount, &g.SimRollRate, &g.SeedRequest})
-    Bound(*v);
-  for (Currency* ratio : {&g.OddsAllowed410, &g.OddsAllowed59, &g.OddsAllowed68})
-    Bound(*ratio, -kMostRatio, kMostRatio);
-  Bound(g.LayVigRate, 0, 1);  // all of the money at most
-  Bound(g.BuyVigRate, 0, 1);
+  Bound(g.TotalOnTable);
   Bound(g.BankrollSum, -kMostBankroll * 100'000, kMostBankroll * 100'000);
   // Chips are the rounding unit of every bet, and a chip times a payoff's
   // Per divides: neither may come to nothing.
@@ -126,35 +120,19 @@ void KeepGraphInRange(Game& g) {
 }  // namespace
 
 void KeepStateInRange(Game& g) {
+  // The settings keep to the ranges every way of changing them keeps to.
+  KeepSettingsInRange(g);
+  if (g.BarNumber != 2) g.BarNumber = 12;
   KeepGraphInRange(g);
-  g.RngChoice = std::clamp(g.RngChoice, 0, kRngCount - 1);
   g.Die1 = std::clamp(g.Die1, 1, 6);
   g.Die2 = std::clamp(g.Die2, 1, 6);
   g.DiceTotal = g.Die1 + g.Die2;
   g.Point = PointOrComeOut(g.Point);
   g.PointBeforeRoll = PointOrComeOut(g.PointBeforeRoll);
   g.PointTwoRollsAgo = PointOrComeOut(g.PointTwoRollsAgo);
-  if (g.BarNumber != 2) g.BarNumber = 12;
   g.DiceFileMode = std::clamp(g.DiceFileMode, 0, 2);
-  g.OddsCalcMethod = std::clamp(g.OddsCalcMethod, 0, 5);
-  g.RoundLayVig = std::clamp(g.RoundLayVig, 0, 2);
-  g.RoundBuyVig = std::clamp(g.RoundBuyVig, 0, 2);
-  g.BankrollInitType = std::clamp(g.BankrollInitType, 0, 3);
-  g.WonBetAction = std::clamp(g.WonBetAction, 0, 7);
-  g.HandleLosingBets = std::clamp(g.HandleLosingBets, 0, 7);
-  g.AutoAdjustMode = std::clamp(g.AutoAdjustMode, 0, 2);
-  for (int32_t* bias : {&g.LayBias, &g.PlaceBias, &g.DoBias, &g.DontBias}) *bias = std::clamp(*bias, 0, 2);
-  for (int32_t& op : g.ModifyOperator) op = std::clamp(op, 0, 3);
-  for (int32_t& units : g.ModifyUnits) units = std::clamp(units, -1, 6);
-  g.AutoRollDelay = std::clamp(g.AutoRollDelay, 0, 3600);
-  g.RollCountStop = std::clamp(g.RollCountStop, 0, static_cast<int32_t>(MaxRolls));
-  g.RollCountLeft = std::clamp(g.RollCountLeft, 0, static_cast<int32_t>(MaxRolls));
   KeepCountersInRange(g);
-  g.ProbDisplayMode = std::clamp(g.ProbDisplayMode, 0, 3);
-  if (g.ProbRollsOutOf < 1 || g.ProbRollsOutOf > 1'000'000) g.ProbRollsOutOf = 36;
   for (int32_t& status : g.BetStatus) status = std::clamp(status, -1, 2);
-  for (int32_t& status : g.WorkOnComeOut) status = std::clamp(status, 0, 1);
-  g.ClickTool = std::clamp(g.ClickTool, 1, 91);
   for (int32_t& stack : g.TrayStack) stack = std::clamp(stack, 0, bet::kSlots - 1);
   g.TrayStack[0] = 0;
   g.LastAnswer = std::clamp(g.LastAnswer, 1, 7);

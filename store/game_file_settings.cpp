@@ -39,6 +39,7 @@ struct RulesSlots {  // record 9
     f(14, g.UseSkewedProbability);
     f(15, g.ProbDisplayMode);
     f(16, g.ProbRollsOutOf);
+    f(17, g.IncludeZeroOutcomes);
     f(21, g.AllowNegativeBankroll);
     f(22, g.BankrollInitType);
     f(23, g.BankrollInitAmount);
