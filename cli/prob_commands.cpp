@@ -6,6 +6,7 @@
 #include "cli/command_words.h"
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
+#include "config/settings_table.h"
 #include "dice/prob_table.h"
 #include "engine/game.h"
 #include "store/prob_file.h"
@@ -97,7 +98,9 @@ void PlaySession::Prob(const Args& a) {
     ExpectArgs(a, 4, 5);
     const ProbPosition cell = ReadBlockCell(a[1], a[2]);
     const double typed = ReadAmount(a[3], "VALUE").ToDouble();
-    const auto mode = a.size() == 5 ? static_cast<int32_t>(ReadInteger(a[4], 0, 3, "MODE")) : g.ProbDisplayMode;
+    const SettingRow& modes = *FindSettingRow("ProbDisplayMode");
+    const auto mode = a.size() == 5 ? static_cast<int32_t>(ReadInteger(a[4], Floor(modes.least), Floor(modes.most), "MODE"))
+                                    : g.ProbDisplayMode;
     const int32_t units = EntryToTableUnits(typed, mode, g.ProbRollsOutOf, cell.row, cell.column);
     // An edit with no free cells left is ignored, as on the screen.
     if (SetCell(g.Prob, cell.column, cell.row, units)) g.ProbModified = true;
