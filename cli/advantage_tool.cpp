@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstdio>
 
+#include "cli/exit_codes.h"
+#include "cli/terminal_text.h"
 #include "engine/catalogue.h"
 #include "engine/game.h"
 #include "engine/new_game.h"
@@ -94,10 +96,7 @@ class NotesToStderr : public SilentFrontEnd {
  public:
   explicit NotesToStderr(std::ostream& err) : err_(err) {}
   Reply ShowMessage(const std::string& title, const std::string& text, Buttons b) override {
-    std::string oneLine = text;
-    for (char& c : oneLine)
-      if (c == '\r') c = ' ';
-    err_ << "dicemill-cli advantage: " << title << ": " << oneLine << "\n";
+    err_ << "dicemill-cli advantage: " << title << ": " << TerminalText(text) << "\n";
     return SilentFrontEnd::ShowMessage(title, text, b);
   }
 
@@ -113,7 +112,7 @@ int RunAdvantageTool(const AdvantageToolOptions& o, std::ostream& out, std::ostr
   g.Ui = &notes;
   FillDefaults(g);
   NewGame(g, false);
-  if (!o.gameFile.empty() && !OpenGame(g, o.gameFile)) return 1;
+  if (!o.gameFile.empty() && !OpenGame(g, o.gameFile)) return kExitUsage;
   g.IncludeZeroOutcomes = g.IncludeZeroOutcomes || o.zeroOutcomes;
   if (!o.json) {
     WriteAdvantageText(g, o.misc, out);

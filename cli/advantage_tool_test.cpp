@@ -69,7 +69,7 @@ TEST(AdvantageTool, TextJsonAndRefusals) {
   game.gameFile = (folder.path() / "none.crp").string();
   out.str("");
   err.str("");
-  EXPECT_EQ(RunAdvantageTool(game, out, err), 1);
+  EXPECT_EQ(RunAdvantageTool(game, out, err), 2);
   EXPECT_TRUE(out.str().empty());
   EXPECT_NE(err.str().find("File name error"), std::string::npos);
 }

@@ -8,7 +8,9 @@
 #include <memory>
 #include <vector>
 
+#include "cli/exit_codes.h"
 #include "cli/json_lines.h"
+#include "cli/terminal_text.h"
 #include "dice/dice_roll_files.h"
 #include "store/file_errors.h"
 
@@ -60,12 +62,13 @@ bool WriteRollFileSummary(const std::string& rolPath, std::ostream& out) {
 }
 
 int RunDiceTool(const CLI::App& dice, const DiceToolOptions& o, std::ostream& out, std::ostream& err) {
-  const std::string fileError = FileNameErrorText();
+  const std::string fileError = "dicemill-cli dice: " + FileProblem(o.from, FileNameErrorText());
   if (dice.got_subcommand("to-rol")) {
     const int64_t rolls = ConvertTextToRolls(o.from, o.to);
     if (rolls < 0) {
-      err << fileError << "\n";
-      return 1;
+      err << "dicemill-cli dice: " << o.from << " could not be converted to " << o.to << ": "
+          << TerminalText(FileNameErrorText()) << "\n";
+      return kExitFailed;
     }
     WriteJsonLine(out, {{"rolls", rolls}});
     return 0;
@@ -75,28 +78,28 @@ int RunDiceTool(const CLI::App& dice, const DiceToolOptions& o, std::ostream& ou
     const auto size = std::filesystem::file_size(o.from, ec);
     if (ec) {
       err << fileError << "\n";
-      return 1;
+      return kExitUsage;
     }
     const RollTextOptions options{o.rollNumbers, !o.noDice, o.numbersCalled};
     if (!options.dieNums && !options.numbersCalled) {
-      err << "--no-dice needs --numbers-called: a line must show the dice or the number called\n";
-      return 1;
+      err << "dicemill-cli dice: --no-dice needs --numbers-called: a line must show the dice or the number called\n";
+      return kExitUsage;
     }
     int64_t badRoll = 0;
     const int64_t written = WriteRollsAsText(o.from, 1, static_cast<int64_t>(size), 1, options, o.to, &badRoll);
     if (written < 0) {
       if (badRoll > 0)
-        err << "roll #" << badRoll << " is out of limits; nothing was written\n";
+        err << "dicemill-cli dice: " << o.from << ": roll #" << badRoll << " is out of limits; nothing was written\n";
       else
-        err << fileError << "\n";
-      return 1;
+        err << "dicemill-cli dice: " << o.to << ": " << TerminalText(FileNameErrorText()) << "\n";
+      return kExitFailed;
     }
     WriteJsonLine(out, {{"rolls", written}});
     return 0;
   }
   if (!WriteRollFileSummary(o.from, out)) {
     err << fileError << "\n";
-    return 1;
+    return kExitUsage;
   }
   return 0;
 }

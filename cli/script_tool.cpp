@@ -5,21 +5,17 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "cli/exit_codes.h"
+#include "cli/terminal_text.h"
 #include "script/checker.h"
 #include "script/text_form.h"
 #include "store/script_file.h"
 
 namespace {
 
-constexpr int kUnreadable = 2;
+constexpr int kUnreadable = kExitUsage;
 
-// Message lines are joined with a carriage return; a terminal wants "\n".
-std::string WithLineEnds(std::string text) {
-  std::replace(text.begin(), text.end(), '\r', '\n');
-  return text;
-}
-
-int Check(const Script& script, std::ostream& out) {
+int Check(const std::string& path, const Script& script, std::ostream& out) {
   if (script.Lines.empty()) {
     out << "The script is empty.\n";
     return 0;
@@ -29,10 +25,8 @@ int Check(const Script& script, std::ostream& out) {
     out << "Your script is properly structured.\n";
     return 0;
   }
-  out << "line " << fault->Line << ": " << fault->Title << "\n"
-      << "  " << Trimmed(LineToText(script.Line(fault->Line))) << "\n"
-      << WithLineEnds(fault->Text) << "\n";
-  return 1;
+  out << ScriptFaultText(path, script, *fault) << "\n";
+  return kExitFailed;
 }
 
 int Show(const Script& script, bool texts, std::ostream& out) {
@@ -46,6 +40,11 @@ int Show(const Script& script, bool texts, std::ostream& out) {
 }
 
 }  // namespace
+
+std::string ScriptFaultText(const std::string& path, const Script& script, const ScriptFault& fault) {
+  return path + ":" + std::to_string(fault.Line) + ": " + fault.Title + "\n  " +
+         Trimmed(LineToText(script.Line(fault.Line))) + "\n" + TerminalText(fault.Text);
+}
 
 CLI::App* AddScriptTool(CLI::App& app, ScriptToolOptions& options) {
   CLI::App* script = app.add_subcommand("script", "Auto-Bet scripts without a game (.bet or text .txt)");
@@ -65,19 +64,19 @@ int RunScriptTool(const CLI::App& command, const ScriptToolOptions& o, std::ostr
   Script script;
   std::string error;
   if (!LoadScriptFile(o.from, script, error)) {
-    err << error << "\n";
+    err << TerminalText(error) << "\n";
     return kUnreadable;
   }
-  if (command.got_subcommand("check")) return Check(script, out);
+  if (command.got_subcommand("check")) return Check(o.from, script, out);
   if (command.got_subcommand("show")) return Show(script, o.texts, out);
   const std::string ext = std::filesystem::path(o.to).extension().string();
   if (!IsBetFilePath(o.to) && ext != ".txt" && ext != ".TXT") {
     err << o.to << ": the file to write must end in .bet or .txt\n";
-    return 1;
+    return kExitUsage;
   }
   if (!SaveScriptFile(o.to, script, error)) {
-    err << error << "\n";
-    return 1;
+    err << TerminalText(error) << "\n";
+    return kExitFailed;
   }
   out << "Wrote " << script.NumLines() << " lines to " << o.to << "\n";
   return 0;
