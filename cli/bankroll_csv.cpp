@@ -1,5 +1,6 @@
 #include "cli/bankroll_csv.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -45,7 +46,12 @@ bool BankrollCsvWriter::Open(const std::string& path, int64_t firstSeed, int64_t
   const std::filesystem::path target(path);
   tempPath_ = (target.parent_path() / ("." + target.filename().string() + ".XXXXXX")).string();
   const int fd = mkstemp(tempPath_.data());
-  if (fd >= 0) out_ = fdopen(fd, "wb");
+  if (fd >= 0) {
+    const mode_t mask = umask(0);  // a new file's usual permissions, not mkstemp's private ones
+    umask(mask);
+    fchmod(fd, 0666 & ~mask);
+    out_ = fdopen(fd, "wb");
+  }
   if (!out_) {
     error = path + ": cannot be written: " + std::strerror(errno);
     if (fd >= 0) close(fd), std::remove(tempPath_.c_str());
