@@ -180,10 +180,16 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
   g.KeepRolling = g.HyperDriveOn = false;
   ui.Publish();
   if (control.Series) control.Series->EndGame(index);
+  std::string where;
+  if (ui.StopReason() == kOutOfLimitsReason && g.DiceFile.File.IsOpen()) {
+    const int64_t roll = g.DiceFile.NextRollNum;
+    where = " Roll #" + FormatWithCommas(roll) + " of " + g.DiceFile.File.Path() + " is the byte " +
+            std::to_string(g.DiceFile.File.Read(roll)) + ", which is no pair of dice.";
+  }
   if (g.DiceFile.File.IsOpen()) CloseRollFile(g);
 
   r.Rolls = g.RollCounts[0] - rollsBefore;
-  r.StopReason = ui.StopReason();
+  r.StopReason = ui.StopReason() + where;
   if (ui.Ruined())
     r.StopReason = RuinStopReason(ui.RuinHeld(), g.TableMinimum, r.Rolls);
   else if (r.StopReason.empty() && control.Stop.load())
