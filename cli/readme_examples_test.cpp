@@ -84,3 +84,10 @@ TEST(Readme, TheMainJobPrintsTheReportShown) {
   ASSERT_EQ(json.status, 0) << json.err;
   EXPECT_EQ(Json::parse(json.out)["games"][0]["rolls"], 1000);
 }
+
+TEST(Readme, TheWordListsOfTheDocsAreThoseOfTheProgram) {
+  TempFolder work;
+  const std::vector<Block> blocks = FencedBlocks(Slurp(DICEMILL_SOURCE_DIR "/docs/script-words.md"));
+  ASSERT_EQ(blocks.size(), 1u);
+  EXPECT_TRUE(blocks[0].text == Cli(work, "script words").out);
+}

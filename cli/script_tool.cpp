@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "cli/exit_codes.h"
+#include "cli/script_words.h"
 #include "cli/terminal_text.h"
 #include "script/checker.h"
 #include "script/text_form.h"
@@ -54,6 +55,8 @@ CLI::App* AddScriptTool(CLI::App& app, ScriptToolOptions& options) {
   CLI::App* convert = script->add_subcommand("convert", "Convert a script between .bet and text (.txt), by extension");
   convert->add_option("IN", options.from, "Script file to read, .bet or text")->required();
   convert->add_option("OUT", options.to, "File to write: .bet records, or text for .txt")->required();
+  CLI::App* words = script->add_subcommand("words", "Print the words of the text form, list by list");
+  words->add_option("PREFIX", options.prefix, "Only the entries that begin with this (any case)");
   CLI::App* show = script->add_subcommand("show", "Print the numbered lines of a script");
   show->add_option("FILE", options.from, "Script file, .bet or text")->required();
   show->add_flag("--texts", options.texts, "Print each line's stored Text instead of its text form");
@@ -61,6 +64,11 @@ CLI::App* AddScriptTool(CLI::App& app, ScriptToolOptions& options) {
 }
 
 int RunScriptTool(const CLI::App& command, const ScriptToolOptions& o, std::ostream& out, std::ostream& err) {
+  if (command.got_subcommand("words")) {
+    if (WriteScriptWords(o.prefix, out)) return kExitDone;
+    err << "dicemill-cli script words: no word begins with \"" << o.prefix << "\"\n";
+    return kExitFailed;
+  }
   Script script;
   std::string error;
   if (!LoadScriptFile(o.from, script, error)) {

@@ -10,11 +10,11 @@ class App;
 }
 
 struct ScriptToolOptions {
-  std::string from, to;
+  std::string from, to, prefix;
   bool texts = false;
 };
 
-// Adds `script check`, `script convert` and `script show`.
+// Adds `script check`, `script convert`, `script show` and `script words`.
 struct Script;
 struct ScriptFault;
 // "FILE:LINE: Title", the line, and the checker's message, on a terminal's lines.

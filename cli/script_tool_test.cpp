@@ -63,4 +63,22 @@ TEST(ScriptTool, CheckConvertAndShow) {
   EXPECT_EQ(r.out, "1  When . . .\n2  On each roll\n3  then . . .\n4  Bet $5 on Field\n");
 }
 
+TEST(ScriptTool, WordsListTheVocabularyByPrefix) {
+  const struct {
+    std::string prefix;
+    int status;
+    std::vector<std::string> shown, notShown;
+  } cases[] = {
+      {"", 0, {"Start lines:\n  When\n", "Action verbs:\n", "  Bet $\n"}, {}},
+      {"place 6", 0, {"Condition subjects:\n  Place 6\n"}, {"Place 8", "When"}},
+      {"Zzz", 1, {}, {"Start lines"}},
+  };
+  for (const auto& c : cases) {
+    const Outcome r = RunTool(c.prefix.empty() ? std::vector<std::string>{"words"} : std::vector<std::string>{"words", c.prefix});
+    EXPECT_EQ(r.status, c.status) << c.prefix;
+    for (const std::string& s : c.shown) EXPECT_NE(r.out.find(s), std::string::npos) << c.prefix << ": " << s;
+    for (const std::string& s : c.notShown) EXPECT_EQ(r.out.find(s), std::string::npos) << c.prefix << ": " << s;
+  }
+}
+
 }  // namespace
