@@ -64,14 +64,16 @@ Json AdvantageRowJson(const Game& g, int betId) {
 void WriteAdvantageText(const Game& g, bool misc, std::ostream& out) {
   constexpr size_t kNameWidth = 20;
   out << "All figures shown in percentage\n";
-  out << Padded("Bet", kNameWidth);
+  out << "Id  " << Padded("Bet", kNameWidth);
   for (const char* head : {"EV/Roll", "StDev/Roll", "EV/Dec", "StDev/Dec", "EV/Hour"})
     out << Padded("", 11 - std::string_view(head).size()) << head;
   if (misc) out << "  Rolls/Dec    Min/Dec";
   out << "\n";
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) {
     const Row r = RowOf(g, id);
-    out << Padded(bet::CatalogueName(id), kNameWidth) << Fixed(r.evPerRoll) << Fixed(r.stdevPerRoll)
+    char number[8];
+    std::snprintf(number, sizeof number, "%2d  ", id);  // the BetId that play's commands take
+    out << number << Padded(bet::CatalogueName(id), kNameWidth) << Fixed(r.evPerRoll) << Fixed(r.stdevPerRoll)
         << Fixed(r.evPerDecision) << Fixed(r.stdevPerDecision) << Fixed(r.evPerHour);
     if (misc) out << Fixed(r.rollsPerDecision) << Fixed(r.minutesPerDecision);
     out << "\n";
