@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstdio>
+#include <utility>
 
 #include "cli/exit_codes.h"
 #include "cli/terminal_text.h"
@@ -96,21 +97,24 @@ namespace {
 // command, a missing linked file (say, a script) does not matter here.
 class NotesToStderr : public SilentFrontEnd {
  public:
-  explicit NotesToStderr(std::ostream& err) : err_(err) {}
+  NotesToStderr(std::ostream& err, std::string file) : err_(err), file_(std::move(file)) {}
   Reply ShowMessage(const std::string& title, const std::string& text, Buttons b) override {
-    err_ << "dicemill-cli advantage: " << title << ": " << TerminalText(text) << "\n";
+    const std::string told = TerminalText(text);
+    err_ << "dicemill-cli advantage: " << (told.find(file_) == std::string::npos ? file_ + ": " : "") << title << ": "
+         << told << "\n";
     return SilentFrontEnd::ShowMessage(title, text, b);
   }
 
  private:
   std::ostream& err_;
+  std::string file_;  // the game file being opened
 };
 
 }  // namespace
 
 int RunAdvantageTool(const AdvantageToolOptions& o, std::ostream& out, std::ostream& err) {
   Game g;
-  NotesToStderr notes(err);
+  NotesToStderr notes(err, o.gameFile);
   g.Ui = &notes;
   FillDefaults(g);
   NewGame(g, false);

@@ -147,7 +147,9 @@ int RunGamesTool(const GamesToolOptions& o, std::ostream& out, std::ostream& err
   std::vector<GameLogRecord> games;
   GamesFileError failure;
   if (!ReadGamesFile(o.file, games, failure)) {
-    err << "dicemill-cli games: " << failure.Title << ": " << TerminalText(failure.Text) << "\n";
+    const std::string text = TerminalText(failure.Text);
+    err << "dicemill-cli games: " << (text.find(o.file) == std::string::npos ? o.file + ": " : "") << failure.Title
+        << ": " << text << "\n";
     return kExitUsage;
   }
   GamesStatistics stats;

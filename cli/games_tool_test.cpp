@@ -49,7 +49,7 @@ TEST(GamesTool, RefusalsLoseNothing) {
     const char* says;
   } cases[] = {
       {"games bad.glg", "Unable to Open Dicemill Games File: bad.glg is either from an older version"},
-      {"games none.glg", "File not found, Error #53 occurred, at: Open Games File"},
+      {"games none.glg", "none.glg: Dicemill: File not found, Error #53 occurred, at: Open Games File"},
       {"games bad.glg --measure 99", "--measure 99"},
       {"games bad.glg --exclude tied", "--exclude tied"},
       {"run --quiet --rolls 10 --log bad.glg", "--log bad.glg: Unable to Open Dicemill Games File"},

@@ -60,8 +60,10 @@ Script ReadScript(const std::string& path, bool unchecked, std::ostream& err) {
   ScriptReader reader;
   g.Ui = &reader;
   std::string error;
-  if (!OpenScriptFile(g, path, error))
-    throw Refusal{"--script " + path + ": " + (reader.told.empty() ? TerminalText(error) : reader.told)};
+  if (!OpenScriptFile(g, path, error)) {
+    const std::string why = reader.told.empty() ? TerminalText(error) : reader.told;
+    throw Refusal{"--script " + (why.starts_with(path + ":") ? why : path + ": " + why)};
+  }
   script = g.AutoBet;
   if (const std::optional<ScriptFault> fault = CheckScript(script)) {
     const std::string text = ScriptFaultText(path, script, *fault);

@@ -311,8 +311,8 @@ void LineCursor::FailWithChoices(const ChoiceList& list) {
   if (more > 0) {
     std::string prefix = TrimmedWords(s_.substr(start, pos_ - start));
     if (prefix.empty() && sameLetterOnly) prefix = s_.substr(start, 1);
-    expected += " (or " + std::to_string(more) + " more; `dicemill-cli script words " +
-                (prefix.empty() ? "" : "\"" + prefix + "\"") + "` lists them)";
+    expected += " (or " + std::to_string(more) + " more; `dicemill-cli script words" +
+                (prefix.empty() ? "" : " \"" + prefix + "\"") + "` lists them)";
   }
   Fail(expected);
 }
