@@ -4,7 +4,10 @@
 
 #include <cmath>
 #include <cstdio>
+#include <utility>
 
+#include "cli/exit_codes.h"
+#include "cli/terminal_text.h"
 #include "engine/catalogue.h"
 #include "engine/game.h"
 #include "engine/new_game.h"
@@ -62,14 +65,16 @@ Json AdvantageRowJson(const Game& g, int betId) {
 void WriteAdvantageText(const Game& g, bool misc, std::ostream& out) {
   constexpr size_t kNameWidth = 20;
   out << "All figures shown in percentage\n";
-  out << Padded("Bet", kNameWidth);
+  out << "Id  " << Padded("Bet", kNameWidth);
   for (const char* head : {"EV/Roll", "StDev/Roll", "EV/Dec", "StDev/Dec", "EV/Hour"})
     out << Padded("", 11 - std::string_view(head).size()) << head;
   if (misc) out << "  Rolls/Dec    Min/Dec";
   out << "\n";
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) {
     const Row r = RowOf(g, id);
-    out << Padded(bet::CatalogueName(id), kNameWidth) << Fixed(r.evPerRoll) << Fixed(r.stdevPerRoll)
+    char number[8];
+    std::snprintf(number, sizeof number, "%2d  ", id);  // the BetId that play's commands take
+    out << number << Padded(bet::CatalogueName(id), kNameWidth) << Fixed(r.evPerRoll) << Fixed(r.stdevPerRoll)
         << Fixed(r.evPerDecision) << Fixed(r.stdevPerDecision) << Fixed(r.evPerHour);
     if (misc) out << Fixed(r.rollsPerDecision) << Fixed(r.minutesPerDecision);
     out << "\n";
@@ -92,28 +97,28 @@ namespace {
 // command, a missing linked file (say, a script) does not matter here.
 class NotesToStderr : public SilentFrontEnd {
  public:
-  explicit NotesToStderr(std::ostream& err) : err_(err) {}
+  NotesToStderr(std::ostream& err, std::string file) : err_(err), file_(std::move(file)) {}
   Reply ShowMessage(const std::string& title, const std::string& text, Buttons b) override {
-    std::string oneLine = text;
-    for (char& c : oneLine)
-      if (c == '\r') c = ' ';
-    err_ << "dicemill-cli advantage: " << title << ": " << oneLine << "\n";
+    const std::string told = TerminalText(text);
+    err_ << "dicemill-cli advantage: " << (told.find(file_) == std::string::npos ? file_ + ": " : "") << title << ": "
+         << told << "\n";
     return SilentFrontEnd::ShowMessage(title, text, b);
   }
 
  private:
   std::ostream& err_;
+  std::string file_;  // the game file being opened
 };
 
 }  // namespace
 
 int RunAdvantageTool(const AdvantageToolOptions& o, std::ostream& out, std::ostream& err) {
   Game g;
-  NotesToStderr notes(err);
+  NotesToStderr notes(err, o.gameFile);
   g.Ui = &notes;
   FillDefaults(g);
   NewGame(g, false);
-  if (!o.gameFile.empty() && !OpenGame(g, o.gameFile)) return 1;
+  if (!o.gameFile.empty() && !OpenGame(g, o.gameFile)) return kExitUsage;
   g.IncludeZeroOutcomes = g.IncludeZeroOutcomes || o.zeroOutcomes;
   if (!o.json) {
     WriteAdvantageText(g, o.misc, out);

@@ -25,10 +25,10 @@ TEST(AdvantageTool, TextJsonAndRefusals) {
   auto lines = Lines(out.str());
   ASSERT_EQ(lines.size(), 2u + 83);
   EXPECT_EQ(lines[0], "All figures shown in percentage");
-  EXPECT_EQ(lines[1], "Bet                     EV/Roll StDev/Roll     EV/Dec  StDev/Dec    EV/Hour");
+  EXPECT_EQ(lines[1], "Id  Bet                     EV/Roll StDev/Roll     EV/Dec  StDev/Dec    EV/Hour");
   // Pass Line: -7/495 a decision, -7/1671 a roll, at 100 rolls an hour.
-  EXPECT_EQ(lines[1 + 43], "Pass Line                -0.419     54.424     -1.414     99.990    -41.891");
-  EXPECT_EQ(lines[1 + 25].substr(20, 11), "      0.000");  // odds are fair, never "-0.000"
+  EXPECT_EQ(lines[1 + 43], "43  Pass Line                -0.419     54.424     -1.414     99.990    -41.891");
+  EXPECT_EQ(lines[1 + 25].substr(24, 11), "      0.000");  // odds are fair, never "-0.000"
 
   out.str("");
   AdvantageToolOptions misc;
@@ -37,8 +37,8 @@ TEST(AdvantageTool, TextJsonAndRefusals) {
   lines = Lines(out.str());
   EXPECT_NE(lines[1].find("  Rolls/Dec    Min/Dec"), std::string::npos);
   // Counting the barred 12 as a decision: -3/220; 557/165 rolls, 2.025 minutes.
-  EXPECT_EQ(lines[1 + 46].substr(20 + 22, 11), "     -1.364");
-  EXPECT_EQ(lines[1 + 46].substr(20 + 55), "      3.376      2.025");
+  EXPECT_EQ(lines[1 + 46].substr(24 + 22, 11), "     -1.364");
+  EXPECT_EQ(lines[1 + 46].substr(24 + 55), "      3.376      2.025");
 
   out.str("");
   AdvantageToolOptions json;
@@ -69,7 +69,7 @@ TEST(AdvantageTool, TextJsonAndRefusals) {
   game.gameFile = (folder.path() / "none.crp").string();
   out.str("");
   err.str("");
-  EXPECT_EQ(RunAdvantageTool(game, out, err), 1);
+  EXPECT_EQ(RunAdvantageTool(game, out, err), 2);
   EXPECT_TRUE(out.str().empty());
   EXPECT_NE(err.str().find("File name error"), std::string::npos);
 }

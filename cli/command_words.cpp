@@ -1,5 +1,6 @@
 #include "cli/command_words.h"
 
+#include <algorithm>
 #include <cctype>
 #include <charconv>
 
@@ -82,7 +83,30 @@ bool ReadBool(const std::string& word, const std::string& what) {
   throw CommandError(what + " '" + word + "' is not true, false, -1, 0 or 1");
 }
 
+namespace {
+
+// A bet by its catalogue name ("Place 6", any case) or a Chip-Stack as
+// "Chip-Stack #3"; 0 for none.
+int BetIdByName(const std::string& word) {
+  const std::string name = ToLower(word);
+  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id)
+    if (ToLower(bet::CatalogueName(id)) == name) return id;
+  constexpr std::string_view kStack = "chip-stack #";
+  if (name.starts_with(kStack) && name.size() > kStack.size() && name.size() <= kStack.size() + 2 &&
+      std::all_of(name.begin() + kStack.size(), name.end(), [](char c) { return std::isdigit(static_cast<unsigned char>(c)); })) {
+    const int n = std::stoi(name.substr(kStack.size()));
+    if (n >= 1 && bet::kFirstStack + n <= bet::kLastStack) return bet::kFirstStack + n;
+  }
+  return 0;
+}
+
+}  // namespace
+
 int ReadBetId(const std::string& word) {
+  if (!word.empty() && !std::isdigit(static_cast<unsigned char>(word[0])) && word[0] != '-' && word[0] != '+') {
+    if (const int id = BetIdByName(word)) return id;
+    throw CommandError("BetId '" + word + "' is no bet's number or name (\"Place 6\", \"Chip-Stack #1\")");
+  }
   const int64_t id = ReadInteger(word, INT32_MIN, INT32_MAX, "BetId");
   if (bet::IsTableBet(static_cast<int>(id)) || (id > bet::kFirstStack && id <= bet::kLastStack))
     return static_cast<int>(id);

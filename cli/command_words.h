@@ -22,7 +22,8 @@ int64_t ReadInteger(const std::string& word, int64_t lo, int64_t hi, const std::
 Currency ReadAmount(const std::string& word, const std::string& what);
 // true/false/-1/0/1, any case.
 bool ReadBool(const std::string& word, const std::string& what);
-// A table bet 1..83 or a Chip-Stack 101..199.
+// A table bet 1..83 or a Chip-Stack 101..199, by number or by name
+// ("Place 6", "pass line", "Chip-Stack #1").
 int ReadBetId(const std::string& word);
 
 std::string ToLower(std::string_view text);

@@ -8,7 +8,10 @@
 #include <memory>
 #include <vector>
 
+#include "cli/exit_codes.h"
 #include "cli/json_lines.h"
+#include "cli/roll_text.h"
+#include "cli/terminal_text.h"
 #include "dice/dice_roll_files.h"
 #include "store/file_errors.h"
 
@@ -23,7 +26,8 @@ struct FileCloser {
 CLI::App* AddDiceTool(CLI::App& app, DiceToolOptions& options) {
   CLI::App* dice = app.add_subcommand("dice", "Dice Roll Files without a game");
   dice->require_subcommand(1);
-  CLI::App* toRol = dice->add_subcommand("to-rol", "Convert the digits 1..6 of a text file, in pairs, to a .rol file");
+  CLI::App* toRol = dice->add_subcommand(
+      "to-rol", "Convert a text of rolls, each two digits 1..6 (\"34\", \"3 4\", \"(3-4)\"), to a .rol file");
   toRol->add_option("TEXT", options.from, "Text file")->required();
   toRol->add_option("ROL", options.to, ".rol file to write")->required();
   CLI::App* toText = dice->add_subcommand("to-text", "Write a .rol file as text, one roll a line");
@@ -37,7 +41,7 @@ CLI::App* AddDiceTool(CLI::App& app, DiceToolOptions& options) {
   return dice;
 }
 
-bool WriteRollFileSummary(const std::string& rolPath, std::ostream& out) {
+bool WriteRollFileSummary(const std::string& rolPath, std::ostream& out, int64_t* firstOutOfLimits) {
   std::unique_ptr<std::FILE, FileCloser> in(std::fopen(rolPath.c_str(), "rb"));
   if (!in) return false;
   std::array<int64_t, 13> totals{};
@@ -56,16 +60,18 @@ bool WriteRollFileSummary(const std::string& rolPath, std::ostream& out) {
   Json histogram = Json::object();
   for (int t = 2; t <= 12; ++t) histogram[std::to_string(t)] = totals[t];
   WriteJsonLine(out, {{"rolls", rolls}, {"totals", histogram}, {"firstOutOfLimits", firstBad}});
+  if (firstOutOfLimits) *firstOutOfLimits = firstBad;
   return true;
 }
 
 int RunDiceTool(const CLI::App& dice, const DiceToolOptions& o, std::ostream& out, std::ostream& err) {
-  const std::string fileError = FileNameErrorText();
+  const std::string fileError = "dicemill-cli dice: " + FileProblem(o.from, FileNameErrorText());
   if (dice.got_subcommand("to-rol")) {
-    const int64_t rolls = ConvertTextToRolls(o.from, o.to);
+    std::string error;
+    const int64_t rolls = ConvertRollText(o.from, o.to, error);
     if (rolls < 0) {
-      err << fileError << "\n";
-      return 1;
+      err << "dicemill-cli dice: " << error << "; nothing was written\n";
+      return kExitUsage;
     }
     WriteJsonLine(out, {{"rolls", rolls}});
     return 0;
@@ -75,28 +81,32 @@ int RunDiceTool(const CLI::App& dice, const DiceToolOptions& o, std::ostream& ou
     const auto size = std::filesystem::file_size(o.from, ec);
     if (ec) {
       err << fileError << "\n";
-      return 1;
+      return kExitUsage;
     }
     const RollTextOptions options{o.rollNumbers, !o.noDice, o.numbersCalled};
     if (!options.dieNums && !options.numbersCalled) {
-      err << "--no-dice needs --numbers-called: a line must show the dice or the number called\n";
-      return 1;
+      err << "dicemill-cli dice: --no-dice needs --numbers-called: a line must show the dice or the number called\n";
+      return kExitUsage;
     }
     int64_t badRoll = 0;
     const int64_t written = WriteRollsAsText(o.from, 1, static_cast<int64_t>(size), 1, options, o.to, &badRoll);
     if (written < 0) {
       if (badRoll > 0)
-        err << "roll #" << badRoll << " is out of limits; nothing was written\n";
+        err << "dicemill-cli dice: " << o.from << ": roll #" << badRoll << " is out of limits; nothing was written\n";
       else
-        err << fileError << "\n";
-      return 1;
+        err << "dicemill-cli dice: " << o.to << ": " << TerminalText(FileNameErrorText()) << "\n";
+      return kExitFailed;
     }
     WriteJsonLine(out, {{"rolls", written}});
     return 0;
   }
-  if (!WriteRollFileSummary(o.from, out)) {
+  int64_t firstBad = 0;
+  if (!WriteRollFileSummary(o.from, out, &firstBad)) {
     err << fileError << "\n";
-    return 1;
+    return kExitUsage;
   }
+  if (firstBad > 0)
+    err << "dicemill-cli dice: " << o.from << ": roll #" << FormatWithCommas(firstBad)
+        << " is out of limits (no pair of dice); playback would stop there\n";
   return 0;
 }

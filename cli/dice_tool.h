@@ -19,5 +19,6 @@ CLI::App* AddDiceTool(CLI::App& app, DiceToolOptions& options);
 // Runs the chosen subcommand of `dice`; the exit status.
 int RunDiceTool(const CLI::App& dice, const DiceToolOptions& options, std::ostream& out, std::ostream& err);
 // The summary of a ".rol" file as one JSON line: rolls, totals 2..12, and the
-// first roll out of limits (0 for none). False when it cannot be read.
-bool WriteRollFileSummary(const std::string& rolPath, std::ostream& out);
+// first roll out of limits (0 for none), also kept in `firstOutOfLimits`.
+// False when it cannot be read.
+bool WriteRollFileSummary(const std::string& rolPath, std::ostream& out, int64_t* firstOutOfLimits = nullptr);

@@ -3,12 +3,15 @@
 #include <CLI/CLI.hpp>
 
 #include <fstream>
+
+#include "cli/cli_for_test.h"
 #include <sstream>
 
 #include "cli/dice_tool.h"
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
 #include "cli/session_for_test.h"
+#include "dice/dice_roll_files.h"
 #include "engine/game.h"
 
 TEST(DiceFileCommands, RecordEditAndPlayBackThroughTheSession) {
@@ -45,23 +48,43 @@ TEST(DiceFileCommands, RecordEditAndPlayBackThroughTheSession) {
   EXPECT_EQ(s.Run("pad 1")[0]["error"], "pad: TOTAL 1 is out of range (2..12)");
 }
 
-TEST(DiceTool, TextToRollsAndBackWithASummary) {
-  TempFolder dir;
-  const std::string txt = (dir.path() / "in.txt").string(), rol = (dir.path() / "in.rol").string();
-  std::ofstream(txt) << "1 2 x 3 4 6 6 5";
-  CLI::App app;
-  DiceToolOptions options;
-  CLI::App* dice = AddDiceTool(app, options);
-  std::ostringstream out, err;
-  const char* toRol[] = {"dicemill-cli", "dice", "to-rol", txt.c_str(), rol.c_str()};
-  app.parse(5, toRol);
-  EXPECT_EQ(RunDiceTool(*dice, options, out, err), 0);
-  EXPECT_EQ(out.str(), "{\"rolls\":3}\n");
+TEST(DiceTool, TextToRollsStrictlyAndASummary) {
+  TempFolder work;
+  const struct {
+    const char* text;
+    int status;
+    std::string says;  // the JSON line, or the refusal
+  } cases[] = {
+      {"12 34\n(6-6)\n5,1\n", 0, "{\"rolls\":4}\n"},
+      {"1 2 x 3 4", 2, "in.txt: line 1, column 5: \"x\" is neither a die face nor a separator"},
+      {"12\n34\n57\n", 2, "in.txt: line 3, column 2: \"7\" is no die face (1 to 6)"},
+      {"12\n3\n", 2, "in.txt: line 2, column 1: the last roll has one die only"},
+  };
+  for (const auto& c : cases) {
+    std::ofstream(work.path() / "in.txt") << c.text;
+    std::filesystem::remove(work.path() / "in.rol");
+    const Ran r = Cli(work, "dice to-rol in.txt in.rol");
+    EXPECT_EQ(r.status, c.status) << c.text;
+    EXPECT_NE((c.status == 0 ? r.out : r.err).find(c.says), std::string::npos) << c.text << r.err;
+    EXPECT_EQ(std::filesystem::exists(work.path() / "in.rol"), c.status == 0) << c.text;
+  }
+  // What to-text writes reads back.
+  ASSERT_EQ(Cli(work, "dice to-rol in.txt in.rol").status, 2);
+  std::ofstream(work.path() / "in.txt") << "12 34\n(6-6)\n5,1\n";
+  ASSERT_EQ(Cli(work, "dice to-rol in.txt in.rol").status, 0);
+  ASSERT_EQ(Cli(work, "dice to-text in.rol back.txt").status, 0);
+  EXPECT_EQ(Cli(work, "dice to-rol back.txt again.rol").out, "{\"rolls\":4}\n");
 
-  out.str("");
-  ASSERT_TRUE(WriteRollFileSummary(rol, out));
-  EXPECT_EQ(out.str(),
-            "{\"rolls\":3,\"totals\":{\"2\":0,\"3\":1,\"4\":0,\"5\":0,\"6\":0,\"7\":1,\"8\":0,\"9\":0,\"10\":0,\"11\":0,"
+  Ran r = Cli(work, "dice info in.rol");
+  EXPECT_EQ(r.out,
+            "{\"rolls\":4,\"totals\":{\"2\":0,\"3\":1,\"4\":0,\"5\":0,\"6\":1,\"7\":1,\"8\":0,\"9\":0,\"10\":0,\"11\":0,"
             "\"12\":1},\"firstOutOfLimits\":0}\n");
-  EXPECT_FALSE(WriteRollFileSummary((dir.path() / "none.rol").string(), out));
+  std::ofstream(work.path() / "bad.rol", std::ios::binary) << std::string(1, static_cast<char>(RollByte(1, 2))) << '\xff';
+  r = Cli(work, "dice info bad.rol");
+  EXPECT_NE(r.err.find("bad.rol: roll #2 is out of limits"), std::string::npos) << r.err;
+  r = Cli(work, "run --quiet --dice bad.rol");
+  EXPECT_NE(r.out.find("out of limits. Roll #2 of bad.rol is the byte 255"), std::string::npos) << r.out;
+  r = Cli(work, "dice info none.rol");
+  EXPECT_EQ(r.status, 2);
+  EXPECT_NE(r.err.find("none.rol: File name error"), std::string::npos) << r.err;
 }

@@ -4,17 +4,13 @@
 
 #include <algorithm>
 
+#include "cli/exit_codes.h"
 #include "cli/json_lines.h"
+#include "cli/terminal_text.h"
 #include "script/script.h"
 #include "stats/games_log.h"
 
 namespace {
-
-std::string Flattened(std::string text) {
-  std::replace(text.begin(), text.end(), '\r', '\n');
-  while (!text.empty() && text.back() == '\n') text.pop_back();
-  return text;
-}
 
 // A CSV field, quoted when it holds a comma, a quote or a line break.
 std::string CsvField(const std::string& text) {
@@ -160,22 +156,24 @@ CLI::App* AddGamesTool(CLI::App& app, GamesToolOptions& o) {
 
 int RunGamesTool(const GamesToolOptions& o, std::ostream& out, std::ostream& err) {
   GamesView view;
-  if (!ReadView(o, view, err)) return 1;
+  if (!ReadView(o, view, err)) return kExitUsage;
   std::vector<GameLogRecord> games;
   GamesFileError failure;
   if (!ReadGamesFile(o.file, games, failure)) {
-    err << "dicemill-cli games: " << failure.Title << ": " << Flattened(failure.Text) << "\n";
-    return 1;
+    const std::string text = TerminalText(failure.Text);
+    err << "dicemill-cli games: " << (text.find(o.file) == std::string::npos ? o.file + ": " : "") << failure.Title
+        << ": " << text << "\n";
+    return kExitUsage;
   }
   GamesStatistics stats;
   std::string error;
   if (!UpdateGamesPlayed(games, view, stats, error)) {
-    err << "dicemill-cli games: Games Log Error: " << error << "\n";
-    return 1;
+    err << "dicemill-cli games: Games Log Error: " << TerminalText(error) << "\n";
+    return kExitFailed;
   }
   if (o.json)
     out << StatisticsJson(games, view, stats, o.data).dump(2) << "\n";
   else
     WriteText(out, games, view, stats, o.data);
-  return 0;
+  return kExitDone;
 }

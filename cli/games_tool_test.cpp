@@ -1,37 +1,12 @@
 // `dicemill-cli run --bankroll-csv --log` and `dicemill-cli games`, run as a
 // user would.
 
-#include "test_paths.h"
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
-#include <cstdlib>
-#include <fstream>
-#include <sstream>
-
+#include "cli/cli_for_test.h"
 #include "cli/json_lines.h"
-#include "cli/temp_folder_for_test.h"
 
 namespace {
-
-struct Ran {
-  int status = -1;
-  std::string out, err;
-};
-
-std::string Slurp(const std::filesystem::path& path) {
-  std::stringstream s;
-  s << std::ifstream(path).rdbuf();
-  return s.str();
-}
-
-Ran Cli(const TempFolder& work, const std::string& args) {
-  const auto out = work.path() / "out.txt", err = work.path() / "err.txt";
-  const std::string command = "cd '" + work.path().string() + "' && '" DICEMILL_CLI_PATH "' " + args + " > '" +
-                              out.string() + "' 2> '" + err.string() + "'";
-  const int raw = std::system(command.c_str());
-  return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, Slurp(out), Slurp(err)};
-}
 
 TEST(GamesTool, ARunWritesTheBankrollSeriesAndLogsEachGame) {
   TempFolder work;
@@ -94,16 +69,16 @@ TEST(GamesTool, RefusalsLoseNothing) {
     std::string args;
     const char* says;
   } cases[] = {
-      {"games bad.glg", "Unable to Open Dicemill Games File: bad.glg\nis either from an older version"},
-      {"games none.glg", "File not found, Error #53 occurred, at: Open Games File"},
+      {"games bad.glg", "Unable to Open Dicemill Games File: bad.glg is either from an older version"},
+      {"games none.glg", "none.glg: Dicemill: File not found, Error #53 occurred, at: Open Games File"},
       {"games bad.glg --measure 99", "--measure 99"},
       {"games bad.glg --exclude tied", "--exclude tied"},
-      {"run --quiet --rolls 10 --log bad.glg", "--log: Unable to Open Dicemill Games File"},
-      {"run --quiet --rolls 10 --bankroll-csv .", "--bankroll-csv"},
+      {"run --quiet --rolls 10 --log bad.glg", "--log bad.glg: Unable to Open Dicemill Games File"},
+      {"run --quiet --rolls 10 --bankroll-csv .", "--bankroll-csv .: is a directory"},
   };
   for (const auto& c : cases) {
     const Ran r = Cli(work, c.args);
-    EXPECT_EQ(r.status, 1) << c.args;
+    EXPECT_EQ(r.status, 2) << c.args;
     EXPECT_NE(r.err.find(c.says), std::string::npos) << c.args << ": " << r.err;
   }
   EXPECT_EQ(Slurp(work.path() / "bad.glg"), "not a games log at all");

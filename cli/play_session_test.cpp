@@ -30,6 +30,13 @@ TEST(PlaySession, StateCarriesEveryPromisedFieldInOrder) {
   EXPECT_EQ(st["rollCount"], s.play.game().RollCounts[0]);
 }
 
+TEST(PlaySession, BetsByNameAsWellAsNumber) {
+  Session s;
+  s.Run("bet \"Pass Line\" 10\nbet \"chip-stack #2\" 5\nbet Field 5");
+  EXPECT_EQ(s.State()["bets"].dump(), R"({"43":10,"49":5})");
+  EXPECT_EQ(s.State()["stacks"].dump(), R"({"102":5})");
+}
+
 TEST(PlaySession, MalformedLinesPrintOneErrorAndChangeNothing) {
   Session s;
   s.Run("bet 49 5\nset TableMinimum 2\nanswer yes");
@@ -52,6 +59,7 @@ TEST(PlaySession, MalformedLinesPrintOneErrorAndChangeNothing) {
   const std::pair<const char*, const char*> texts[] = {
       {"frobnicate 1", "unknown command 'frobnicate'"},
       {"bet 84 5", "bet: BetId 84 is out of range (1..83 table bets, 101..199 Chip-Stacks)"},
+      {"bet \"Place 7\" 5", "bet: BetId 'Place 7' is no bet's number or name (\"Place 6\", \"Chip-Stack #1\")"},
       {"bet 49", "bet: expected: bet ID AMOUNT"},
       {"atm borrow 100", "atm: expected: atm withdraw|deposit AMOUNT"},
       {"atm deposit -5", "atm: AMOUNT -5 must not be negative"},

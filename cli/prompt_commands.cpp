@@ -1,6 +1,8 @@
 // The Hot-Key commands of the play session: run a bound file once, list,
 // define and clear the bindings.
 
+#include <filesystem>
+
 #include "cli/command_error.h"
 #include "cli/command_words.h"
 #include "cli/json_lines.h"
@@ -30,6 +32,21 @@ Json HotKeysJson(const Game& g) {
   return keys;
 }
 
+// A Hot-Key's file is kept from the data folder (where a run looks for it);
+// the path given resolves from the working folder, as every other path of a
+// session does.
+std::string BoundFile(const Game& g, const std::string& given) {
+  std::error_code ec;
+  const std::filesystem::path file = std::filesystem::absolute(given, ec).lexically_normal();
+  if (ec) return given;
+  if (!g.DataFolder.empty()) {
+    const std::filesystem::path folder = std::filesystem::absolute(g.DataFolder, ec).lexically_normal();
+    const std::filesystem::path inside = file.lexically_relative(folder);
+    if (!ec && !inside.empty() && *inside.begin() != "..") return inside.string();
+  }
+  return file.string();
+}
+
 }  // namespace
 
 void PlaySession::HotKey(const Args& a) {
@@ -42,9 +59,10 @@ void PlaySession::HotKey(const Args& a) {
     ExpectCount(a, 3, 4);
     const char key = ReadKey(a[1]);
     const std::string label = a.size() == 4 ? a[3] : "";
-    if (a[2].size() > kHotKeyFieldBytes || label.size() > kHotKeyFieldBytes)
-      throw CommandError("FILE and LABEL take at most 100 characters each");
-    if (!DefineHotKey(g, key, a[2], label)) throw CommandError(HotKeyCaption(key) + " was not defined");
+    const std::string file = BoundFile(g, a[2]);
+    if (file.size() > kHotKeyFieldBytes || label.size() > kHotKeyFieldBytes)
+      throw CommandError("FILE (as a path from the data folder, or whole) and LABEL take at most 100 characters each");
+    if (!DefineHotKey(g, key, file, label)) throw CommandError(HotKeyCaption(key) + " was not defined");
     if (!SaveHotKeys(g)) throw CommandError(std::string(kHotKeysFileName) + " was not saved");
   } else if (verb == "clear") {
     ExpectCount(a, 2, 2);

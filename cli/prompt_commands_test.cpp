@@ -30,7 +30,7 @@ TEST(PromptCommands, HotKeysAreDefinedListedRunAndCleared) {
   ASSERT_TRUE(s.Run("script \"" + s.Path("press.txt") + "\"").at(0).contains("script"));
   s.Run("hotkey set p \"" + s.Path("nothing.bet") + "\" \"not yet\"");
   EXPECT_EQ(s.Error("hotkey set 1 x.bet " + std::string(101, 'l')),
-            "hotkey: FILE and LABEL take at most 100 characters each");
+            "hotkey: FILE (as a path from the data folder, or whole) and LABEL take at most 100 characters each");
   EXPECT_EQ(s.Error("hotkey set ab x.bet"), "hotkey: 'ab' is no Hot-Key: A..Z or 0..9");
   EXPECT_EQ(s.Error("hotkey #"), "hotkey: '#' is no Hot-Key: A..Z or 0..9");
   EXPECT_EQ(s.Error("hotkey q"), "hotkey: Ctrl Q is not defined");
@@ -65,6 +65,14 @@ TEST(PromptCommands, HotKeysAreDefinedListedRunAndCleared) {
   EXPECT_EQ(s.play.game().AutoBet.FileName, s.Path("press.txt"));
   s.Run("hotkey clear p");
   EXPECT_TRUE(s.Only("hotkey list", "hotkeys").empty());
+
+  // A relative path resolves from the working folder, as every other path does.
+  const fs::path here = fs::current_path();
+  fs::current_path(s.Path(""));
+  s.Run("hotkey set f field.bet");
+  fs::current_path("/");
+  EXPECT_EQ(s.Run("hotkey f").back()["hotkey"]["file"], "field.bet");  // kept from the data folder
+  fs::current_path(here);
 }
 
 TEST(PromptCommands, QuitAsksAboutUnsavedWork) {

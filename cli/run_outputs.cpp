@@ -1,63 +1,50 @@
 #include "cli/run_outputs.h"
 
+#include <unistd.h>
+
 #include <filesystem>
 #include <system_error>
 
-#include "store/file_errors.h"
+#include "cli/terminal_text.h"
 #include "store/games_log_file.h"
 
 namespace {
 
-// A plain decimal without separators: "512", "-3.25", "0.0125".
-std::string PlainAmount(Currency amount) {
-  const uint64_t magnitude = amount.raw < 0 ? -static_cast<uint64_t>(amount.raw) : static_cast<uint64_t>(amount.raw);
-  std::string text = (amount.raw < 0 ? "-" : "") + std::to_string(magnitude / Currency::kScale);
-  uint64_t fraction = magnitude % Currency::kScale;
-  if (fraction == 0) return text;
-  std::string digits = std::to_string(fraction);
-  digits.insert(0, 4 - digits.size(), '0');
-  while (digits.back() == '0') digits.pop_back();
-  return text + "." + digits;
+std::string OneLine(const std::string& path, const GamesFileError& failure) {
+  std::string text = TerminalText(failure.Text);
+  for (char& c : text)
+    if (c == '\n') c = ' ';
+  return "--log " + path + ": " + failure.Title + ": " + text;
 }
 
 }  // namespace
 
-std::string BankrollCsv(const BatchResult& batch) {
-  std::string csv = "game,seed,roll,bankroll\n";
-  for (size_t game = 0; game < batch.Games.size(); ++game) {
-    const GameResult& r = batch.Games[game];
-    const std::string prefix = std::to_string(game + 1) + "," + std::to_string(r.Seed) + ",";
-    for (size_t roll = 0; roll < r.BankrollSeries.size(); ++roll)
-      csv += prefix + std::to_string(roll) + "," + PlainAmount(r.BankrollSeries[roll]) + "\n";
-  }
-  return csv;
-}
-
-bool WriteBankrollCsv(const std::string& path, const BatchResult& batch, std::string& error) {
-  if (WriteFileAtomically(path, BankrollCsv(batch))) return true;
-  error = "--bankroll-csv: \"" + path + "\" could not be written";
+bool CheckOutputPath(const std::string& option, const std::string& path, std::string& error) {
+  namespace fs = std::filesystem;
+  std::error_code ec;
+  const fs::path target(path);
+  const fs::path folder = target.parent_path().empty() ? fs::path(".") : target.parent_path();
+  if (fs::is_directory(target, ec))
+    error = option + " " + path + ": is a directory";
+  else if (!fs::exists(folder, ec))
+    error = option + " " + path + ": the folder " + folder.string() + " does not exist";
+  else if (!fs::is_directory(folder, ec))
+    error = option + " " + path + ": " + folder.string() + " is not a folder";
+  else if (access(folder.c_str(), W_OK | X_OK) != 0)
+    error = option + " " + path + ": the folder " + folder.string() + " cannot be written to";
+  else
+    return true;
   return false;
 }
 
-namespace {
-
-std::string OneLine(const GamesFileError& failure) {
-  std::string text = failure.Text;
-  for (char& c : text)
-    if (c == '\r') c = ' ';
-  while (!text.empty() && text.back() == ' ') text.pop_back();
-  return "--log: " + failure.Title + ": " + text;
-}
-
-}  // namespace
-
 bool CheckGamesLog(const std::string& path, std::string& error) {
+  if (!CheckOutputPath("--log", path, error)) return false;
   std::error_code ec;
   if (!std::filesystem::exists(path, ec)) return true;
   std::vector<GameLogRecord> games;
   GamesFileError failure;
   if (ReadGamesFile(path, games, failure)) return true;
-  error = OneLine(failure);
+  error = OneLine(path, failure);
   return false;
 }
 
@@ -67,6 +54,6 @@ bool AppendBatchToLog(const std::string& path, const BatchResult& batch, std::st
   for (const GameResult& r : batch.Games) records.push_back(r.LogRecord);
   GamesFileError failure;
   if (AppendGamesToLog(path, records, failure)) return true;
-  error = OneLine(failure);
+  error = OneLine(path, failure);
   return false;
 }

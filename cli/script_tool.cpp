@@ -5,21 +5,18 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "cli/exit_codes.h"
+#include "cli/script_words.h"
+#include "cli/terminal_text.h"
 #include "script/checker.h"
 #include "script/text_form.h"
 #include "store/script_file.h"
 
 namespace {
 
-constexpr int kUnreadable = 2;
+constexpr int kUnreadable = kExitUsage;
 
-// Message lines are joined with a carriage return; a terminal wants "\n".
-std::string WithLineEnds(std::string text) {
-  std::replace(text.begin(), text.end(), '\r', '\n');
-  return text;
-}
-
-int Check(const Script& script, std::ostream& out) {
+int Check(const std::string& path, const Script& script, std::ostream& out) {
   if (script.Lines.empty()) {
     out << "The script is empty.\n";
     return 0;
@@ -29,10 +26,8 @@ int Check(const Script& script, std::ostream& out) {
     out << "Your script is properly structured.\n";
     return 0;
   }
-  out << "line " << fault->Line << ": " << fault->Title << "\n"
-      << "  " << Trimmed(LineToText(script.Line(fault->Line))) << "\n"
-      << WithLineEnds(fault->Text) << "\n";
-  return 1;
+  out << ScriptFaultText(path, script, *fault) << "\n";
+  return kExitFailed;
 }
 
 int Show(const Script& script, bool texts, std::ostream& out) {
@@ -47,6 +42,11 @@ int Show(const Script& script, bool texts, std::ostream& out) {
 
 }  // namespace
 
+std::string ScriptFaultText(const std::string& path, const Script& script, const ScriptFault& fault) {
+  return path + ":" + std::to_string(fault.Line) + ": " + fault.Title + "\n  " +
+         Trimmed(LineToText(script.Line(fault.Line))) + "\n" + TerminalText(fault.Text);
+}
+
 CLI::App* AddScriptTool(CLI::App& app, ScriptToolOptions& options) {
   CLI::App* script = app.add_subcommand("script", "Auto-Bet scripts without a game (.bet or text .txt)");
   script->require_subcommand(1);
@@ -55,6 +55,8 @@ CLI::App* AddScriptTool(CLI::App& app, ScriptToolOptions& options) {
   CLI::App* convert = script->add_subcommand("convert", "Convert a script between .bet and text (.txt), by extension");
   convert->add_option("IN", options.from, "Script file to read, .bet or text")->required();
   convert->add_option("OUT", options.to, "File to write: .bet records, or text for .txt")->required();
+  CLI::App* words = script->add_subcommand("words", "Print the words of the text form, list by list");
+  words->add_option("PREFIX", options.prefix, "Only the entries that begin with this (any case)");
   CLI::App* show = script->add_subcommand("show", "Print the numbered lines of a script");
   show->add_option("FILE", options.from, "Script file, .bet or text")->required();
   show->add_flag("--texts", options.texts, "Print each line's stored Text instead of its text form");
@@ -62,22 +64,27 @@ CLI::App* AddScriptTool(CLI::App& app, ScriptToolOptions& options) {
 }
 
 int RunScriptTool(const CLI::App& command, const ScriptToolOptions& o, std::ostream& out, std::ostream& err) {
+  if (command.got_subcommand("words")) {
+    if (WriteScriptWords(o.prefix, out)) return kExitDone;
+    err << "dicemill-cli script words: no word begins with \"" << o.prefix << "\"\n";
+    return kExitFailed;
+  }
   Script script;
   std::string error;
   if (!LoadScriptFile(o.from, script, error)) {
-    err << error << "\n";
+    err << TerminalText(error) << "\n";
     return kUnreadable;
   }
-  if (command.got_subcommand("check")) return Check(script, out);
+  if (command.got_subcommand("check")) return Check(o.from, script, out);
   if (command.got_subcommand("show")) return Show(script, o.texts, out);
   const std::string ext = std::filesystem::path(o.to).extension().string();
   if (!IsBetFilePath(o.to) && ext != ".txt" && ext != ".TXT") {
     err << o.to << ": the file to write must end in .bet or .txt\n";
-    return 1;
+    return kExitUsage;
   }
   if (!SaveScriptFile(o.to, script, error)) {
-    err << error << "\n";
-    return 1;
+    err << TerminalText(error) << "\n";
+    return kExitFailed;
   }
   out << "Wrote " << script.NumLines() << " lines to " << o.to << "\n";
   return 0;

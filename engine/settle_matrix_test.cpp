@@ -200,6 +200,6 @@ std::vector<Variation> Variations() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Tables, SettleMatrix, ::testing::ValuesIn(Variations()),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& variation) { return std::string(variation.param.name); });
 
 }  // namespace

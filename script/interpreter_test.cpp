@@ -154,9 +154,12 @@ TEST(Interpreter, TwoBlocksJoinedByAndOrXor) {
     EXPECT_EQ(p.Run(), c.taken ? Lines{6} : Lines{})
         << c.first << "/" << c.second << " a " << c.a << c.aFresh << " b " << c.b << c.bFresh;
     // After a true first block an or-block's lines are skipped.
-    if (c.second == kOrWhen && c.a) EXPECT_TRUE(p.StatusesOf(4).empty());
-    if (c.second == kOrWhen && !c.a)
+    if (c.second == kOrWhen && c.a) {
+      EXPECT_TRUE(p.StatusesOf(4).empty());
+    }
+    if (c.second == kOrWhen && !c.a) {
       EXPECT_EQ(p.StatusesOf(4), std::vector<std::string>{"Status: Condition is true (just now occurred). "});
+    }
     if (c.second == kAndWhen && !c.aFresh) {
       EXPECT_EQ(p.StatusesOf(3),
                 (std::vector<std::string>{"All the conditions in the block were true, but none have just now "

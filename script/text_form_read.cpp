@@ -225,6 +225,8 @@ void CheckWidths(const ScriptLine& l) {
   constexpr int32_t kExactInFloat = 1 << 24;  // Subject and Target are floats in a record
   if (l.Subject < -kExactInFloat || l.Subject > kExactInFloat || l.Target < -kExactInFloat || l.Target > kExactInFloat)
     throw TextFormError{0, "", "", "Subject and Target must lie in -16777216..16777216"};
+  if (l.Kind == line_kind::kComment && l.Name.size() > kLineNameWidth)
+    throw TextFormError{0, "", "", "comment longer than 80 characters (it has " + std::to_string(l.Name.size()) + ")"};
   if (l.Name.size() > kLineNameWidth)
     throw TextFormError{0, "", "", "the name has " + std::to_string(l.Name.size()) + " characters; at most 80 fit"};
   if (l.Text.size() > kLineTextWidth)
@@ -259,7 +261,10 @@ ScriptLine ParseTextLine(const std::string& textLine) {
 bool ReadScriptText(const std::string& text, std::vector<ScriptLine>& lines, std::string& error) {
   std::vector<ScriptLine> read;
   int number = 0;
-  for (size_t at = 0; at < text.size();) {
+  // A byte-order mark, as some editors write, is no part of the first line;
+  // a carriage return before a line end goes with the trailing blanks.
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  for (size_t at = text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0; at < text.size();) {
     size_t end = text.find('\n', at);
     if (end == std::string::npos) end = text.size();
     const std::string line = text.substr(at, end - at);

@@ -202,6 +202,14 @@ TEST(ScriptTextForm, HandWrittenLinesAreReadLeniently) {
   EXPECT_EQ(s.Flags[0].FlagName, "pressed");
 }
 
+TEST(ScriptTextForm, AByteOrderMarkAndCarriageReturnsAreNoPartOfTheLines) {
+  Script plain, windows;
+  std::string error;
+  ASSERT_TRUE(ReadScriptText("When\n  On each roll\nthen\n  Bet $5 on Field\n", plain, error)) << error;
+  ASSERT_TRUE(ReadScriptText("\xEF\xBB\xBFWhen\r\n  On each roll\r\nthen\r\n  Bet $5 on Field\r\n", windows, error)) << error;
+  EXPECT_EQ(ScriptToText(windows), ScriptToText(plain));
+}
+
 TEST(ScriptTextForm, FaultsNameTheLineTheWordAndWhatFits) {
   struct Case {
     std::string text;
@@ -209,8 +217,9 @@ TEST(ScriptTextForm, FaultsNameTheLineTheWordAndWhatFits) {
   };
   const std::vector<Case> cases = {
       {"When\n  Plase 6 has won\n",
-       {"line 2, column 3: unknown word \"Plase\"", "\"Place 6\"", "\"Pass Line\""}},
-      {"When\n  Place 7 has won\n", {"line 2, column 9: unknown word \"7\"", "\"Place 10\"", "\"Place (shooter's point)\""}},
+       {"line 2, column 3: unknown word \"Plase\"", "\"Place 6\"", "(or 5 more; `dicemill-cli script words \"P\"` lists them)"}},
+      {"When\n  Place 7 has won\n", {"line 2, column 9: unknown word \"7\"", "\"Place 8\"", "\"Place 9\" (or 2 more; `dicemill-cli script words \"Place\"`"}},
+      {"'" + std::string(81, 'c') + "\n", {"line 1: comment longer than 80 characters (it has 82)"}},
       {"Do this\n\n  Bet $x on Field\n", {"line 3, column 8: unknown word \"x\"; expected an amount"}},
       {"Do this\n  Bet $10 to Field\n", {"line 2", "unknown word \"to\"; expected \"on\""}},
       {"Do this\n  Bet $10 on Feild\n", {"unknown word \"Feild\"", "\"Field\""}},

@@ -1,5 +1,6 @@
 #include "script/text_form_words.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cstdio>
 
@@ -248,10 +249,26 @@ void LineCursor::Fail(const std::string& expected) {
   throw TextFormError{pos_, s_.substr(pos_, end - pos_), expected, ""};
 }
 
+size_t EditDistance(const std::string& a, const std::string& b) {
+  std::vector<size_t> row(b.size() + 1);
+  for (size_t j = 0; j <= b.size(); ++j) row[j] = j;
+  for (size_t i = 1; i <= a.size(); ++i) {
+    size_t diagonal = row[0];
+    row[0] = i;
+    for (size_t j = 1; j <= b.size(); ++j) {
+      const size_t above = row[j];
+      row[j] = std::min({row[j] + 1, row[j - 1] + 1, diagonal + (Lower(a[i - 1]) == Lower(b[j - 1]) ? 0 : 1)});
+      diagonal = above;
+    }
+  }
+  return row[b.size()];
+}
+
 // Names the first word that no entry goes on with, and the entries that
 // agree with the text up to it: those are the ones that would fit there.
 void LineCursor::FailWithChoices(const ChoiceList& list) {
   SkipBlanks();
+  const size_t start = pos_;
   const std::vector<std::string> typed = Words(std::string_view(s_).substr(pos_));
   size_t best = 0;
   std::vector<std::pair<size_t, std::string>> agreeing;
@@ -266,12 +283,24 @@ void LineCursor::FailWithChoices(const ChoiceList& list) {
   std::vector<std::string> choices;
   for (const auto& [k, words] : agreeing)
     if (k == best) choices.push_back(words);
+  bool sameLetterOnly = false;
   if (best == 0 && !typed.empty()) {  // nothing agrees: offer those of the same first letter, if any
     std::vector<std::string> sameLetter;
     for (const std::string& c : choices)
       if (!c.empty() && Lower(c[0]) == typed[0][0]) sameLetter.push_back(c);
     if (!sameLetter.empty()) choices = sameLetter;
+    sameLetterOnly = !sameLetter.empty();
   }
+  // The closest few, by how far their next word is from the word typed.
+  const std::string wrong = best < typed.size() ? typed[best] : "";
+  auto distance = [&](const std::string& choice) {
+    const std::vector<std::string> words = Words(choice);
+    return best < words.size() ? EditDistance(words[best], wrong) : wrong.size();
+  };
+  std::stable_sort(choices.begin(), choices.end(),
+                   [&](const std::string& a, const std::string& b) { return distance(a) < distance(b); });
+  const size_t more = choices.size() > kMostChoicesShown ? choices.size() - kMostChoicesShown : 0;
+  choices.resize(choices.size() - more);
   // Step over the words that agreed, to point at the first that did not.
   for (size_t w = 0; w < best; ++w) {
     while (pos_ < s_.size() && !IsBlank(s_[pos_])) ++pos_;
@@ -279,5 +308,11 @@ void LineCursor::FailWithChoices(const ChoiceList& list) {
   }
   std::string expected = "one of ";
   for (size_t i = 0; i < choices.size(); ++i) expected += (i ? ", \"" : "\"") + choices[i] + "\"";
+  if (more > 0) {
+    std::string prefix = TrimmedWords(s_.substr(start, pos_ - start));
+    if (prefix.empty() && sameLetterOnly) prefix = s_.substr(start, 1);
+    expected += " (or " + std::to_string(more) + " more; `dicemill-cli script words" +
+                (prefix.empty() ? "" : " \"" + prefix + "\"") + "` lists them)";
+  }
   Fail(expected);
 }

@@ -66,3 +66,8 @@ class LineCursor {
 
 // The words of a list entry without the blanks it may end with.
 std::string TrimmedWords(const std::string& words);
+
+// The letters to change, add or drop to turn one word into the other, case aside.
+size_t EditDistance(const std::string& a, const std::string& b);
+// A message lists no more close matches than this.
+inline constexpr size_t kMostChoicesShown = 5;

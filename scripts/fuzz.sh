@@ -15,6 +15,8 @@ corpus=build-fuzz/corpus
 mkdir -p "$corpus"/{game_file,bet_file,prob_file,script_text,roll_file}
 cp samples/*.bet "$corpus/bet_file/"
 cp samples/*.txt "$corpus/script_text/"
+cp tests/reliability/*.bet "$corpus/bet_file/"
+cp tests/reliability/*.txt "$corpus/script_text/"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 printf 'bet 43 10\nroll 3 3\nsave "%s"\nquit\n' "$corpus/game_file/seed.crp" |

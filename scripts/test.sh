@@ -6,11 +6,13 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
-scripts/build.sh build -DCMAKE_BUILD_TYPE=Release
+# Warnings are errors here, not in a user's own build.
+scripts/build.sh build -DCMAKE_BUILD_TYPE=Release -DDICEMILL_WERROR=ON
 ctest --test-dir build --output-on-failure -j"$(nproc)"
 if [ "${1:-}" != "--no-sanitize" ]; then
   # One instrumented build serves the tests and the fuzzers.
-  CXX=clang++ scripts/build.sh build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DDICEMILL_FUZZ=ON -DDICEMILL_BENCH=OFF
+  CXX=clang++ scripts/build.sh build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DDICEMILL_FUZZ=ON -DDICEMILL_BENCH=OFF \
+    -DDICEMILL_WERROR=ON
   UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 ctest --test-dir build-fuzz --output-on-failure -j"$(nproc)"
   scripts/fuzz.sh 20
 fi

@@ -8,14 +8,10 @@
 #include <optional>
 #include <thread>
 
-namespace {
-
-int ThreadsFor(const RunOptions& options) {
+int BatchThreads(const RunOptions& options) {
   int threads = options.Threads > 0 ? options.Threads : static_cast<int>(std::thread::hardware_concurrency());
   return std::clamp(threads, 1, std::max(1, options.Games));
 }
-
-}  // namespace
 
 BatchResult RunBatch(const RunOptions& options, const Script& script, RunControl& control) {
   const auto started = std::chrono::steady_clock::now();
@@ -27,7 +23,7 @@ BatchResult RunBatch(const RunOptions& options, const Script& script, RunControl
   auto worker = [&] {
     for (int i = next++; i < options.Games && !control.Stop.load(); i = next++) {
       try {
-        slots[static_cast<size_t>(i)] = RunGame(options, script, options.Seed + i, control);
+        slots[static_cast<size_t>(i)] = RunGame(options, script, options.FirstGame + i, control);
       } catch (...) {
         std::lock_guard<std::mutex> hold(failureLock);
         if (!failure) failure = std::current_exception();
@@ -36,7 +32,7 @@ BatchResult RunBatch(const RunOptions& options, const Script& script, RunControl
     }
   };
   std::vector<std::thread> threads;
-  for (int t = 1; t < ThreadsFor(options); ++t) threads.emplace_back(worker);
+  for (int t = 1; t < BatchThreads(options); ++t) threads.emplace_back(worker);
   worker();
   for (std::thread& t : threads) t.join();
   if (failure) std::rethrow_exception(failure);

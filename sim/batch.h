@@ -1,6 +1,7 @@
 #pragma once
 // A batch of independent games on several threads. Game i always gets seed
-// Seed + i and its own table, so the results do not depend on the threads.
+// Seed + FirstGame + i and its own table, so the results do not depend on
+// the threads, nor on how a large batch is split into smaller ones.
 
 #include <vector>
 
@@ -11,6 +12,9 @@ struct BatchResult {
   double Seconds = 0;
   bool Interrupted = false;       // a stop request ended the batch early
 };
+
+// The threads a batch plays on: as asked (0: every core), no more than games.
+int BatchThreads(const RunOptions& options);
 
 // Runs options.Games games on options.Threads threads (0: every core).
 // A set-up failure of any game stops the others and is thrown again here.

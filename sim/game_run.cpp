@@ -9,6 +9,7 @@
 #include "dice/rng.h"
 #include "engine/game.h"
 #include "engine/new_game.h"
+#include "engine/notices.h"
 #include "engine/roll.h"
 #include "script/interpreter.h"
 #include "script/values.h"
@@ -23,18 +24,26 @@ constexpr const char* kMaxLossReason = "Stopped by exceeding the max loss limit"
 
 // The screen of a headless run: takes every default, remembers the first
 // message (during set-up a message means the set-up failed), and once per
-// roll lets a stop request in and reports progress.
+// roll lets a stop request in, hands on the bankroll and reports progress.
 class RunnerFrontEnd : public SilentFrontEnd {
  public:
-  RunnerFrontEnd(Game& g, RunControl& control) : game_(g), control_(control) {}
+  RunnerFrontEnd(Game& g, RunControl& control, int64_t index, bool stopAtRuin)
+      : game_(g), control_(control), index_(index), stopAtRuin_(stopAtRuin) {}
 
   Reply ShowMessage(const std::string& title, const std::string& text, Buttons buttons) override {
     if (firstMessage_.empty()) firstMessage_ = title + ": " + text;
     return SilentFrontEnd::ShowMessage(title, text, buttons);
   }
   void LetInputRun() override {
-    if (series_ && game_.RollCounts[0] >= static_cast<int64_t>(series_->size())) series_->push_back(game_.Bankroll());
+    const int64_t rolls = game_.RollCounts[0];
+    if (control_.Series && rolls > lastRoll_) control_.Series->Add(index_, game_.Bankroll());
+    lastRoll_ = rolls;
     if (++calls_ % kPublishEvery == 0) Publish();
+    if (stopAtRuin_ && !ruined_ && game_.Bankroll() + game_.TotalOnTable < game_.TableMinimum) {
+      ruined_ = true;
+      ruinHeld_ = game_.Bankroll() + game_.TotalOnTable;
+      game_.KeepRolling = false;
+    }
     if (control_.Stop.load(std::memory_order_relaxed)) game_.KeepRolling = false;
   }
   void RollFinished(const std::string& reason) override { stopReason_ = reason; }
@@ -46,26 +55,30 @@ class RunnerFrontEnd : public SilentFrontEnd {
     published_ = rolls;
   }
   // A saved game comes with rolls of its own, which are not this run's.
-  void StartCountingAt(int64_t rolls) { published_ = rolls; }
+  void StartCountingAt(int64_t rolls) { published_ = lastRoll_ = rolls; }
   const std::string& FirstMessage() const { return firstMessage_; }
   void ForgetMessages() { firstMessage_.clear(); }
   const std::string& StopReason() const { return stopReason_; }
-  // Every roll's bankroll goes to `series` from now on.
-  void KeepSeries(std::vector<Currency>* series) { series_ = series; }
+  bool Ruined() const { return ruined_; }
+  Currency RuinHeld() const { return ruinHeld_; }
 
  private:
   static constexpr int64_t kPublishEvery = 4096;
   Game& game_;
   RunControl& control_;
+  int64_t index_;
+  bool stopAtRuin_;
   int64_t calls_ = 0;
   int64_t published_ = 0;
+  int64_t lastRoll_ = 0;
+  bool ruined_ = false;
+  Currency ruinHeld_;
   std::string firstMessage_;
   std::string stopReason_;
-  std::vector<Currency>* series_ = nullptr;
 };
 
 void FailIfTold(const RunnerFrontEnd& ui, const std::string& what) {
-  if (!ui.FirstMessage().empty()) throw std::runtime_error(what + ": " + ui.FirstMessage());
+  if (!ui.FirstMessage().empty()) throw GameSetUpError(what + ": " + ui.FirstMessage());
 }
 
 // The saved game as it stood; any message while opening (a refusal, a
@@ -75,7 +88,7 @@ void OpenSavedGame(Game& g, const RunOptions& options, RunnerFrontEnd& ui) {
   FillDefaults(g);
   const bool opened = OpenGame(g, options.GameFile);
   FailIfTold(ui, "game file \"" + options.GameFile + "\"");
-  if (!opened) throw std::runtime_error("game file \"" + options.GameFile + "\" could not be opened");
+  if (!opened) throw GameSetUpError("game file \"" + options.GameFile + "\" could not be opened");
   if (options.Bankroll) {
     g.BetAmount[bet::kBankroll] = g.AmountInvested = *options.Bankroll;
     g.HighBankroll = g.LowBankroll = *options.Bankroll;
@@ -101,13 +114,13 @@ void SetUpTable(Game& g, const RunOptions& options, int64_t seed, RunnerFrontEnd
   SeedRNG(g, true);
   FailIfTold(ui, "seed " + std::to_string(seed));
   if (g.LastSeed != seed)
-    throw std::runtime_error("seed " + std::to_string(seed) + " is outside the limits of generator #" +
+    throw GameSetUpError("seed " + std::to_string(seed) + " is outside the limits of generator #" +
                              std::to_string(g.RngChoice + 1));
 }
 
 void OpenDice(Game& g, const std::string& path, RunnerFrontEnd& ui) {
   if (!std::filesystem::is_regular_file(path))
-    throw std::runtime_error("Dice Roll File \"" + path + "\" does not exist");
+    throw GameSetUpError("Dice Roll File \"" + path + "\" does not exist");
   OpenRollFile(g, path);
   SetRecorderStatus(g, kRecorderPlayback);
   FailIfTold(ui, "Dice Roll File \"" + path + "\"");
@@ -125,10 +138,20 @@ void StartScript(Game& g, const Script& script) {
 
 }  // namespace
 
-GameResult RunGame(const RunOptions& options, const Script& script, int64_t seed, RunControl& control) {
+std::string RuinStopReason(Currency held, Currency tableMinimum, int64_t roll) {
+  return "Stopped at ruin on roll " + FormatWithCommas(roll) + ": the rack and the table together hold " +
+         (held < 0 ? "-" + Dollars(Abs(held)) : Dollars(held)) + ", less than the table minimum of " + Dollars(tableMinimum) + ".";
+}
+
+std::string InterruptedStopReason(int64_t roll) {
+  return "Interrupted after roll " + FormatWithCommas(roll) + ".";
+}
+
+GameResult RunGame(const RunOptions& options, const Script& script, int64_t index, RunControl& control) {
   const auto started = std::chrono::steady_clock::now();
+  const int64_t seed = options.Seed + index;
   Game g;
-  RunnerFrontEnd ui(g, control);
+  RunnerFrontEnd ui(g, control, index, options.StopAtRuin);
   g.Ui = &ui;
   SetUpTable(g, options, seed, ui);
   if (!options.DicePath.empty()) {
@@ -140,13 +163,11 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t seed
   const int64_t rollsBefore = g.RollCounts[0], handsBefore = g.HandStats[2];
   ui.StartCountingAt(rollsBefore);
   GameResult r;
+  r.Index = index;
   r.Seed = seed;
+  r.Rng = g.RngChoice + 1;
   r.BankrollStart = g.Bankroll();
-  if (options.KeepBankrollSeries) {
-    if (options.Rolls > 0) r.BankrollSeries.reserve(static_cast<size_t>(options.Rolls) + 1);
-    r.BankrollSeries.push_back(g.Bankroll());
-    ui.KeepSeries(&r.BankrollSeries);
-  }
+  if (control.Series) control.Series->Add(index, g.Bankroll());
   g.HyperDriveOn = true;  // the run is headless from its first pass on
   if (script.NumLines() > 0) {
     StartScript(g, script);
@@ -158,10 +179,23 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t seed
   if (!control.Stop.load()) RollDice(g);
   g.KeepRolling = g.HyperDriveOn = false;
   ui.Publish();
+  if (control.Series) control.Series->EndGame(index);
+  std::string where;
+  if (ui.StopReason() == kOutOfLimitsReason && g.DiceFile.File.IsOpen()) {
+    const int64_t roll = g.DiceFile.NextRollNum;
+    where = " Roll #" + FormatWithCommas(roll) + " of " + g.DiceFile.File.Path() + " is the byte " +
+            std::to_string(g.DiceFile.File.Read(roll)) + ", which is no pair of dice.";
+  }
   if (g.DiceFile.File.IsOpen()) CloseRollFile(g);
 
-  r.StopReason = ui.StopReason();
   r.Rolls = g.RollCounts[0] - rollsBefore;
+  r.StopReason = ui.StopReason() + where;
+  if (ui.Ruined())
+    r.StopReason = RuinStopReason(ui.RuinHeld(), g.TableMinimum, r.Rolls);
+  else if (r.StopReason.empty() && control.Stop.load())
+    r.StopReason = InterruptedStopReason(r.Rolls);
+  const int64_t planned = options.Rolls > 0 ? options.Rolls : MaxRolls;
+  if (r.Rolls < planned) control.RollsNotNeeded.fetch_add(planned - r.Rolls, std::memory_order_relaxed);
   r.Hands = g.HandStats[2] - handsBefore;
   r.SimHours = SimHours(g);
   r.BankrollEnd = g.Bankroll();
@@ -176,7 +210,7 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t seed
   r.AmountWon = actual.Wins[results::kTotal];
   r.AmountLost = actual.Losses[results::kTotal];
   r.Bets = ActualBetLines(g);
-  r.Ruined = g.LowBankroll <= 0 || r.StopReason.rfind(kMaxLossReason, 0) == 0;
+  r.Ruined = options.StopAtRuin ? ui.Ruined() : g.LowBankroll <= 0 || r.StopReason.rfind(kMaxLossReason, 0) == 0;
   r.LogRecord = FinishedGameRecord(g);
   r.Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
   return r;

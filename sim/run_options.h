@@ -12,7 +12,8 @@ struct RunOptions {
   std::string ScriptPath;     // ".bet" or text; empty: no script
   std::string DicePath;       // a Dice Roll File to play back; empty: the generator
   int Rng = 0;                // 1..8; 0 keeps the table's default generator
-  int64_t Seed = 1;           // game i is seeded with Seed + i
+  int64_t Seed = 1;           // game i is seeded with Seed + FirstGame + i
+  int64_t FirstGame = 0;      // where this batch starts in a larger one split over machines
   int64_t Rolls = 1'000'000;  // per game; 0 for no count: the roll ceiling stops it
   std::optional<Currency> Bankroll;  // the starting bankroll; default the table's
   int Games = 1;
@@ -22,5 +23,7 @@ struct RunOptions {
   // on from their saved state.
   std::string GameFile;
   bool ReSeed = true;
-  bool KeepBankrollSeries = false;  // keep the bankroll after every roll of every game
+  // End a game once the rack and the table together cannot cover the table
+  // minimum; such a game counts as ruined.
+  bool StopAtRuin = false;
 };

@@ -120,7 +120,7 @@ bool MakeHistogram(const std::vector<Currency>& sorted, const GamesView& view, G
       ++s.Bars[bar].Games;
     }
   }
-  for (const HistogramBar& bar : s.Bars) s.HighGames = std::max(s.HighGames, bar.Games);
+  for (const HistogramBar& each : s.Bars) s.HighGames = std::max(s.HighGames, each.Games);
   return true;
 }
 

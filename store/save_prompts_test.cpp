@@ -211,13 +211,13 @@ TEST(SavePrompts, DirtyFlagsFollowTheChanges) {
     std::function<void(Table&)> change;
     bool dirties;
   } cases[] = {
-      {"a bet placed", [](Table& t) { t.Place(bet::kPassLine, 5); }, true},
-      {"nothing to take down", [](Table& t) { t.Place(bet::kPlaceBase + 3, -5); }, false},
-      {"a Chip-Stack", [](Table& t) { t.Place(101, 5); }, true},
-      {"a bet called off", [](Table& t) { t.Stand(bet::kPlaceBase + 2, 6); t.g.GameChanged = false; CallBet(t.g, bet::kPlaceBase + 2, kToolCallOff); }, true},
-      {"a roll", [](Table& t) { t.Roll(2, 3); }, true},
-      {"a script's setting", [](Table& t) { Pass(t, "Do this\n  Set Auto-Take Full Odds on\n"); }, true},
-      {"a script's comment", [](Table& t) { Pass(t, "'nothing\n"); }, false},
+      {"a bet placed", [](Table& table) { table.Place(bet::kPassLine, 5); }, true},
+      {"nothing to take down", [](Table& table) { table.Place(bet::kPlaceBase + 3, -5); }, false},
+      {"a Chip-Stack", [](Table& table) { table.Place(101, 5); }, true},
+      {"a bet called off", [](Table& table) { table.Stand(bet::kPlaceBase + 2, 6); table.g.GameChanged = false; CallBet(table.g, bet::kPlaceBase + 2, kToolCallOff); }, true},
+      {"a roll", [](Table& table) { table.Roll(2, 3); }, true},
+      {"a script's setting", [](Table& table) { Pass(table, "Do this\n  Set Auto-Take Full Odds on\n"); }, true},
+      {"a script's comment", [](Table& table) { Pass(table, "'nothing\n"); }, false},
   };
   for (const auto& c : cases) {
     t.g.GameChanged = false;

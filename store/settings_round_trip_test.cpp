@@ -45,7 +45,9 @@ void ExpectRoundTrip(const char* what, const std::function<Currency(const Settin
   FreshGame in(folder);
   ASSERT_TRUE(OpenGame(in.g, path));
   ForEachValue([&](const SettingRow& row, int i) {
-    if (row.stored) EXPECT_EQ(row.get(in.g, i), pick(row, i)) << row.name << "." << i;
+    if (row.stored) {
+      EXPECT_EQ(row.get(in.g, i), pick(row, i)) << row.name << "." << i;
+    }
   });
 }
 

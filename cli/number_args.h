@@ -1,0 +1,16 @@
+#pragma once
+// Numbers typed on the command line: plain digits, or digits grouped by
+// commas in threes ("1,000,000"); amounts may start with "$" and carry cents.
+// Anything else (hex, exponents, signs, spaces) is refused.
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "engine/money.h"
+
+std::optional<int64_t> ParseCountArg(const std::string& text);
+std::optional<Currency> ParseAmountArg(const std::string& text);
+
+// "$1,649.45", "-$0.57", "$500": money as the command line prints it.
+std::string MoneyText(Currency amount);
