@@ -124,14 +124,9 @@ DecodedBetFile DecodeBetFile(const std::string& bytes) {
 }
 
 std::optional<std::vector<ScriptLine>> ReadAutoBetFile(Game& g, const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) {
-    ShowFileNameError(g);
-    return std::nullopt;
-  }
-  const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-  if (in.bad()) {
-    ShowFileNameError(g);
+  std::string bytes, reason;
+  if (!ReadRegularFile(path, kMaxScriptFileBytes, bytes, reason)) {
+    ShowFileError(g, path, reason);
     return std::nullopt;
   }
   DecodedBetFile file = DecodeBetFile(bytes);
@@ -140,15 +135,15 @@ std::optional<std::vector<ScriptLine>> ReadAutoBetFile(Game& g, const std::strin
       return std::move(file.Lines);
     case BetFileStatus::NotDicemill:
       ShowMessage(g, kOpenTitle,
-                  path + kBreak + "has either been corrupted or is not a true Dicemill Auto-Bet file.");
+                  PrintableName(path) + kBreak + "has either been corrupted or is not a true Dicemill Auto-Bet file.");
       break;
     case BetFileStatus::Newer:
-      ShowMessage(g, kOpenTitle, path + kBreak + "requires Dicemill version " + file.Version + " or later to run.");
+      ShowMessage(g, kOpenTitle, PrintableName(path) + kBreak + "requires Dicemill version " + file.Version + " or later to run.");
       break;
     case BetFileStatus::Sibling:  // its conversion is not offered: refused as an old format
     case BetFileStatus::Older:
       ShowMessage(g, kOpenTitle,
-                  path + kBreak + "has either been corrupted or was written with an older format which is no longer in use.");
+                  PrintableName(path) + kBreak + "has either been corrupted or was written with an older format which is no longer in use.");
       break;
   }
   return std::nullopt;
@@ -172,8 +167,9 @@ bool SaveAutoBetFile(Game& g, const std::string& path, bool selectedOnly) {
       return false;
     }
   }
-  if (!WriteFileAtomically(path, EncodeBetFile(g.AutoBet, selectedOnly))) {
-    ShowFileNameError(g);
+  std::string reason;
+  if (!WriteFileAtomically(path, EncodeBetFile(g.AutoBet, selectedOnly), reason)) {
+    ShowFileError(g, path, reason);
     return false;
   }
   if (!selectedOnly) {

@@ -97,9 +97,11 @@ TEST(HotKeysFile, MissingCorruptAndFailedFiles) {
 
   // A save that can't be written says so and leaves the old file whole.
   t.g.HotKeys = kKeys;
-  std::filesystem::create_directory(path.string() + ".tmp");
-  EXPECT_FALSE(SaveHotKeys(t.g));
-  EXPECT_EQ(t.ui.messages.back(), (RecordedMessage{"Error", FileNameErrorText()}));
+  {
+    const FileSizeLimitForTest fullDisk(10);
+    EXPECT_FALSE(SaveHotKeys(t.g));
+  }
+  EXPECT_EQ(t.ui.messages.back(), (RecordedMessage{"Error", FileErrorText(path, "could not be written: file too large")}));
   EXPECT_EQ(ReadBytes(path), "not a hot-key file");
 }
 

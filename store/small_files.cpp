@@ -22,10 +22,8 @@ bool WriteActiveScript(const Game& g) {
 
 std::optional<std::vector<ScriptLine>> ReadActiveScript(const Game& g) {
   if (g.DataFolder.empty()) return std::nullopt;
-  std::ifstream in(DataFile(g, kActiveScriptName), std::ios::binary);
-  if (!in) return std::nullopt;
-  const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-  if (in.bad()) return std::nullopt;
+  std::string bytes, reason;
+  if (!ReadRegularFile(DataFile(g, kActiveScriptName), kMaxScriptFileBytes, bytes, reason)) return std::nullopt;
   DecodedBetFile file = DecodeBetFile(bytes);
   if (file.Status != BetFileStatus::Ok) return std::nullopt;
   return std::move(file.Lines);
