@@ -18,6 +18,7 @@
 #include "engine/place_bet.h"
 #include "engine/roll.h"
 #include "engine/table_commands.h"
+#include "store/folder_lock.h"
 #include "store/save_prompts.h"
 
 struct PlaySession::Command {
@@ -100,7 +101,11 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
 }
 
 PlaySession::PlaySession(std::ostream& out, const PlayOptions& options)
-    : out_(out), ui_(out), game_(std::make_unique<Game>()), strict_(options.strict) {
+    : out_(out),
+      ui_(out),
+      game_(std::make_unique<Game>()),
+      folderLock_(std::make_unique<DataFolderLock>()),
+      strict_(options.strict) {
   game_->Ui = &ui_;
   Start(options);
   out_.flush();
@@ -111,7 +116,10 @@ PlaySession::~PlaySession() = default;
 void PlaySession::Start(const PlayOptions& options) {
   const auto folder = ChooseDataFolder(options.folder, [](const char* name) { return std::getenv(name); });
   std::string error;
-  if (!EnsureFolder(folder, error)) Error(error + "; the built-in defaults stand");
+  if (!EnsureFolder(folder, error))
+    Error(error + "; the built-in defaults stand");
+  else
+    ClaimDataFolder(*game_, *folderLock_, folder);
   StartUp(*game_, folder.string());
   if (!options.gameFile.empty()) RunLine("open \"" + options.gameFile + "\"");
 }

@@ -100,8 +100,8 @@ void LoadHotKeys(Game& g) {
 }
 
 bool SaveHotKeys(Game& g) {
-  std::string reason = "has no data folder";
-  if (g.DataFolder.empty() || !WriteFileAtomically(HotKeysPath(g), EncodeHotKeys(g.HotKeys), reason)) {
+  std::string reason = g.DataFolderInUse ? "is in use by another Dicemill" : "has no data folder";
+  if (g.DataFolder.empty() || g.DataFolderInUse || !WriteFileAtomically(HotKeysPath(g), EncodeHotKeys(g.HotKeys), reason)) {
     ShowFileError(g, HotKeysPath(g), reason);
     return false;
   }

@@ -14,7 +14,7 @@
 std::filesystem::path DataFile(const Game& g, const char* name) { return std::filesystem::path(g.DataFolder) / name; }
 
 bool WriteActiveScript(const Game& g) {
-  if (g.DataFolder.empty()) return false;
+  if (g.DataFolder.empty() || g.DataFolderInUse) return false;
   const auto& lines = g.AutoBet.Lines;
   if (!std::all_of(lines.begin(), lines.end(), [](const ScriptLine& l) { return FitsFileFields(l); })) return false;
   return WriteFileAtomically(DataFile(g, kActiveScriptName), EncodeBetFile(g.AutoBet, false));
@@ -49,7 +49,7 @@ void ScriptEditorClosed(Game& g, bool changed) {
 
 void RemoveWorkFiles(Game& g) {
   CloseRollFile(g);
-  if (g.DataFolder.empty()) return;
+  if (g.DataFolder.empty() || g.DataFolderInUse) return;
   std::error_code ignored;
   std::filesystem::remove(DataFile(g, kActiveScriptName), ignored);
   std::filesystem::remove(DataFile(g, kClipboardName), ignored);
