@@ -61,6 +61,10 @@ bool WriteRollFileSummary(const std::string& rolPath, std::ostream& out) {
 
 int RunDiceTool(const CLI::App& dice, const DiceToolOptions& o, std::ostream& out, std::ostream& err) {
   const std::string fileError = FileNameErrorText();
+  if (const std::string reason = NotARegularFileReason(o.from); !reason.empty()) {
+    err << PrintableName(o.from) << " " << reason << ".\n";
+    return 1;
+  }
   if (dice.got_subcommand("to-rol")) {
     const int64_t rolls = ConvertTextToRolls(o.from, o.to);
     if (rolls < 0) {

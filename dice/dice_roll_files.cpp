@@ -362,6 +362,7 @@ bool CopyToTextFile(Game& g, const std::string& path, const RollTextOptions& opt
 }
 
 int64_t ConvertTextToRolls(const std::string& textPath, const std::string& rolPath) {
+  if (!NotARegularFileReason(textPath).empty()) return -1;  // a pipe would hang, a device never end
   FilePtr in(std::fopen(textPath.c_str(), "rb"));
   if (!in) return -1;
   const std::string temp = TemporaryBeside(rolPath);
@@ -393,6 +394,7 @@ int64_t ConvertTextToRolls(const std::string& textPath, const std::string& rolPa
 
 int64_t WriteRollsAsText(const std::string& rolPath, int64_t first, int64_t count, int64_t firstNumber,
                          const RollTextOptions& options, const std::string& textPath, int64_t* badRoll) {
+  if (!NotARegularFileReason(rolPath).empty()) return -1;
   FilePtr in(std::fopen(rolPath.c_str(), "rb"));
   if (!in || std::fseek(in.get(), static_cast<long>(first - 1), SEEK_SET) != 0) return -1;
   const std::string temp = TemporaryBeside(textPath);

@@ -3,11 +3,15 @@
 #include <filesystem>
 #include <system_error>
 
+#include "store/file_read.h"
+
 bool DiceRollFile::Open(const std::string& path, bool create) {
   Close();
+  std::error_code ec;
+  // A pipe or a device would hang or never end: only regular files are used.
+  if (std::filesystem::exists(path, ec) && !NotARegularFileReason(path).empty()) return false;
   std::FILE* f = std::fopen(path.c_str(), "r+b");
   if (!f && create) {
-    std::error_code ec;
     if (!std::filesystem::exists(path, ec)) f = std::fopen(path.c_str(), "w+b");
   }
   if (!f) return false;
