@@ -1,9 +1,23 @@
 #include "store/dice_roll_file.h"
 
+#include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <system_error>
 
 #include "store/file_read.h"
+
+namespace {
+
+int64_t NowNs() {
+  return std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now().time_since_epoch())
+      .count();
+}
+
+constexpr int64_t kFlushEveryNs = 1'000'000'000;
+constexpr uint32_t kWritesPerClockRead = 256;
+
+}  // namespace
 
 bool DiceRollFile::Open(const std::string& path, bool create) {
   Close();
@@ -17,6 +31,8 @@ bool DiceRollFile::Open(const std::string& path, bool create) {
   if (!f) return false;
   file_ = f;
   path_ = path;
+  error_ = 0;
+  lastFlushNs_ = NowNs();
   offset_ = 0;
   writing_ = false;
   return true;
@@ -67,6 +83,7 @@ bool DiceRollFile::Write(int64_t rollNum, uint8_t value) {
   if (rollNum - 1 != offset_ && rollNum - 1 > Size()) return false;  // no holes
   if (!SeekTo(rollNum - 1, true)) return false;
   if (std::putc(value, file_) == EOF) {
+    error_ = errno;
     offset_ = -1;
     return false;
   }
@@ -88,6 +105,7 @@ size_t DiceRollFile::ReadBlock(int64_t rollNum, uint8_t* into, size_t count) {
 bool DiceRollFile::WriteBlock(int64_t rollNum, const uint8_t* from, size_t count) {
   if (!file_ || rollNum < 1 || !SeekTo(rollNum - 1, true)) return false;
   if (std::fwrite(from, 1, count, file_) != count) {
+    error_ = errno;
     offset_ = -1;
     return false;
   }
@@ -95,7 +113,22 @@ bool DiceRollFile::WriteBlock(int64_t rollNum, const uint8_t* from, size_t count
   return true;
 }
 
-bool DiceRollFile::Flush() { return file_ && std::fflush(file_) == 0; }
+bool DiceRollFile::Flush() {
+  if (!file_) return false;
+  lastFlushNs_ = NowNs();
+  writesSinceClock_ = 0;
+  if (std::fflush(file_) == 0) return true;
+  error_ = errno;
+  offset_ = -1;
+  return false;
+}
+
+bool DiceRollFile::FlushIfDue() {
+  if (++writesSinceClock_ < kWritesPerClockRead && lastFlushNs_ != 0) return true;
+  writesSinceClock_ = 0;
+  if (NowNs() - lastFlushNs_ < kFlushEveryNs) return true;
+  return Flush();
+}
 
 bool DiceRollFile::Truncate(int64_t rolls) {
   if (!file_) return false;
