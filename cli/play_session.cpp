@@ -8,6 +8,7 @@
 #include "cli/command_error.h"
 #include "cli/command_words.h"
 #include "cli/data_folder.h"
+#include "cli/interrupt.h"
 #include "cli/json_lines.h"
 #include "cli/settings_registry.h"
 #include "cli/table_state_json.h"
@@ -107,6 +108,7 @@ PlaySession::PlaySession(std::ostream& out, const PlayOptions& options)
       folderLock_(std::make_unique<DataFolderLock>()),
       strict_(options.strict) {
   game_->Ui = &ui_;
+  ui_.StopWhen(game_.get(), Interrupted);
   Start(options);
   out_.flush();
 }
@@ -141,6 +143,7 @@ bool PlaySession::RunLine(const std::string& line) {
       if (verb == c.word) command = &c;
     if (!command) throw CommandError("unknown command '" + words[0] + "'");
     const Args args(words.begin() + 1, words.end());
+    const InterruptWhileRunning interrupt;
     try {
       if (args.size() < command->minArgs || args.size() > command->maxArgs)
         throw CommandError(std::string("expected: ") + command->usage);

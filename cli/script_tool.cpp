@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "script/checker.h"
+#include "script/loop_check.h"
 #include "script/text_form.h"
 #include "store/script_file.h"
 
@@ -27,6 +28,11 @@ int Check(const Script& script, std::ostream& out) {
   const std::optional<ScriptFault> fault = CheckScript(script);
   if (!fault) {
     out << "Your script is properly structured.\n";
+    // A warning, not a fault: the run ends such a pass by itself.
+    if (const std::optional<ScriptFault> loop = FindEndlessLoop(script))
+      out << "warning: line " << loop->Line << ": " << loop->Title << "\n"
+          << "  " << Trimmed(LineToText(script.Line(loop->Line))) << "\n"
+          << WithLineEnds(loop->Text) << "\n";
     return 0;
   }
   out << "line " << fault->Line << ": " << fault->Title << "\n"

@@ -35,7 +35,10 @@ class RunnerFrontEnd : public SilentFrontEnd {
   void LetInputRun() override {
     if (series_ && game_.RollCounts[0] >= static_cast<int64_t>(series_->size())) series_->push_back(game_.Bankroll());
     if (++calls_ % kPublishEvery == 0) Publish();
-    if (control_.Stop.load(std::memory_order_relaxed)) game_.KeepRolling = false;
+    if (control_.Stop.load(std::memory_order_relaxed)) {
+      game_.KeepRolling = false;
+      game_.AutoBetRunning = false;  // a script pass that loops stops too
+    }
   }
   void RollFinished(const std::string& reason) override { stopReason_ = reason; }
 
