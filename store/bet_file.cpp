@@ -117,8 +117,13 @@ DecodedBetFile DecodeBetFile(const std::string& bytes) {
   if (count < 0 || count % Currency::kScale != 0 ||
       count / Currency::kScale > static_cast<int64_t>(bytes.size() / kBetRecordBytes) - 1)
     return file;
-  for (int64_t n = 1; n <= count / Currency::kScale; ++n)
+  for (int64_t n = 1; n <= count / Currency::kScale; ++n) {
     file.Lines.push_back(ReadRecord(bytes, static_cast<size_t>(n) * kBetRecordBytes));
+    if (!AmountInRange(file.Lines.back())) {
+      file.Lines.clear();
+      return file;
+    }
+  }
   file.Status = BetFileStatus::Ok;
   return file;
 }
