@@ -92,7 +92,7 @@ TEST(DiceFileCommands, AFullDiskStopsTheRecorderAndSaysHowFarTheFileHolds) {
 TEST(DiceFileCommands, AKilledRecordingKeepsAllButTheLastSecond) {
   TempFolder work;
   const auto rol = work.path() / "rec.rol";
-  const std::string command = "cd '" + work.path().string() + "' && (printf 'dicefile open rec.rol\\ndicefile status record\\nhyper 100000000\\n' | timeout -s KILL 2.5 '" DICEMILL_CLI_PATH "' play --folder . > /dev/null 2>&1)";
+  const std::string command = "cd '" + work.path().string() + "' && { (printf 'dicefile open rec.rol\\ndicefile status record\\nhyper 100000000\\n' | timeout -s KILL 2.5 '" DICEMILL_CLI_PATH "' play --folder . > /dev/null 2>&1); } 2> /dev/null";
   std::system(command.c_str());
   ASSERT_TRUE(std::filesystem::exists(rol));
   EXPECT_GT(std::filesystem::file_size(rol), 10'000u);
