@@ -66,6 +66,10 @@ bool WriteRollFileSummary(const std::string& rolPath, std::ostream& out, int64_t
 
 int RunDiceTool(const CLI::App& dice, const DiceToolOptions& o, std::ostream& out, std::ostream& err) {
   const std::string fileError = "dicemill-cli dice: " + FileProblem(o.from, FileNameErrorText());
+  if (const std::string reason = NotARegularFileReason(o.from); !reason.empty()) {
+    err << "dicemill-cli dice: " << PrintableName(o.from) << " " << reason << ".\n";
+    return kExitUsage;
+  }
   if (dice.got_subcommand("to-rol")) {
     std::string error;
     const int64_t rolls = ConvertRollText(o.from, o.to, error);

@@ -13,6 +13,8 @@
 #include "cli/session_for_test.h"
 #include "dice/dice_roll_files.h"
 #include "engine/game.h"
+#include "store/file_bytes_for_test.h"
+#include "test_paths.h"
 
 TEST(DiceFileCommands, RecordEditAndPlayBackThroughTheSession) {
   Session s;
@@ -86,5 +88,37 @@ TEST(DiceTool, TextToRollsStrictlyAndASummary) {
   EXPECT_NE(r.out.find("out of limits. Roll #2 of bad.rol is the byte 255"), std::string::npos) << r.out;
   r = Cli(work, "dice info none.rol");
   EXPECT_EQ(r.status, 2);
-  EXPECT_NE(r.err.find("none.rol: File name error"), std::string::npos) << r.err;
+  EXPECT_NE(r.err.find("none.rol was not found."), std::string::npos) << r.err;
 }
+
+namespace {
+
+TEST(DiceFileCommands, AFullDiskStopsTheRecorderAndSaysHowFarTheFileHolds) {
+  Session s;
+  const std::string rol = s.Path("full.rol");
+  s.Run("dicefile open \"" + rol + "\"\ndicefile status record");
+  std::vector<Json> printed;
+  {
+    const FileSizeLimitForTest fullDisk(3000);
+    printed = s.Run("hyper 20000");
+  }
+  std::string text;
+  for (const Json& o : printed)
+    if (o.contains("message") && o["message"]["title"] == "Dice Roll File Error") text = o["message"]["text"];
+  EXPECT_EQ(text, rol + " could not be written: file too large.\rRecording has stopped. The last roll kept is #3,000.");
+  EXPECT_EQ(s.Only("dicefile info", "dicefile")["status"], "off");
+  EXPECT_EQ(std::filesystem::file_size(rol), 3000u);
+}
+
+// A run killed while recording has its rolls on the disk up to a second
+// before the kill.
+TEST(DiceFileCommands, AKilledRecordingKeepsAllButTheLastSecond) {
+  TempFolder work;
+  const auto rol = work.path() / "rec.rol";
+  const std::string command = "cd '" + work.path().string() + "' && { (printf 'dicefile open rec.rol\\ndicefile status record\\nhyper 100000000\\n' | timeout -s KILL 2.5 '" DICEMILL_CLI_PATH "' play --folder . > /dev/null 2>&1); } 2> /dev/null";
+  std::system(command.c_str());
+  ASSERT_TRUE(std::filesystem::exists(rol));
+  EXPECT_GT(std::filesystem::file_size(rol), 10'000u);
+}
+
+}  // namespace

@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "cli/json_lines.h"
+#include "engine/game.h"
 
 namespace {
 
@@ -120,4 +121,10 @@ std::optional<std::string> HeadlessFrontEnd::AskFileName(const std::string& titl
   }
   WriteMessage(out_, title, pattern, path ? *path : "cancel");
   return path;
+}
+
+void HeadlessFrontEnd::LetInputRun() {
+  if (!stop_ || !game_ || !stop_()) return;
+  game_->KeepRolling = false;
+  game_->AutoBetRunning = false;
 }

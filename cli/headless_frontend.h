@@ -9,6 +9,8 @@
 
 #include "engine/frontend.h"
 
+struct Game;
+
 class HeadlessFrontEnd : public FrontEnd {
  public:
   explicit HeadlessFrontEnd(std::ostream& out) : out_(out) {}
@@ -36,6 +38,13 @@ class HeadlessFrontEnd : public FrontEnd {
   // The file dialog is a message whose reply is the path of a queued
   // "file:PATH", or "cancel" for anything else.
   std::optional<std::string> AskFileName(const std::string& title, const std::string& pattern) override;
+  // A roll or script pass under way stops at its next chance once `stop`
+  // says so (Ctrl-C while a command runs).
+  void StopWhen(Game* g, bool (*stop)()) {
+    game_ = g;
+    stop_ = stop;
+  }
+  void LetInputRun() override;
 
  private:
   // The next queued reply; every dialog that asks consumes one, fitting or not.
@@ -44,4 +53,6 @@ class HeadlessFrontEnd : public FrontEnd {
   std::ostream& out_;
   std::deque<std::string> answers_;
   std::string stopReason_;
+  Game* game_ = nullptr;
+  bool (*stop_)() = nullptr;
 };

@@ -8,6 +8,7 @@
 #include "cli/command_error.h"
 #include "cli/command_words.h"
 #include "cli/data_folder.h"
+#include "cli/interrupt.h"
 #include "cli/json_lines.h"
 #include "cli/settings_registry.h"
 #include "cli/table_state_json.h"
@@ -18,6 +19,7 @@
 #include "engine/place_bet.h"
 #include "engine/roll.h"
 #include "engine/table_commands.h"
+#include "store/folder_lock.h"
 #include "store/save_prompts.h"
 
 struct PlaySession::Command {
@@ -100,8 +102,13 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
 }
 
 PlaySession::PlaySession(std::ostream& out, const PlayOptions& options)
-    : out_(out), ui_(out), game_(std::make_unique<Game>()), strict_(options.strict) {
+    : out_(out),
+      ui_(out),
+      game_(std::make_unique<Game>()),
+      folderLock_(std::make_unique<DataFolderLock>()),
+      strict_(options.strict) {
   game_->Ui = &ui_;
+  ui_.StopWhen(game_.get(), Interrupted);
   Start(options);
   out_.flush();
 }
@@ -111,7 +118,10 @@ PlaySession::~PlaySession() = default;
 void PlaySession::Start(const PlayOptions& options) {
   const auto folder = ChooseDataFolder(options.folder, [](const char* name) { return std::getenv(name); });
   std::string error;
-  if (!EnsureFolder(folder, error)) Error(error + "; the built-in defaults stand");
+  if (!EnsureFolder(folder, error))
+    Error(error + "; the built-in defaults stand");
+  else
+    ClaimDataFolder(*game_, *folderLock_, folder);
   StartUp(*game_, folder.string());
   if (!options.gameFile.empty()) RunLine("open \"" + options.gameFile + "\"");
 }
@@ -133,6 +143,7 @@ bool PlaySession::RunLine(const std::string& line) {
       if (verb == c.word) command = &c;
     if (!command) throw CommandError("unknown command '" + words[0] + "'");
     const Args args(words.begin() + 1, words.end());
+    const InterruptWhileRunning interrupt;
     try {
       if (args.size() < command->minArgs || args.size() > command->maxArgs)
         throw CommandError(std::string("expected: ") + command->usage);

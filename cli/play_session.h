@@ -12,6 +12,7 @@
 #include "cli/headless_frontend.h"
 
 struct Game;
+class DataFolderLock;
 
 struct PlayOptions {
   std::string folder;    // empty: chosen from the environment
@@ -95,6 +96,7 @@ class PlaySession {
   std::ostream& out_;
   HeadlessFrontEnd ui_;
   std::unique_ptr<Game> game_;
+  std::unique_ptr<DataFolderLock> folderLock_;  // held from the start to the end of the session
   bool strict_ = false;
   bool failed_ = false;
   bool quit_ = false;

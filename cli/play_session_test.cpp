@@ -85,7 +85,8 @@ TEST(PlaySession, BlankLinesCommentsCaseQuitAndStrict) {
   EXPECT_TRUE(strict.Run("state").empty());
   std::istringstream in("state\nbogus\nstate\n");
   std::ostringstream out;
-  EXPECT_EQ(RunPlay(in, out, PlayOptions{s.folder.path().string(), "", true}), 2);
+  TempFolder own;  // s still holds its folder
+  EXPECT_EQ(RunPlay(in, out, PlayOptions{own.path().string(), "", true}), 2);
   const std::string printed = out.str();
   EXPECT_EQ(std::count(printed.begin(), printed.end(), '\n'), 2);  // state, error; the last state never ran
 

@@ -9,6 +9,7 @@
 #include "cli/script_words.h"
 #include "cli/terminal_text.h"
 #include "script/checker.h"
+#include "script/loop_check.h"
 #include "script/text_form.h"
 #include "store/script_file.h"
 
@@ -24,6 +25,9 @@ int Check(const std::string& path, const Script& script, std::ostream& out) {
   const std::optional<ScriptFault> fault = CheckScript(script);
   if (!fault) {
     out << "Your script is properly structured.\n";
+    // A warning, not a fault: the run ends such a pass by itself.
+    if (const std::optional<ScriptFault> loop = FindEndlessLoop(script))
+      out << "warning: " << ScriptFaultText(path, script, *loop) << "\n";
     return 0;
   }
   out << ScriptFaultText(path, script, *fault) << "\n";

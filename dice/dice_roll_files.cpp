@@ -135,9 +135,38 @@ FileRoll NextRollFromFile(Game& g) {
   return FileRoll::Rolled;
 }
 
+namespace {
+
+// A roll that could not be written: recording stops, and the player is told
+// which file failed, why, and how far it holds.
+void StopRecordingAfterFailure(Game& g) {
+  DiceFileState& d = g.DiceFile;
+  const int error = d.File.LastError();
+  const std::string path = d.File.Path();
+  d.File.Close();  // what the stream still held is lost with it, as on the disk
+  d.File.Open(path, false);
+  const int64_t kept = d.File.Size();
+  d.NextRollNum = static_cast<int32_t>(std::min<int64_t>(d.NextRollNum, kept + 1));
+  d.LastRollNum = static_cast<int32_t>(kept);
+  d.SelectAnchor = d.NextRollNum;
+  g.DiceFileMode = kRecorderOff;
+  g.KeepRolling = false;
+  g.TableDirty = true;
+  ShowMessage(g, "Dice Roll File Error",
+              PrintableName(path) + " could not be written: " + (error ? ErrnoReason(error) : "write error") + "." +
+                  kBreak + "Recording has stopped. " +
+                  (kept > 0 ? "The last roll kept is #" + FormatWithCommas(kept) + "." : "No roll was kept."));
+  g.Ui->RefreshTable();
+}
+
+}  // namespace
+
 void RecordRoll(Game& g, int die1, int die2) {
   DiceFileState& d = g.DiceFile;
-  if (!d.File.Write(d.NextRollNum, RollByte(die1, die2))) return;
+  // Outside Hyper-Drive every roll goes to the disk at once; in it, once a second.
+  const bool written = d.File.Write(d.NextRollNum, RollByte(die1, die2)) &&
+                       (g.HyperDriveOn ? d.File.FlushIfDue() : d.File.Flush());
+  if (!written) return StopRecordingAfterFailure(g);
   MoveForward(g);
 }
 
@@ -362,6 +391,7 @@ bool CopyToTextFile(Game& g, const std::string& path, const RollTextOptions& opt
 }
 
 int64_t ConvertTextToRolls(const std::string& textPath, const std::string& rolPath) {
+  if (!NotARegularFileReason(textPath).empty()) return -1;  // a pipe would hang, a device never end
   FilePtr in(std::fopen(textPath.c_str(), "rb"));
   if (!in) return -1;
   const std::string temp = TemporaryBeside(rolPath);
@@ -393,6 +423,7 @@ int64_t ConvertTextToRolls(const std::string& textPath, const std::string& rolPa
 
 int64_t WriteRollsAsText(const std::string& rolPath, int64_t first, int64_t count, int64_t firstNumber,
                          const RollTextOptions& options, const std::string& textPath, int64_t* badRoll) {
+  if (!NotARegularFileReason(rolPath).empty()) return -1;
   FilePtr in(std::fopen(rolPath.c_str(), "rb"));
   if (!in || std::fseek(in.get(), static_cast<long>(first - 1), SEEK_SET) != 0) return -1;
   const std::string temp = TemporaryBeside(textPath);

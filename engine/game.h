@@ -235,6 +235,9 @@ struct Game {
 
   // --- Files ----------------------------------------------------------------
   std::string DataFolder;  // where "default.crp" and the other files live
+  // Another Dicemill has the data folder: its files are read but never
+  // written or removed by this one.
+  bool DataFolderInUse = false;
 
   // --- Unsaved work, game file, Hot-Keys and sound sets ---------------------
   // GameChanged (above) and ProbModified are the game's and the probability

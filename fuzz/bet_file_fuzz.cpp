@@ -1,4 +1,4 @@
-// libFuzzer target: the bet file reader.
+// libFuzzer target: the bet file reader, and the script it holds played for a few rolls.
 #include <cstddef>
 #include <cstdint>
 
@@ -6,5 +6,6 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   fuzz::BetFile(std::string(reinterpret_cast<const char*>(data), size));
+  fuzz::BetFileAndPlay(std::string(reinterpret_cast<const char*>(data), size));
   return 0;
 }

@@ -16,6 +16,7 @@
 #include "engine/new_game.h"
 #include "engine/roll.h"
 #include "script/text_form.h"
+#include "stats/games_log.h"
 #include "store/bet_file.h"
 #include "store/game_file.h"
 #include "store/prob_file.h"
@@ -58,6 +59,54 @@ inline void ScriptText(const std::string& bytes) {
   Script script;
   std::string error;
   if (ReadScriptText(bytes, script, error)) (void)ScriptToText(script);
+}
+
+// A script played for a few rolls in Hyper-Drive: the money arithmetic of
+// every verb on whatever amounts a file holds, and loops cut short by the
+// pass limit. Scripts that name files are left out: they would write there.
+inline void PlayScript(const Script& script) {
+  constexpr int kFileVerbs[] = {97, 99, 113};
+  for (const ScriptLine& line : script.Lines)
+    for (int code : kFileVerbs)
+      if (line.Kind == line_kind::kAction && line.Code == code) return;
+  Game g;
+  FillDefaults(g);
+  NewGame(g, false);
+  g.AutoBet = script;
+  RebuildFlags(g.AutoBet);
+  g.AutoBetActivated = true;
+  g.HyperDriveOn = true;
+  for (int i = 0; i < 3; ++i) {
+    g.KeepRolling = false;
+    RollDice(g);
+  }
+}
+
+inline void BetFileAndPlay(const std::string& bytes) {
+  const DecodedBetFile decoded = DecodeBetFile(bytes);
+  if (decoded.Status != BetFileStatus::Ok) return;
+  Script script;
+  script.Lines = decoded.Lines;
+  PlayScript(script);
+}
+
+inline void ScriptTextAndPlay(const std::string& bytes) {
+  Script script;
+  std::string error;
+  if (ReadScriptText(bytes, script, error)) PlayScript(script);
+}
+
+// A games log and the statistics of every measure over it.
+inline void GamesLog(const std::string& bytes) {
+  std::vector<GameLogRecord> games;
+  if (!DecodeGamesFile(bytes, games)) return;
+  for (int measure = 0; measure < logfield::kMeasures; ++measure) {
+    GamesView view;
+    view.Measure = measure;
+    GamesStatistics stats;
+    std::string error;
+    (void)UpdateGamesPlayed(games, view, stats, error);
+  }
 }
 
 // A Dice Roll File played back to its end (or its first bad byte).

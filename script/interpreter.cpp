@@ -1,9 +1,11 @@
 #include "script/interpreter.h"
 
+#include <algorithm>
 #include <charconv>
 #include <exception>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "engine/notices.h"
 #include "script/actions.h"
@@ -16,6 +18,12 @@ namespace {
 using namespace line_kind;
 
 constexpr int kYieldEvery = 500;
+// The last lines of a pass that ran too long: those that show the loop.
+constexpr int64_t kLoopSample = 20'000;
+// GoSubs nested this deep (some thousand) never come back: such a pass is
+// looping, and goes straight to its last stretch rather than growing its
+// return stack for a million lines.
+constexpr size_t kDeepestReturnStack = 8192;
 constexpr double kPassPause = 0.3;  // seconds a visible pass lasts at least
 
 // Status texts of the steps viewer.
@@ -75,6 +83,10 @@ class Pass {
 
   void RunLines() {
     for (s_.CurrentLine = 1; s_.CurrentLine <= script().NumLines(); ++s_.CurrentLine) {
+      if (++linesRun_ > kMostLinesPerPass - kLoopSample) {
+        if (linesRun_ > kMostLinesPerPass) return AbortLoop();
+        looping_.resize(static_cast<size_t>(script().NumLines()) + 1);
+      }
       if (++s_.LineCounter >= kYieldEvery) {
         // The only guard against a script that loops: a stop command clears
         // AutoBetRunning while queued input runs.
@@ -85,15 +97,20 @@ class Pass {
       }
       const ScriptLine& line = script().Line(s_.CurrentLine);
       if (line.Kind == kComment) continue;
-      if (!s_.JumpLabel.empty()) {
-        if (line.Kind == kLabel && LabelMatches(line.Name, s_.JumpLabel)) StartLogic(line, kLabel);
+      if (!s_.JumpLabel.empty()) {  // passing over lines to a label is not running them
+        if (line.Kind == kLabel && LabelMatches(line.Name, s_.JumpLabel)) {
+          NoteLoopLine();
+          StartLogic(line, kLabel);
+        }
         continue;
       }
+      NoteLoopLine();
       if (s_.ReturnPending) {
         ReturnToGoSub();
         continue;
       }
       RunLine(line);
+      if (s_.ReturnStack.size() > kDeepestReturnStack) linesRun_ = std::max(linesRun_, kMostLinesPerPass - kLoopSample);
       // A jump scans from the top for its label; a Return passes through the
       // top to reach its GoSub.
       if (!s_.JumpLabel.empty() || s_.ReturnPending) s_.CurrentLine = 0;
@@ -312,12 +329,48 @@ class Pass {
     g_.KeepRolling = false;
   }
 
+  void NoteLoopLine() {
+    if (!looping_.empty() && s_.CurrentLine < static_cast<int>(looping_.size()))
+      looping_[static_cast<size_t>(s_.CurrentLine)] = true;
+  }
+
+  void AbortLoop() {
+    std::vector<int> lines;
+    for (size_t n = 1; n < looping_.size(); ++n)
+      if (looping_[n]) lines.push_back(static_cast<int>(n));
+    s_.CurrentLine = lines.empty() ? 0 : lines.back();
+    const std::string text = "The following error has caused Auto-Betting to abort at line #" +
+                             std::to_string(s_.CurrentLine) + ":" + kTwoBreaks + "This pass ran more than " +
+                             FormatWithCommas(kMostLinesPerPass) + " lines without ending: it keeps running " +
+                             LineListText(lines) + "." + kTwoBreaks + "Press help for more information.";
+    if (g_.HyperDriveOn) g_.StopReason = "Auto-Bet error.";
+    ShowMessage(g_, "Auto-Bet Abort", text);
+    g_.KeepRolling = false;
+    g_.AutoBetRunning = false;
+  }
+
   Game& g_;
   PassState s_;
   const bool steps_;
+  int64_t linesRun_ = 0;
+  std::vector<bool> looping_;  // lines run in the last stretch of a pass that runs too long
 };
 
 }  // namespace
+
+std::string LineListText(const std::vector<int>& lines) {
+  std::vector<std::string> runs;
+  for (size_t i = 0; i < lines.size();) {
+    size_t j = i;
+    while (j + 1 < lines.size() && lines[j + 1] == lines[j] + 1) ++j;
+    runs.push_back(std::to_string(lines[i]) + (j > i ? " to " + std::to_string(lines[j]) : ""));
+    i = j + 1;
+  }
+  std::string text = lines.size() == 1 ? "line " : "lines ";
+  for (size_t i = 0; i < runs.size(); ++i)
+    text += (i == 0 ? "" : i + 1 == runs.size() ? " and " : ", ") + runs[i];
+  return text;
+}
 
 void RunAutoBet(Game& g) {
   if (g.AutoBet.NumLines() == 0) return;  // an empty script is never run

@@ -2,9 +2,21 @@
 // One pass over the Auto-Bet script, and the snapshots that the next pass
 // compares with.
 
+#include <cstdint>
+#include <string>
+#include <vector>
+
 #include "engine/game.h"
 
+// The most lines one pass may run. A pass that runs more loops without end
+// (Go to or GoSub cycles) and is ended with "Auto-Bet Abort", naming the
+// lines it kept running; no script that ends needs a thousandth of it.
+constexpr int64_t kMostLinesPerPass = 1'000'000;
+
 void RunAutoBet(Game& g);
+
+// Line numbers in rising order as a phrase: "lines 3 to 5, 9 and 12".
+std::string LineListText(const std::vector<int>& lines);
 
 // Copies what the next pass sees as "previous": the table of amounts after
 // the roll, every flag's value and the roll count.

@@ -49,6 +49,15 @@ struct ScriptLine {
   bool operator==(const ScriptLine&) const = default;
 };
 
+// The largest amount a line may hold, either sign: far above any bet, seed
+// or count, and far enough below the ends of Currency that the verbs'
+// arithmetic on it can never overflow. A file whose line holds more is
+// damaged.
+constexpr Currency kMostLineAmount = Currency::FromRaw(1'000'000'000'000 * Currency::kScale);
+constexpr bool AmountInRange(const ScriptLine& l) {
+  return l.LineAmount.raw >= -kMostLineAmount.raw && l.LineAmount.raw <= kMostLineAmount.raw;
+}
+
 // The file keeps Kind, SubjectNum, Spare1, TargetNum and Spare2 in 16 bits;
 // a line whose numbers do not fit is refused when it is built.
 constexpr bool FitsSixteenBits(int32_t v) { return v >= INT16_MIN && v <= INT16_MAX; }

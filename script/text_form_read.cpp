@@ -274,6 +274,9 @@ bool ReadScriptText(const std::string& text, std::vector<ScriptLine>& lines, std
     if (first == std::string::npos || line[first] == '#') continue;
     try {
       read.push_back(ParseTextLine(line));
+      if (!AmountInRange(read.back()))
+        throw TextFormError{0, "", "", "the amount is beyond the largest a line may hold ($" +
+                                           FormatNumberWithCommas(kMostLineAmount) + ")"};
     } catch (const TextFormError& e) {
       error = "line " + std::to_string(number);
       if (!e.Message.empty())

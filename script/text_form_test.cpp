@@ -116,10 +116,10 @@ TEST(ScriptTextForm, OddFieldsTravelInBraces) {
   ScriptLine unknownKind = Line(9, 4, 5, 6, 7, "y");
   ScriptLine allZero;
   ScriptLine extremes = Line(kCondition, 11, 1400, 0, 0);
-  extremes.LineAmount = Currency::FromRaw(INT64_MIN);
+  extremes.LineAmount = -kMostLineAmount;
   extremes.Text = "";
   ScriptLine maxAmount = Line(kAction, 93, 0, 0, 0);
-  maxAmount.LineAmount = Currency::FromRaw(INT64_MAX);
+  maxAmount.LineAmount = kMostLineAmount;
   maxAmount.Text = RenderedText(maxAmount);
   ScriptLine flagValue = Line(kCondition, 0, 1500, 0, 5, "odd");  // neither True nor False
   ScriptLine control = Line(kAction, 79, 0, 0, 0, std::string("tab\there, bell\a, \\ and \"") + char(200));

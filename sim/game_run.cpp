@@ -44,7 +44,10 @@ class RunnerFrontEnd : public SilentFrontEnd {
       ruinHeld_ = game_.Bankroll() + game_.TotalOnTable;
       game_.KeepRolling = false;
     }
-    if (control_.Stop.load(std::memory_order_relaxed)) game_.KeepRolling = false;
+    if (control_.Stop.load(std::memory_order_relaxed)) {
+      game_.KeepRolling = false;
+      game_.AutoBetRunning = false;  // a script pass that loops stops too
+    }
   }
   void RollFinished(const std::string& reason) override { stopReason_ = reason; }
 

@@ -117,21 +117,21 @@ DecodedBetFile DecodeBetFile(const std::string& bytes) {
   if (count < 0 || count % Currency::kScale != 0 ||
       count / Currency::kScale > static_cast<int64_t>(bytes.size() / kBetRecordBytes) - 1)
     return file;
-  for (int64_t n = 1; n <= count / Currency::kScale; ++n)
+  for (int64_t n = 1; n <= count / Currency::kScale; ++n) {
     file.Lines.push_back(ReadRecord(bytes, static_cast<size_t>(n) * kBetRecordBytes));
+    if (!AmountInRange(file.Lines.back())) {
+      file.Lines.clear();
+      return file;
+    }
+  }
   file.Status = BetFileStatus::Ok;
   return file;
 }
 
 std::optional<std::vector<ScriptLine>> ReadAutoBetFile(Game& g, const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) {
-    ShowFileNameError(g);
-    return std::nullopt;
-  }
-  const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-  if (in.bad()) {
-    ShowFileNameError(g);
+  std::string bytes, reason;
+  if (!ReadRegularFile(path, kMaxScriptFileBytes, bytes, reason)) {
+    ShowFileError(g, path, reason);
     return std::nullopt;
   }
   DecodedBetFile file = DecodeBetFile(bytes);
@@ -140,15 +140,15 @@ std::optional<std::vector<ScriptLine>> ReadAutoBetFile(Game& g, const std::strin
       return std::move(file.Lines);
     case BetFileStatus::NotDicemill:
       ShowMessage(g, kOpenTitle,
-                  path + kBreak + "has either been corrupted or is not a true Dicemill Auto-Bet file.");
+                  PrintableName(path) + kBreak + "has either been corrupted or is not a true Dicemill Auto-Bet file.");
       break;
     case BetFileStatus::Newer:
-      ShowMessage(g, kOpenTitle, path + kBreak + "requires Dicemill version " + file.Version + " or later to run.");
+      ShowMessage(g, kOpenTitle, PrintableName(path) + kBreak + "requires Dicemill version " + file.Version + " or later to run.");
       break;
     case BetFileStatus::Sibling:  // its conversion is not offered: refused as an old format
     case BetFileStatus::Older:
       ShowMessage(g, kOpenTitle,
-                  path + kBreak + "has either been corrupted or was written with an older format which is no longer in use.");
+                  PrintableName(path) + kBreak + "has either been corrupted or was written with an older format which is no longer in use.");
       break;
   }
   return std::nullopt;
@@ -172,8 +172,9 @@ bool SaveAutoBetFile(Game& g, const std::string& path, bool selectedOnly) {
       return false;
     }
   }
-  if (!WriteFileAtomically(path, EncodeBetFile(g.AutoBet, selectedOnly))) {
-    ShowFileNameError(g);
+  std::string reason;
+  if (!WriteFileAtomically(path, EncodeBetFile(g.AutoBet, selectedOnly), reason)) {
+    ShowFileError(g, path, reason);
     return false;
   }
   if (!selectedOnly) {

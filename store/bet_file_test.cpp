@@ -97,11 +97,11 @@ TEST(BetFile, RefusalsLeaveTheScriptAsItWas) {
     EXPECT_EQ(t.Last(), (RecordedMessage{title, path + "\r" + text}));
     EXPECT_EQ(t.g.AutoBet.Lines, Sample().Lines);
   }
-  const RecordedMessage fileError{"Error", "File name error, file not found, or device error.\rCheck path and file name."};
+  const std::string fileError = ".\rFile name error, file not found, or device error.\rCheck path and file name.";
   EXPECT_FALSE(OpenAutoBetFile(t.g, (folder.path() / "missing.bet").string()));
-  EXPECT_EQ(t.Last(), fileError);
+  EXPECT_EQ(t.Last(), (RecordedMessage{"Error", (folder.path() / "missing.bet").string() + " was not found" + fileError}));
   EXPECT_FALSE(SaveAutoBetFile(t.g, folder.path().string()));
-  EXPECT_EQ(t.Last(), fileError);
+  EXPECT_EQ(t.Last(), (RecordedMessage{"Error", folder.path().string() + " is a directory" + fileError}));
   // A number past 16 bits is never narrowed into the file.
   t.g.AutoBet.Lines[0].TargetNum = 40000;
   EXPECT_FALSE(SaveAutoBetFile(t.g, path));

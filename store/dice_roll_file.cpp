@@ -1,18 +1,38 @@
 #include "store/dice_roll_file.h"
 
+#include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <system_error>
 
+#include "store/file_read.h"
+
+namespace {
+
+int64_t NowNs() {
+  return std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now().time_since_epoch())
+      .count();
+}
+
+constexpr int64_t kFlushEveryNs = 1'000'000'000;
+constexpr uint32_t kWritesPerClockRead = 256;
+
+}  // namespace
+
 bool DiceRollFile::Open(const std::string& path, bool create) {
   Close();
+  std::error_code ec;
+  // A pipe or a device would hang or never end: only regular files are used.
+  if (std::filesystem::exists(path, ec) && !NotARegularFileReason(path).empty()) return false;
   std::FILE* f = std::fopen(path.c_str(), "r+b");
   if (!f && create) {
-    std::error_code ec;
     if (!std::filesystem::exists(path, ec)) f = std::fopen(path.c_str(), "w+b");
   }
   if (!f) return false;
   file_ = f;
   path_ = path;
+  error_ = 0;
+  lastFlushNs_ = NowNs();
   offset_ = 0;
   writing_ = false;
   return true;
@@ -63,6 +83,7 @@ bool DiceRollFile::Write(int64_t rollNum, uint8_t value) {
   if (rollNum - 1 != offset_ && rollNum - 1 > Size()) return false;  // no holes
   if (!SeekTo(rollNum - 1, true)) return false;
   if (std::putc(value, file_) == EOF) {
+    error_ = errno;
     offset_ = -1;
     return false;
   }
@@ -84,6 +105,7 @@ size_t DiceRollFile::ReadBlock(int64_t rollNum, uint8_t* into, size_t count) {
 bool DiceRollFile::WriteBlock(int64_t rollNum, const uint8_t* from, size_t count) {
   if (!file_ || rollNum < 1 || !SeekTo(rollNum - 1, true)) return false;
   if (std::fwrite(from, 1, count, file_) != count) {
+    error_ = errno;
     offset_ = -1;
     return false;
   }
@@ -91,7 +113,22 @@ bool DiceRollFile::WriteBlock(int64_t rollNum, const uint8_t* from, size_t count
   return true;
 }
 
-bool DiceRollFile::Flush() { return file_ && std::fflush(file_) == 0; }
+bool DiceRollFile::Flush() {
+  if (!file_) return false;
+  lastFlushNs_ = NowNs();
+  writesSinceClock_ = 0;
+  if (std::fflush(file_) == 0) return true;
+  error_ = errno;
+  offset_ = -1;
+  return false;
+}
+
+bool DiceRollFile::FlushIfDue() {
+  if (++writesSinceClock_ < kWritesPerClockRead && lastFlushNs_ != 0) return true;
+  writesSinceClock_ = 0;
+  if (NowNs() - lastFlushNs_ < kFlushEveryNs) return true;
+  return Flush();
+}
 
 bool DiceRollFile::Truncate(int64_t rolls) {
   if (!file_) return false;

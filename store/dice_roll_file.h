@@ -33,6 +33,12 @@ class DiceRollFile {
   // Cuts the file to `rolls` rolls. The file is reopened to do it.
   bool Truncate(int64_t rolls);
   bool Flush();
+  // Flushes when the last flush is a second old or more, so that a killed
+  // run loses at most the last second of what it recorded. The clock is
+  // read once in many calls: cheap enough for every roll of Hyper-Drive.
+  bool FlushIfDue();
+  // The errno of the last failed write or flush; 0 when none failed.
+  int LastError() const { return error_; }
   // Repositionings of the stream so far: playback and recording in order
   // need none per roll.
   int64_t Seeks() const { return seeks_; }
@@ -45,6 +51,9 @@ class DiceRollFile {
   int64_t offset_ = -1;  // where the stream stands; -1 when unknown
   bool writing_ = false;  // the last operation wrote (a read then needs a seek)
   int64_t seeks_ = 0;
+  int error_ = 0;
+  int64_t lastFlushNs_ = 0;  // steady clock
+  uint32_t writesSinceClock_ = 0;
 };
 
 // The state of the game's Dice Roll File; the recorder status itself is

@@ -15,3 +15,29 @@ inline std::string ReadBytes(const std::filesystem::path& p) {
 inline void WriteBytes(const std::filesystem::path& p, const std::string& bytes) {
   std::ofstream(p, std::ios::binary | std::ios::trunc) << bytes;
 }
+
+#include <signal.h>
+#include <sys/resource.h>
+
+// While alive, no file of the process can grow past `bytes`: a write beyond
+// fails as on a full disk (EFBIG instead of the signal).
+class FileSizeLimitForTest {
+ public:
+  explicit FileSizeLimitForTest(rlim_t bytes) {
+    getrlimit(RLIMIT_FSIZE, &old_);
+    oldHandler_ = signal(SIGXFSZ, SIG_IGN);
+    rlimit limited = old_;
+    limited.rlim_cur = bytes;
+    setrlimit(RLIMIT_FSIZE, &limited);
+  }
+  ~FileSizeLimitForTest() {
+    setrlimit(RLIMIT_FSIZE, &old_);
+    signal(SIGXFSZ, oldHandler_);
+  }
+  FileSizeLimitForTest(const FileSizeLimitForTest&) = delete;
+  FileSizeLimitForTest& operator=(const FileSizeLimitForTest&) = delete;
+
+ private:
+  rlimit old_{};
+  sighandler_t oldHandler_{};
+};

@@ -4,6 +4,9 @@
 #include <filesystem>
 #include <string>
 
+#include "store/atomic_write.h"
+#include "store/file_read.h"
+
 struct Game;
 
 // "File name error, file not found, or device error." and "Check path and
@@ -11,8 +14,11 @@ struct Game;
 std::string FileNameErrorText();
 // Shows the file-name error, titled "Error".
 void ShowFileNameError(Game& g);
+// A file name fit to show: control bytes and bytes that are not UTF-8 become
+// "?", so that a name read from a damaged file never prints raw bytes.
+std::string PrintableName(const std::filesystem::path& path);
+// The sentence that names the file and what is wrong with it ("/x/rolls.rol
+// is a directory."), then the file-name error.
+std::string FileErrorText(const std::filesystem::path& path, const std::string& reason);
+void ShowFileError(Game& g, const std::filesystem::path& path, const std::string& reason);
 
-// Writes `bytes` to a temporary file beside `target`, then renames it over
-// the target, so a failed save leaves the old file whole. False, with
-// nothing left behind, on failure.
-bool WriteFileAtomically(const std::filesystem::path& target, const std::string& bytes);

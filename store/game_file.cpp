@@ -1,13 +1,12 @@
 #include "store/game_file.h"
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include "dice/dice_roll_files.h"
 #include "engine/game.h"
 #include "engine/notices.h"
 #include "store/file_errors.h"
+#include "store/game_file_check.h"
 #include "store/game_file_links.h"
 #include "store/game_file_sections.h"
 #include "store/small_files.h"
@@ -15,8 +14,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr const char* kAcceptedFormat = "Data Format 5.0";
 
 void SetCaption(Game& g, const std::string& path) {
   const std::string name = fs::path(path).filename().string();
@@ -35,20 +32,9 @@ void WriteLinkRecords(Game& g, const std::string& path, RecordWriter& w) {
   PutLink(w.Add(), GetLink(g.FileExtras.Kept(5)));
 }
 
-bool ReadWholeFile(const std::string& path, std::string& bytes) {
-  std::error_code ec;
-  if (!fs::is_regular_file(path, ec)) return false;
-  std::ifstream in(path, std::ios::binary);
-  if (!in) return false;
-  std::ostringstream content;
-  content << in.rdbuf();
-  bytes = content.str();
-  return !in.bad();
-}
-
 void Refuse(Game& g, const std::string& path) {
   ShowMessage(g, "Unable to Open Dicemill Game File",
-              path + kBreak +
+              PrintableName(path) + kBreak +
                   "is either from a different version, has been corrupted, or is not a true Dicemill game file.");
 }
 
@@ -67,9 +53,12 @@ bool SaveGame(Game& g, const std::string& path) {
   WriteStatisticsRecords(g, w);
   WriteScriptRecords(g, w);
   WriteContinuationRecords(g, w);
-  if (!WriteFileAtomically(path, w.Bytes())) {
+  std::string bytes = w.Bytes();
+  SealGameFile(bytes);
+  std::string reason;
+  if (!WriteFileAtomically(path, bytes, reason)) {
     g.GameChanged = changed;
-    ShowFileNameError(g);
+    ShowFileError(g, path, reason);
     return false;
   }
   SetCaption(g, path);
@@ -77,21 +66,22 @@ bool SaveGame(Game& g, const std::string& path) {
 }
 
 bool OpenGame(Game& g, const std::string& path) {
-  std::string bytes;
-  if (!ReadWholeFile(path, bytes)) {
-    ShowFileNameError(g);
+  std::string bytes, reason;
+  if (!ReadRegularFile(path, kMaxGameFileBytes, bytes, reason)) {
+    ShowFileError(g, path, reason);
     return false;
   }
   return OpenGameBytes(g, bytes, path);
 }
 
 bool OpenGameBytes(Game& g, const std::string& bytes, const std::string& path) {
-  RecordReader r(bytes);
-  const FileRecord first = r.Next();
-  if (GetSignature(first).find(kAcceptedFormat) == std::string::npos) {
+  // Nothing of the game changes until the whole file has been checked.
+  if (!GameFileIsWhole(bytes)) {
     Refuse(g, path);
     return false;
   }
+  RecordReader r(bytes);
+  const FileRecord first = r.Next();
 
   if (g.DiceFile.File.IsOpen()) CloseRollFile(g);
   if (g.ScriptOutput.is_open()) g.ScriptOutput.close();

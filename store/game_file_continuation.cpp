@@ -101,6 +101,12 @@ void WriteContinuationRecords(const Game& g, RecordWriter& w) {
   w.AddInt32s(words);
 }
 
+int ContinuationRecordCount(const FileRecord& marker) {
+  if (GetText(marker, 0, kMarkerWidth) != kMarker) return 0;
+  if (GetInt32(marker, kWordCountSlot) != static_cast<int32_t>(WordCount())) return 0;
+  return 1 + static_cast<int>((WordCount() + kInt32Slots - 1) / kInt32Slots);
+}
+
 void ReadContinuationRecords(Game& g, RecordReader& r) {
   const FileRecord marker = r.Next();
   if (GetText(marker, 0, kMarkerWidth) != kMarker) return;

@@ -32,6 +32,9 @@ void RestoreFlagValues(Game& g);
 // without it leaves the streams as they are.
 void WriteContinuationRecords(const Game& g, RecordWriter& w);
 void ReadContinuationRecords(Game& g, RecordReader& r);
+// The records the continuation takes when `marker` starts a whole one of this
+// program's format, marker included; 0 when it does not.
+int ContinuationRecordCount(const FileRecord& marker);
 
 // Values that index tables or steer the roll, brought into their ranges so
 // that a damaged file can never take the engine out of bounds.

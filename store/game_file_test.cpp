@@ -13,6 +13,8 @@
 #include "store/game_file_links.h"
 #include "store/game_record.h"
 #include "store/file_bytes_for_test.h"
+#include "store/games_log_file.h"
+#include "test_paths.h"
 #include "store/script_file.h"
 
 namespace fs = std::filesystem;
@@ -166,6 +168,14 @@ TEST(GameFile, ASavedGameContinuesRollForRollWithEveryGenerator) {
   ExpectContinuesAsIfNeverSaved(1, Dice::RollFile);
 }
 
+// The bytes of a game file as another version writes it: without the record
+// count in record 1 and the closing check record.
+std::string Unsealed(std::string bytes) {
+  bytes.resize(bytes.size() - kGameRecordBytes);
+  std::fill_n(bytes.begin() + 232, 24, '\0');
+  return bytes;
+}
+
 TEST(GameFile, TheSignatureDecidesWhatOpens) {
   TempFolder folder;
   SavedTable saved(folder.path());
@@ -173,33 +183,45 @@ TEST(GameFile, TheSignatureDecidesWhatOpens) {
   saved.g.BetAmount[0] = 777;
   const fs::path path = folder.path() / "game.crp";
   ASSERT_TRUE(SaveGame(saved.g, path.string()));
-  std::string bytes = ReadBytes(path);
-  EXPECT_EQ(bytes.size() % kGameRecordBytes, 0u);
+  const std::string bytes = Unsealed(ReadBytes(path));
   EXPECT_EQ(bytes.substr(0, 36), kGameFileSignature);
 
   auto withSignature = [&](const std::string& signature) {
     std::string changed = bytes;
     for (size_t i = 0; i < kSignatureWidth; ++i) changed[i] = i < signature.size() ? signature[i] : ' ';
-    WriteBytes(path, changed);
+    return changed;
   };
-  for (const char* accepted : {"Dicemill Game File, Data Format 5.0a", "Dicemill Game File, Data Format 5.0"}) {
-    withSignature(accepted);
+  TempFolder other;
+  SavedTable games(other.path());
+  const fs::path log = other.path() / "x.glg", script = other.path() / "x.bet";
+  ASSERT_TRUE(SaveGameToLog(games.g, log.string(), {}));
+  WriteBytes(script, ReadBytes(DICEMILL_SOURCE_DIR "/samples/iron-cross.bet"));
+  const struct {
+    std::string bytes;
+    bool opens;
+  } cases[] = {
+      {withSignature("Dicemill Game File, Data Format 5.0a"), true},
+      {withSignature("Dicemill Game File, Data Format 5.0"), true},
+      {withSignature("Dicemill Game File, Data Format 4.9k"), false},
+      {withSignature("Dicemill Games File, Data Format 5.0"), false},
+      {ReadBytes(log), false},
+      {ReadBytes(script), false},
+  };
+  for (const auto& c : cases) {
+    WriteBytes(path, c.bytes);
     SavedTable t(folder.path());
-    EXPECT_TRUE(OpenGame(t.g, path.string())) << accepted;
-    EXPECT_EQ(t.g.Bankroll(), 777);
+    t.g.BetAmount[0] = 5;
+    EXPECT_EQ(OpenGame(t.g, path.string()), c.opens) << c.bytes.substr(0, 40);
+    EXPECT_EQ(t.g.Bankroll(), c.opens ? 777 : 5);  // a refused file leaves the table as it was
+    if (c.opens) continue;
+    ASSERT_EQ(t.ui.messages.size(), 1u);
+    EXPECT_EQ(t.ui.messages[0].title, "Unable to Open Dicemill Game File");
+    EXPECT_EQ(t.ui.messages[0].text,
+              path.string() + "\ris either from a different version, has been corrupted, or is not a true Dicemill game file.");
   }
-  withSignature("Dicemill Game File, Data Format 4.9k");
-  SavedTable refused(folder.path());
-  refused.g.BetAmount[0] = 5;
-  EXPECT_FALSE(OpenGame(refused.g, path.string()));
-  ASSERT_EQ(refused.ui.messages.size(), 1u);
-  EXPECT_EQ(refused.ui.messages[0].title, "Unable to Open Dicemill Game File");
-  EXPECT_EQ(refused.ui.messages[0].text,
-            path.string() + "\ris either from a different version, has been corrupted, or is not a true Dicemill game file.");
-  EXPECT_EQ(refused.g.Bankroll(), 5);  // left as it was
 }
 
-TEST(GameFile, DamagedFilesAreRefusedOrReadAsZerosWithoutHarm) {
+TEST(GameFile, ADamagedFileIsRefusedWhole) {
   TempFolder folder;
   SavedTable saved(folder.path());
   NewGame(saved.g, false);
@@ -207,48 +229,63 @@ TEST(GameFile, DamagedFilesAreRefusedOrReadAsZerosWithoutHarm) {
   RollUntilBusy(saved.g);
   const fs::path path = folder.path() / "game.crp";
   ASSERT_TRUE(SaveGame(saved.g, path.string()));
-  const std::string bytes = ReadBytes(path);
+  const std::string bytes = ReadBytes(path), unsealed = Unsealed(bytes);
+  const size_t continuation = unsealed.find("Dicemill Continuation");
+  ASSERT_NE(continuation, std::string::npos);
 
-  // Cut anywhere after the signature: what is there is read, the rest is
-  // zeros, and the table still rolls.
-  for (size_t length : {size_t{0}, size_t{100}, size_t{256}, size_t{257}, 256 * size_t{20}, bytes.size() - 1}) {
-    WriteBytes(path, bytes.substr(0, length));
-    SavedTable t(folder.path());
-    const bool opened = OpenGame(t.g, path.string());
-    EXPECT_EQ(opened, length >= 92) << length;
-    t.g.HyperDriveOn = true;
-    for (int i = 0; i < 20; ++i) RollDice(t.g);
+  // Cut anywhere, one byte changed anywhere, or what two killed writers
+  // left: refused, and the table is untouched.
+  std::vector<std::string> damaged;
+  for (size_t length = 0; length < bytes.size(); length += 997) damaged.push_back(bytes.substr(0, length));
+  for (size_t records = 1; records * kGameRecordBytes < bytes.size(); records += 5)
+    damaged.push_back(bytes.substr(0, records * kGameRecordBytes));
+  for (size_t at = 0; at < bytes.size(); at += 1009) {
+    damaged.push_back(bytes);
+    damaged.back()[at] = static_cast<char>(damaged.back()[at] ^ 0x10);
   }
-  // Random bytes behind a good signature: read, kept in range, and rollable.
+  damaged.push_back(bytes);
+  damaged.back()[bytes.size() - 1] = 'x';  // even the spare bytes of the check record
+  damaged.push_back(unsealed + std::string(kGameRecordBytes, 'x'));  // a record too many
+  damaged.push_back(unsealed.substr(0, continuation + kGameRecordBytes));  // a continuation cut short
+  for (const char* kept : {"conc-kill-round11-0bytes.crp", "conc-kill-round57-65536bytes-opens.crp"})
+    damaged.push_back(ReadBytes(fs::path(DICEMILL_SOURCE_DIR "/tests/reliability") / kept));
+  for (const std::string& d : damaged) {
+    WriteBytes(path, d);
+    SavedTable t(folder.path());
+    t.g.BetAmount[0] = 5;
+    EXPECT_FALSE(OpenGame(t.g, path.string())) << d.size();
+    EXPECT_EQ(t.g.Bankroll(), 5);
+    ASSERT_EQ(t.ui.messages.size(), 1u);
+    EXPECT_EQ(t.ui.messages[0].title, "Unable to Open Dicemill Game File");
+  }
+
+  // A file of another version with whole records but random values is read,
+  // kept in range and rollable.
   std::mt19937 random(11);
   for (int round = 0; round < 20; ++round) {
-    std::string noise = bytes;
-    for (size_t i = kGameRecordBytes; i < noise.size(); ++i) noise[i] = static_cast<char>(random());
+    std::string noise = unsealed;
+    for (size_t i = kGameRecordBytes; i < continuation; ++i) noise[i] = static_cast<char>(random());
+    noise.resize(continuation);
     WriteBytes(path, noise);
     SavedTable t(folder.path());
-    ASSERT_TRUE(OpenGame(t.g, path.string()));
+    if (!OpenGame(t.g, path.string())) continue;  // a flag count that runs past the end
     EXPECT_TRUE(t.g.Die1 >= 1 && t.g.Die1 <= 6 && t.g.RngChoice >= 0 && t.g.RngChoice < kRngCount);
     t.g.HyperDriveOn = true;
     t.g.AutoBetActivated = false;
     for (int i = 0; i < 20; ++i) RollDice(t.g);
   }
-  // A file that ends with the last record: the streams go on as they are.
-  const size_t continuation = bytes.find("Dicemill Continuation");
-  ASSERT_NE(continuation, std::string::npos);
-  WriteBytes(path, bytes.substr(0, continuation));
+  // Such a file that ends with the last record: the streams go on as they are.
+  WriteBytes(path, unsealed.substr(0, continuation));
   SavedTable older(folder.path());
   SeedSilently(older.g, 0, 99);
   const Generators before = older.g.Rng;
   ASSERT_TRUE(OpenGame(older.g, path.string()));
   EXPECT_EQ(older.g.Rng.mt.mt, before.mt.mt);
-  EXPECT_EQ(older.g.Rng.mt.mti, before.mt.mti);
   EXPECT_EQ(older.g.ModSeed, saved.g.ModSeed);  // record 15 is there
-
-  std::string pureNoise(4096, '\0');
-  for (char& c : pureNoise) c = static_cast<char>(random());
-  WriteBytes(path, pureNoise);
-  SavedTable t(folder.path());
-  EXPECT_FALSE(OpenGame(t.g, path.string()));
+  WriteBytes(path, unsealed);  // and with the continuation, it goes on exactly
+  SavedTable whole(folder.path());
+  ASSERT_TRUE(OpenGame(whole.g, path.string()));
+  EXPECT_EQ(whole.g.Rng.mt.mt, saved.g.Rng.mt.mt);
 }
 
 TEST(GameFile, LinksNameTheFilesInUse) {
@@ -261,7 +298,7 @@ TEST(GameFile, LinksNameTheFilesInUse) {
   ASSERT_TRUE(SaveGame(empty.g, crp.string()));
   EXPECT_EQ(empty.g.TableCaption, "Dicemill");
   const std::string firstRecord = ReadBytes(crp).substr(0, kGameRecordBytes);
-  EXPECT_EQ(firstRecord.substr(kLinkPathOffset), std::string(kGameRecordBytes - kLinkPathOffset - 24, ' ') + std::string(24, '\0'));
+  EXPECT_EQ(firstRecord.substr(kLinkPathOffset, 232 - kLinkPathOffset), std::string(232 - kLinkPathOffset, ' '));
 
   // An unsaved script in default.crp goes to default.bet beside it.
   SavedTable dirty(folder.path());
@@ -317,7 +354,7 @@ TEST(GameFile, WhatThisProgramDoesNotUseGoesBackOutUnchanged) {
   NewGame(t.g, false);
   const fs::path path = folder.path() / "g.crp";
   ASSERT_TRUE(SaveGame(t.g, path.string()));
-  std::string bytes = ReadBytes(path);
+  std::string bytes = Unsealed(ReadBytes(path));
   auto slot = [](int record, int currencySlot) { return (record - 1) * kGameRecordBytes + currencySlot * 8; };
   const std::vector<size_t> foreign = {5 * kGameRecordBytes + 3,  // a geometry entry, record 6
                                        slot(8, 0),                // ConfigTab
@@ -341,13 +378,17 @@ TEST(GameFile, AFailedSaveLeavesTheOldFileWhole) {
   const fs::path path = folder.path() / "keep.crp";
   ASSERT_TRUE(SaveGame(t.g, path.string()));
   const std::string before = ReadBytes(path);
-  fs::create_directory(folder.path() / "keep.crp.tmp");  // the temporary file cannot be made
   t.g.BetAmount[0] = 12345;
-  EXPECT_FALSE(SaveGame(t.g, path.string()));
+  {
+    const FileSizeLimitForTest fullDisk(1000);
+    EXPECT_FALSE(SaveGame(t.g, path.string()));
+  }
   ASSERT_EQ(t.ui.messages.size(), 1u);
   EXPECT_EQ(t.ui.messages[0].title, "Error");
-  EXPECT_EQ(t.ui.messages[0].text, "File name error, file not found, or device error.\rCheck path and file name.");
+  EXPECT_EQ(t.ui.messages[0].text, path.string() + " could not be written: file too large.\r" +
+                                       "File name error, file not found, or device error.\rCheck path and file name.");
   EXPECT_EQ(ReadBytes(path), before);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 1);  // no temporary left
   SavedTable back(folder.path());
   ASSERT_TRUE(OpenGame(back.g, path.string()));
   EXPECT_EQ(back.g.Bankroll(), 500);

@@ -1,5 +1,6 @@
 #include "store/games_log_file.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <fstream>
 #include <iterator>
@@ -33,18 +34,34 @@ std::string TrimBlanks(const std::string& text) {
 
 GamesFileError NotAGamesFile(const std::filesystem::path& path) {
   return {"Unable to Open Dicemill Games File",
-          path.string() + kBreak + "is either from an older version, has been corrupted, or is not a true Dicemill Games File."};
+          PrintableName(path) + kBreak + "is either from an older version, has been corrupted, or is not a true Dicemill Games File."};
 }
 
 GamesFileError RunTimeError(const std::string& description, int number, const std::string& routine) {
   return {"Dicemill", RunTimeErrorText(description, number, routine)};
 }
 
-bool ReadBytes(const std::filesystem::path& path, std::string& bytes) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) return false;
-  bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-  return !in.bad();
+// Field numbers as the log's statistics name them.
+constexpr int kRolls = 0, kBetsDecided = 1, kBetsWon = 2, kBetsLost = 3, kNetBetsWon = 4;
+constexpr int kAmountWagered = 5, kAmountWon = 6, kAmountLost = 7, kNetAmountWon = 8, kHands = 12;
+
+bool IsCount(Currency value) { return value.raw >= 0 && value.IsWhole(); }
+
+bool IsDifference(Currency difference, Currency a, Currency b) {
+  int64_t expected = 0;
+  return !__builtin_sub_overflow(a.raw, b.raw, &expected) && expected == difference.raw;
+}
+
+// What every game the program logs satisfies: counts are whole and not
+// negative, amounts not negative, and the nets are the differences stored
+// beside them. A record shifted by even one byte fails it.
+bool IsPlausible(const GameLogRecord& r) {
+  for (int f : {kRolls, kBetsDecided, kBetsWon, kBetsLost, kHands})
+    if (!IsCount(r[f])) return false;
+  for (int f : {kAmountWagered, kAmountWon, kAmountLost})
+    if (r[f].raw < 0) return false;
+  return IsDifference(r[kNetBetsWon], r[kBetsWon], r[kBetsLost]) &&
+         IsDifference(r[kNetAmountWon], r[kAmountWon], r[kAmountLost]);
 }
 
 void Show(Game& g, const GamesFileError& error) { ShowMessage(g, error.Title, error.Text); }
@@ -67,25 +84,27 @@ bool DecodeGamesFile(const std::string& bytes, std::vector<GameLogRecord>& games
   if (bytes.size() < static_cast<size_t>(kGamesRecordBytes)) return false;
   if (TrimBlanks(bytes.substr(0, kTitleBytes)) != kGamesFileTitle) return false;
   const auto count = static_cast<int32_t>(GetLittleEndian(bytes, kCountOffset, 4));
-  if (count < 0 || bytes.size() / kGamesRecordBytes - 1 < static_cast<size_t>(count)) return false;
+  // Exactly the records the count says: a cut or shifted file is refused.
+  if (count < 0 || bytes.size() != (static_cast<size_t>(count) + 1) * kGamesRecordBytes) return false;
   std::vector<GameLogRecord> read(static_cast<size_t>(count));
   for (size_t game = 0; game < read.size(); ++game)
     for (int field = 0; field < kGameLogFields; ++field)
       read[game][field] = Currency::FromRaw(
           static_cast<int64_t>(GetLittleEndian(bytes, (game + 1) * kGamesRecordBytes + field * 8, 8)));
+  if (!std::all_of(read.begin(), read.end(), IsPlausible)) return false;
   games = std::move(read);
   return true;
 }
 
 bool ReadGamesFile(const std::filesystem::path& path, std::vector<GameLogRecord>& games, GamesFileError& error) {
   std::error_code ec;
-  if (!std::filesystem::is_regular_file(path, ec)) {
+  if (!std::filesystem::exists(path, ec)) {
     error = RunTimeError("File not found", 53, "Open Games File");
     return false;
   }
-  std::string bytes;
-  if (!ReadBytes(path, bytes)) {
-    error = RunTimeError("Path/File access error", 75, "Open Games File");
+  std::string bytes, reason;
+  if (!ReadRegularFile(path, kMaxGamesLogBytes, bytes, reason)) {
+    error = {"Error", FileErrorText(path, reason)};
     return false;
   }
   if (!DecodeGamesFile(bytes, games)) {
@@ -101,8 +120,9 @@ bool AppendGamesToLog(const std::filesystem::path& path, const std::vector<GameL
   std::error_code ec;
   if (std::filesystem::exists(path, ec) && !ReadGamesFile(path, games, error)) return false;
   games.insert(games.end(), added.begin(), added.end());
-  if (games.size() > static_cast<size_t>(INT32_MAX) || !WriteFileAtomically(path, EncodeGamesFile(games))) {
-    error = RunTimeError("Path/File access error", 75, "Save Game To Log");
+  std::string reason = "would hold more games than a log can count";
+  if (games.size() > static_cast<size_t>(INT32_MAX) || !WriteFileAtomically(path, EncodeGamesFile(games), reason)) {
+    error = {"Error", FileErrorText(path, reason)};
     return false;
   }
   return true;
@@ -118,7 +138,7 @@ bool OpenGamesFile(Game& g, const std::string& path) {
       return false;
     }
   } else if (!AppendGamesToLog(path, {}, error)) {
-    Show(g, RunTimeError("Path/File access error", 75, "Open Games File"));
+    Show(g, error);
     return false;
   }
   g.GamesLogFile = path;

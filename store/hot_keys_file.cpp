@@ -87,22 +87,22 @@ void LoadHotKeys(Game& g) {
   g.HotKeys.clear();
   std::error_code ec;
   const auto path = HotKeysPath(g);
-  if (g.DataFolder.empty() || !std::filesystem::exists(path, ec)) return;
-  std::ifstream in(path, std::ios::binary);
-  const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-  if (!in.is_open() || in.bad()) {
-    ShowFileNameError(g);
-    return;
-  }
-  if (DecodeHotKeys(bytes, g.HotKeys) != HotKeysStatus::Ok)
-    ShowMessage(g, "Unable to Open Hot-Key File",
-                path.string() + kBreak + "has either been corrupted or is not a true Dicemill Hot-Key file." +
-                    kBreak + "No Hot-Keys are defined.");
+  if (g.DataFolder.empty() || (!std::filesystem::exists(path, ec) && !std::filesystem::is_symlink(path, ec))) return;
+  std::string bytes, reason;
+  const bool read = ReadRegularFile(path, kMaxSmallFileBytes, bytes, reason);
+  if (read && DecodeHotKeys(bytes, g.HotKeys) == HotKeysStatus::Ok) return;
+  // Whatever is wrong, the table starts with no Hot-Keys and says why.
+  g.HotKeys.clear();
+  ShowMessage(g, "Unable to Open Hot-Key File",
+              PrintableName(path) + kBreak +
+                  (read ? "has either been corrupted or is not a true Dicemill Hot-Key file." : reason + ".") +
+                  kBreak + "No Hot-Keys are defined.");
 }
 
 bool SaveHotKeys(Game& g) {
-  if (g.DataFolder.empty() || !WriteFileAtomically(HotKeysPath(g), EncodeHotKeys(g.HotKeys))) {
-    ShowFileNameError(g);
+  std::string reason = g.DataFolderInUse ? "is in use by another Dicemill" : "has no data folder";
+  if (g.DataFolder.empty() || g.DataFolderInUse || !WriteFileAtomically(HotKeysPath(g), EncodeHotKeys(g.HotKeys), reason)) {
+    ShowFileError(g, HotKeysPath(g), reason);
     return false;
   }
   return true;

@@ -1,6 +1,7 @@
 #include "store/hot_keys_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <fstream>
 #include <random>
@@ -97,10 +98,44 @@ TEST(HotKeysFile, MissingCorruptAndFailedFiles) {
 
   // A save that can't be written says so and leaves the old file whole.
   t.g.HotKeys = kKeys;
-  std::filesystem::create_directory(path.string() + ".tmp");
-  EXPECT_FALSE(SaveHotKeys(t.g));
-  EXPECT_EQ(t.ui.messages.back(), (RecordedMessage{"Error", FileNameErrorText()}));
+  {
+    const FileSizeLimitForTest fullDisk(10);
+    EXPECT_FALSE(SaveHotKeys(t.g));
+  }
+  EXPECT_EQ(t.ui.messages.back(), (RecordedMessage{"Error", FileErrorText(path, "could not be written: file too large")}));
   EXPECT_EQ(ReadBytes(path), "not a hot-key file");
+}
+
+// What would abort or hang the start-up: each is told and the table goes on
+// with no Hot-Keys.
+TEST(HotKeysFile, AFileThatIsNoRegularFileBindsNothing) {
+  const struct {
+    const char* what;
+    void (*make)(const std::filesystem::path&);
+    const char* reason;
+  } cases[] = {
+      {"directory", [](const std::filesystem::path& p) { std::filesystem::create_directory(p); }, "is a directory."},
+      {"link to /dev/zero", [](const std::filesystem::path& p) { std::filesystem::create_symlink("/dev/zero", p); },
+       "is not a regular file (a device, pipe or socket)."},
+      {"fifo", [](const std::filesystem::path& p) { mkfifo(p.c_str(), 0600); },
+       "is not a regular file (a device, pipe or socket)."},
+      {"dangling link", [](const std::filesystem::path& p) { std::filesystem::create_symlink("nowhere", p); },
+       "was not found."},
+  };
+  for (const auto& c : cases) {
+    TempFolder folder;
+    Table t;
+    t.g.DataFolder = folder.path().string();
+    const auto path = folder.path() / kHotKeysFileName;
+    c.make(path);
+    t.g.HotKeys = kKeys;
+    LoadHotKeys(t.g);
+    EXPECT_TRUE(t.g.HotKeys.empty()) << c.what;
+    ASSERT_EQ(t.ui.messages.size(), 1u) << c.what;
+    EXPECT_EQ(t.ui.messages[0], (RecordedMessage{"Unable to Open Hot-Key File",
+                                                 path.string() + "\r" + c.reason + "\rNo Hot-Keys are defined."}))
+        << c.what;
+  }
 }
 
 TEST(HotKeysFile, DefiningAndClearing) {

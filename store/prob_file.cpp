@@ -70,20 +70,15 @@ std::optional<ProbTable> DecodeProbFile(const std::string& bytes) {
 }
 
 bool OpenProbabilityFile(Game& g, const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) {
-    ShowFileNameError(g);
-    return false;
-  }
-  std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-  if (in.bad()) {
-    ShowMessage(g, "Dicemill", RunTimeErrorText("Device I/O error", 57, "Open Probability File"));
+  std::string bytes, reason;
+  if (!ReadRegularFile(path, kMaxSmallFileBytes, bytes, reason)) {
+    ShowFileError(g, path, reason);
     return false;
   }
   const std::optional<ProbTable> table = DecodeProbFile(bytes);
   if (!table) {
     ShowMessage(g, "Unable to Open Dicemill Probability File",
-                path + kBreak +
+                PrintableName(path) + kBreak +
                     "is either from an older version, has been corrupted, or is not a true Dicemill Probability File.");
     return false;
   }
@@ -94,8 +89,9 @@ bool OpenProbabilityFile(Game& g, const std::string& path) {
 }
 
 bool SaveProbabilityFile(Game& g, const std::string& path) {
-  if (!WriteFileAtomically(path, EncodeProbFile(g.Prob))) {
-    ShowFileNameError(g);
+  std::string reason;
+  if (!WriteFileAtomically(path, EncodeProbFile(g.Prob), reason)) {
+    ShowFileError(g, path, reason);
     return false;
   }
   g.ProbFileName = path;

@@ -97,8 +97,12 @@ TEST(ProbFile, SaveOpenAndRefusals) {
   EXPECT_FALSE(OpenProbabilityFile(g, (folder.path() / "missing.prb").string()));
   EXPECT_FALSE(SaveProbabilityFile(g, (folder.path() / "no" / "such.prb").string()));
   EXPECT_FALSE(SaveProbabilityFile(g, folder.path().string()));
-  const RecordedMessage fileError{"Error", "File name error, file not found, or device error.\rCheck path and file name."};
-  EXPECT_EQ(table.ui.messages, std::vector<RecordedMessage>(3, fileError));
+  const std::string fileError = ".\rFile name error, file not found, or device error.\rCheck path and file name.";
+  const std::vector<RecordedMessage> failures = {
+      {"Error", (folder.path() / "missing.prb").string() + " was not found" + fileError},
+      {"Error", (folder.path() / "no" / "such.prb").string() + " could not be written: no such file or directory" + fileError},
+      {"Error", folder.path().string() + " is a directory" + fileError}};
+  EXPECT_EQ(table.ui.messages, failures);
   EXPECT_EQ(ReadAll(path), bytes);
 }
 

@@ -134,7 +134,7 @@ void QuerySaveProbability(Game& g) {
 bool QuerySaveAll(Game& g) { return AskEach(g, true); }
 
 void CloseDown(Game& g) {
-  if (!g.DataFolder.empty()) SaveGame(g, DataFile(g, "default.crp").string());
+  if (!g.DataFolder.empty() && !g.DataFolderInUse) SaveGame(g, DataFile(g, "default.crp").string());
   RemoveWorkFiles(g);
 }
 

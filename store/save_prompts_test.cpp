@@ -114,7 +114,8 @@ TEST(SavePrompts, EveryButtonOfEveryPrompt) {
       EXPECT_EQ(f.g.MsgReply, kMsgCancel);
       EXPECT_TRUE(f.g.*c.dirty);
       EXPECT_FALSE(fs::exists(FileNameOf(f.g, c)));
-      EXPECT_EQ(f.ui.messages.back(), (RecordedMessage{"Error", FileNameErrorText()}));
+      EXPECT_EQ(f.ui.messages.back(),
+                (RecordedMessage{"Error", FileErrorText(FileNameOf(f.g, c), "could not be written: no such file or directory")}));
     }
     {  // Yes with a name of its own saves there.
       Fixture f;

@@ -29,16 +29,16 @@ bool ReadBetLines(const std::string& path, const std::string& bytes, std::vector
       lines = std::move(file.Lines);
       return true;
     case BetFileStatus::Newer:
-      error = path + ": requires Dicemill version " + file.Version + " or later to run.";
+      error = PrintableName(path) + ": requires Dicemill version " + file.Version + " or later to run.";
       return false;
     case BetFileStatus::Sibling:
     case BetFileStatus::Older:
-      error = path + ": has either been corrupted or was written with an older format which is no longer in use.";
+      error = PrintableName(path) + ": has either been corrupted or was written with an older format which is no longer in use.";
       return false;
     case BetFileStatus::NotDicemill:
       break;
   }
-  error = path + ": has either been corrupted or is not a true Dicemill Auto-Bet file.";
+  error = PrintableName(path) + ": has either been corrupted or is not a true Dicemill Auto-Bet file.";
   return false;
 }
 
@@ -49,20 +49,16 @@ bool IsBetFilePath(const std::string& path) {
 }
 
 bool LoadScriptFile(const std::string& path, Script& script, std::string& error) {
-  std::error_code ec;
-  std::ifstream in;
-  if (!std::filesystem::is_directory(path, ec)) in.open(path, std::ios::binary);
-  const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-  if (!in.is_open() || in.bad()) {
-    error = path + ": " + FileNameErrorText();
-    std::replace(error.begin(), error.end(), '\r', ' ');
+  std::string bytes, reason;
+  if (!ReadRegularFile(path, kMaxScriptFileBytes, bytes, reason)) {
+    error = PrintableName(path) + " " + reason + ".";
     return false;
   }
   std::vector<ScriptLine> lines;
   if (IsBetFilePath(path) || LooksLikeBetFile(bytes)) {
     if (!ReadBetLines(path, bytes, lines, error)) return false;
   } else if (!ReadScriptText(bytes, lines, error)) {
-    error = path + ": " + error;
+    error = PrintableName(path) + ": " + error;
     return false;
   }
   script.Lines = std::move(lines);
@@ -76,7 +72,7 @@ bool SaveScriptFile(const std::string& path, const Script& script, std::string& 
   if (IsBetFilePath(path)) {
     for (int n = 1; n <= script.NumLines(); ++n) {
       if (!FitsFileFields(script.Line(n))) {
-        error = path + ": line " + std::to_string(n) + " has a number that a .bet record cannot hold";
+        error = PrintableName(path) + ": line " + std::to_string(n) + " has a number that a .bet record cannot hold";
         return false;
       }
     }
@@ -84,9 +80,9 @@ bool SaveScriptFile(const std::string& path, const Script& script, std::string& 
   } else {
     bytes = ScriptToText(script);
   }
-  if (!WriteFileAtomically(path, bytes)) {
-    error = path + ": " + FileNameErrorText();
-    std::replace(error.begin(), error.end(), '\r', ' ');
+  std::string reason;
+  if (!WriteFileAtomically(path, bytes, reason)) {
+    error = PrintableName(path) + " " + reason + ".";
     return false;
   }
   return true;

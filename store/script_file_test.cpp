@@ -2,6 +2,7 @@
 #include "store/script_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -66,6 +67,11 @@ TEST(ScriptFile, AnUnreadableFileLeavesTheScriptAsItWas) {
   newer.replace(0, 34, "Dicemill AutoBets, Data Format 6.0");
   newer.replace(128, 34, std::string(34, ' '));
   WriteBytes(dir / "newer.bet", newer);
+  // What would hang a reader or make it grow without end.
+  mkfifo((dir / "fifo.txt").c_str(), 0600);
+  fs::create_symlink("/dev/zero", dir / "zero.txt");
+  WriteBytes(dir / "huge.txt", "");
+  fs::resize_file(dir / "huge.txt", 64u << 20);
   struct Case {
     fs::path path;
     std::string message;
@@ -74,8 +80,11 @@ TEST(ScriptFile, AnUnreadableFileLeavesTheScriptAsItWas) {
       {dir / "bad.txt", (dir / "bad.txt").string() + ": line 4, column 19: unknown word \"Lime\""},
       {dir / "junk.bet", "has either been corrupted or is not a true Dicemill Auto-Bet file."},
       {dir / "newer.bet", "6.0 or later to run."},
-      {dir / "missing.txt", "File name error, file not found, or device error. Check path and file name."},
-      {dir, "File name error"},
+      {dir / "missing.txt", (dir / "missing.txt").string() + " was not found."},
+      {dir, " is a directory."},
+      {dir / "fifo.txt", " is not a regular file (a device, pipe or socket)."},
+      {dir / "zero.txt", " is not a regular file (a device, pipe or socket)."},
+      {dir / "huge.txt", " is larger than 16,777,216 bytes, too large for its kind."},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.path.string());

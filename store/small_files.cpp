@@ -14,7 +14,7 @@
 std::filesystem::path DataFile(const Game& g, const char* name) { return std::filesystem::path(g.DataFolder) / name; }
 
 bool WriteActiveScript(const Game& g) {
-  if (g.DataFolder.empty()) return false;
+  if (g.DataFolder.empty() || g.DataFolderInUse) return false;
   const auto& lines = g.AutoBet.Lines;
   if (!std::all_of(lines.begin(), lines.end(), [](const ScriptLine& l) { return FitsFileFields(l); })) return false;
   return WriteFileAtomically(DataFile(g, kActiveScriptName), EncodeBetFile(g.AutoBet, false));
@@ -22,10 +22,8 @@ bool WriteActiveScript(const Game& g) {
 
 std::optional<std::vector<ScriptLine>> ReadActiveScript(const Game& g) {
   if (g.DataFolder.empty()) return std::nullopt;
-  std::ifstream in(DataFile(g, kActiveScriptName), std::ios::binary);
-  if (!in) return std::nullopt;
-  const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-  if (in.bad()) return std::nullopt;
+  std::string bytes, reason;
+  if (!ReadRegularFile(DataFile(g, kActiveScriptName), kMaxScriptFileBytes, bytes, reason)) return std::nullopt;
   DecodedBetFile file = DecodeBetFile(bytes);
   if (file.Status != BetFileStatus::Ok) return std::nullopt;
   return std::move(file.Lines);
@@ -51,7 +49,7 @@ void ScriptEditorClosed(Game& g, bool changed) {
 
 void RemoveWorkFiles(Game& g) {
   CloseRollFile(g);
-  if (g.DataFolder.empty()) return;
+  if (g.DataFolder.empty() || g.DataFolderInUse) return;
   std::error_code ignored;
   std::filesystem::remove(DataFile(g, kActiveScriptName), ignored);
   std::filesystem::remove(DataFile(g, kClipboardName), ignored);
