@@ -5,9 +5,9 @@
 
 #include "engine/game.h"
 #include "engine/new_game.h"
-#include "engine/place_bet.h"
 #include "engine/roll.h"
 #include "dice/rng.h"
+#include "testkit/busy_table.h"
 
 namespace {
 
@@ -16,28 +16,9 @@ namespace {
 class BusyPlayer : public SilentFrontEnd {
  public:
   explicit BusyPlayer(Game& g) : g_(g) {}
-  void LetInputRun() override {
-    Keep(bet::kPassLine, 10);
-    Keep(bet::kDontPass, 10);
-    if (g_.Point != 0) {
-      Keep(bet::kCome, 10);
-      Keep(bet::kPassOdds, 20);
-      Keep(bet::kDontPassOdds, 20);
-      for (int n : bet::kNumbers)
-        if (g_.BetAmount[bet::Come(n)] > 0) Keep(bet::ComeOdds(n), 20);
-    }
-    Keep(bet::Place(6), 12);
-    Keep(bet::Place(8), 12);
-    Keep(bet::kField, 5);
-    for (int id = bet::kHard4; id <= bet::kHard10; ++id) Keep(id, 1);
-  }
+  void LetInputRun() override { KeepBusyTable(g_); }
 
  private:
-  void Keep(int id, int amount) {
-    if (g_.BetAmount[id] != 0) return;
-    g_.BetChange = amount;
-    PlaceBet(g_, id);
-  }
   Game& g_;
 };
 

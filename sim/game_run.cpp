@@ -34,6 +34,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
   }
   void LetInputRun() override {
     if (series_ && game_.RollCounts[0] >= static_cast<int64_t>(series_->size())) series_->push_back(game_.Bankroll());
+    if (watcher_) watcher_->LetInputRun(game_);
     if (++calls_ % kPublishEvery == 0) Publish();
     if (control_.Stop.load(std::memory_order_relaxed)) game_.KeepRolling = false;
   }
@@ -52,6 +53,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
   const std::string& StopReason() const { return stopReason_; }
   // Every roll's bankroll goes to `series` from now on.
   void KeepSeries(std::vector<Currency>* series) { series_ = series; }
+  void Watch(TableWatcher* watcher) { watcher_ = watcher; }
 
  private:
   static constexpr int64_t kPublishEvery = 4096;
@@ -62,6 +64,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
   std::string firstMessage_;
   std::string stopReason_;
   std::vector<Currency>* series_ = nullptr;
+  TableWatcher* watcher_ = nullptr;
 };
 
 void FailIfTold(const RunnerFrontEnd& ui, const std::string& what) {
@@ -147,6 +150,7 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t seed
     r.BankrollSeries.push_back(g.Bankroll());
     ui.KeepSeries(&r.BankrollSeries);
   }
+  ui.Watch(options.Watcher);
   g.HyperDriveOn = true;  // the run is headless from its first pass on
   if (script.NumLines() > 0) {
     StartScript(g, script);
