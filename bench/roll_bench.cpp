@@ -8,6 +8,7 @@
 #include "engine/roll.h"
 #include "dice/rng.h"
 #include "testkit/busy_table.h"
+#include "testkit/heap_count.h"
 
 namespace {
 
@@ -33,6 +34,7 @@ void BM_RollDiceHyperDriveBusyTable(benchmark::State& state) {
   g.SeedRequest = 20261121;
   SeedRNG(g, true);
   const int rollsPerRun = static_cast<int>(state.range(0));
+  int64_t allocations = 0;
   for (auto _ : state) {
     if (g.RollCounts[0] > MaxRolls - rollsPerRun || Abs(g.Bankroll()) > Currency(BankLimit / 2)) {
       state.PauseTiming();
@@ -41,9 +43,12 @@ void BM_RollDiceHyperDriveBusyTable(benchmark::State& state) {
     }
     g.RollCountStop = g.RollCountLeft = rollsPerRun;
     g.HyperDriveOn = g.KeepRolling = true;
+    const int64_t before = HeapAllocations();
     RollDice(g);
+    allocations += HeapAllocations() - before;
   }
   state.SetItemsProcessed(state.iterations() * rollsPerRun);
+  state.counters["allocs/roll"] = static_cast<double>(allocations) / static_cast<double>(state.iterations() * rollsPerRun);
   state.counters["rolls/s"] = benchmark::Counter(static_cast<double>(state.iterations() * rollsPerRun),
                                                  benchmark::Counter::kIsRate);
 }

@@ -10,6 +10,7 @@
 
 #include <cinttypes>
 #include <cstdio>
+#include <ostream>
 #include <string>
 
 #include "cli/run_report.h"
@@ -105,6 +106,8 @@ void CheckRun(const Pin& pin, int64_t rolls, uint64_t pinnedTable, uint64_t pinn
       << "  final report:           " << Hex(report) << ", pinned " << Hex(pinnedReport) << "\n"
       << "If the change is deliberate, re-pin: put the new hashes into kPins in " << __FILE__ << ".";
 }
+
+void PrintTo(const Pin& pin, std::ostream* out) { *out << pin.Name; }
 
 class PinnedRuns : public testing::TestWithParam<Pin> {};
 
