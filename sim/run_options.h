@@ -34,5 +34,5 @@ struct RunOptions {
   std::string GameFile;
   bool ReSeed = true;
   bool KeepBankrollSeries = false;  // keep the bankroll after every roll of every game
-  TableWatcher* Watcher = nullptr;
+  TableWatcher* Watcher = nullptr;  // for one game at a time: a batch would share it
 };
