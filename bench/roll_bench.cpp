@@ -5,9 +5,10 @@
 
 #include "engine/game.h"
 #include "engine/new_game.h"
-#include "engine/place_bet.h"
 #include "engine/roll.h"
 #include "dice/rng.h"
+#include "testkit/busy_table.h"
+#include "testkit/heap_count.h"
 
 namespace {
 
@@ -16,28 +17,9 @@ namespace {
 class BusyPlayer : public SilentFrontEnd {
  public:
   explicit BusyPlayer(Game& g) : g_(g) {}
-  void LetInputRun() override {
-    Keep(bet::kPassLine, 10);
-    Keep(bet::kDontPass, 10);
-    if (g_.Point != 0) {
-      Keep(bet::kCome, 10);
-      Keep(bet::kPassOdds, 20);
-      Keep(bet::kDontPassOdds, 20);
-      for (int n : bet::kNumbers)
-        if (g_.BetAmount[bet::Come(n)] > 0) Keep(bet::ComeOdds(n), 20);
-    }
-    Keep(bet::Place(6), 12);
-    Keep(bet::Place(8), 12);
-    Keep(bet::kField, 5);
-    for (int id = bet::kHard4; id <= bet::kHard10; ++id) Keep(id, 1);
-  }
+  void LetInputRun() override { KeepBusyTable(g_); }
 
  private:
-  void Keep(int id, int amount) {
-    if (g_.BetAmount[id] != 0) return;
-    g_.BetChange = amount;
-    PlaceBet(g_, id);
-  }
   Game& g_;
 };
 
@@ -52,6 +34,7 @@ void BM_RollDiceHyperDriveBusyTable(benchmark::State& state) {
   g.SeedRequest = 20261121;
   SeedRNG(g, true);
   const int rollsPerRun = static_cast<int>(state.range(0));
+  int64_t allocations = 0;
   for (auto _ : state) {
     if (g.RollCounts[0] > MaxRolls - rollsPerRun || Abs(g.Bankroll()) > Currency(BankLimit / 2)) {
       state.PauseTiming();
@@ -60,9 +43,12 @@ void BM_RollDiceHyperDriveBusyTable(benchmark::State& state) {
     }
     g.RollCountStop = g.RollCountLeft = rollsPerRun;
     g.HyperDriveOn = g.KeepRolling = true;
+    const int64_t before = HeapAllocations();
     RollDice(g);
+    allocations += HeapAllocations() - before;
   }
   state.SetItemsProcessed(state.iterations() * rollsPerRun);
+  state.counters["allocs/roll"] = static_cast<double>(allocations) / static_cast<double>(state.iterations() * rollsPerRun);
   state.counters["rolls/s"] = benchmark::Counter(static_cast<double>(state.iterations() * rollsPerRun),
                                                  benchmark::Counter::kIsRate);
 }

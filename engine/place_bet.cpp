@@ -1,6 +1,7 @@
 #include "engine/place_bet.h"
 
 #include <string>
+#include <utility>
 
 #include "autoplay/adjust_bet.h"
 #include "config/rules.h"
@@ -72,10 +73,15 @@ void ShowPendingNotice(Game& g, const std::string& title, bool stack, bool nothi
   if (NoticeAllowed(g, kNoticeLimits)) ShowMessage(g, g.MsgTitle, g.MsgText);
 }
 
+// Whether a placement writes its limit notices. A placement whose caller
+// throws the notices away (setting a bet to its maximum) drops them unwritten:
+// building their text would reach the heap on every roll of a run.
+enum class Notices { Written, Dropped };
+
 class TablePlacement {
  public:
-  TablePlacement(Game& g, int id)
-      : g_(g), id_(id), bet_(g.BetAmount[id]),
+  TablePlacement(Game& g, int id, Notices notices)
+      : g_(g), id_(id), written_(notices == Notices::Written), bet_(g.BetAmount[id]),
         committed_(id <= bet::kDontPass ? g.BetCommitted[id] : Currency(0)) {}
 
   void Run();
@@ -90,6 +96,7 @@ class TablePlacement {
 
   Game& g_;
   int id_;
+  bool written_;
   Currency bet_;
   Currency committed_;
   Currency change_;
@@ -135,7 +142,7 @@ bool TablePlacement::ApplyMinimum() {
   if (after > 0 && after < minimum) {
     if (change_ > 0) {
       change_ = minimum - bet_;
-      AddNotice(g_, id_, limit_notice::MinimumBet(minimum));
+      if (written_) AddNotice(g_, id_, limit_notice::MinimumBet(minimum));
     } else if (HeldByContract(g_, id_) && committed_ > 0) {
       change_ = committed_ - bet_;  // the whole bet may not come down
     } else {
@@ -152,6 +159,7 @@ bool TablePlacement::ApplyMaximum() {
   const bool contract = id_ == bet::kPassLine || bet::IsComeNumber(id_);
   if (contract && committed_ > maximum) {
     change_ = committed_ - bet_;
+    if (!written_) return change_ != 0;
     std::string text = limit_notice::MaximumBet(maximum) + kTwoBreaks +
                        limit_notice::ContractAboveMaximum(g_.BetName[id_], committed_);
     g_.MsgText = text;
@@ -166,7 +174,7 @@ bool TablePlacement::ApplyMaximum() {
     return change_ != 0;
   }
   change_ = maximum - bet_;
-  AddNotice(g_, id_, limit_notice::MaximumBet(maximum));
+  if (written_) AddNotice(g_, id_, limit_notice::MaximumBet(maximum));
   return change_ != 0;
 }
 
@@ -208,7 +216,7 @@ void TablePlacement::ApplyBankroll() {
   if (change_ > 0 && bet_ + change_ < minimum) change_ = minimum - bet_;
   if (change_ > 0 && !fits(change_)) change_ = 0;  // not even the minimum fits
   if (change_ < 0) change_ = 0;
-  AddNotice(g_, id_, limit_notice::NotEnoughBankroll(AnyOtherBet(g_, id_)));
+  if (written_) AddNotice(g_, id_, limit_notice::NotEnoughBankroll(AnyOtherBet(g_, id_)));
 }
 
 void TablePlacement::Apply() {
@@ -260,9 +268,7 @@ void PlaceStack(Game& g, int id) {
   g.BetChangeAllowed = change;
 }
 
-}  // namespace
-
-void PlaceBet(Game& g, int betId) {
+void Place(Game& g, int betId, Notices notices) {
   g.MsgText.clear();
   g.MsgTitle.clear();
   g.BetChangeAllowed = 0;
@@ -279,10 +285,14 @@ void PlaceBet(Game& g, int betId) {
     return;
   }
   const Currency before = g.BetAmount[betId];
-  TablePlacement(g, betId).Run();
+  TablePlacement(g, betId, notices).Run();
   g.BetChangeAllowed = g.BetAmount[betId] - before;
   if (g.BetChangeAllowed != 0) g.GameChanged = true;
 }
+
+}  // namespace
+
+void PlaceBet(Game& g, int betId) { Place(g, betId, Notices::Written); }
 
 void PlaceBetOnTable(Game& g, int betId) {
   PlaceBet(g, betId);
@@ -315,18 +325,19 @@ void PlaceBetOnTable(Game& g, int betId) {
 void SetBetToMaximum(Game& g, int betId) {
   if (betId < 0 || betId >= bet::kSlots) return;
   const int32_t mask = g.NoticeMask;
-  const std::string text = g.MsgText, title = g.MsgTitle;
+  // The caller's notice stands after; moved aside, not copied.
+  std::string text = std::move(g.MsgText), title = std::move(g.MsgTitle);
   const Currency request = g.BetChange;
   const Currency before = g.BetAmount[betId];
   g.NoticeMask = 0;
   g.BetChange = -g.BetAmount[betId];
-  PlaceBet(g, betId);
+  Place(g, betId, Notices::Dropped);
   g.BetChange = kFullRequest;
-  PlaceBet(g, betId);
+  Place(g, betId, Notices::Dropped);
   g.Ui->RedrawBet(betId);
   g.NoticeMask = mask;
-  g.MsgText = text;
-  g.MsgTitle = title;
+  g.MsgText = std::move(text);
+  g.MsgTitle = std::move(title);
   g.BetChange = request;
   g.BetChangeAllowed = g.BetAmount[betId] - before;
 }

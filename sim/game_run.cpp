@@ -38,6 +38,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
     const int64_t rolls = game_.RollCounts[0];
     if (control_.Series && rolls > lastRoll_) control_.Series->Add(index_, game_.Bankroll());
     lastRoll_ = rolls;
+    if (watcher_) watcher_->LetInputRun(game_);
     if (++calls_ % kPublishEvery == 0) Publish();
     if (stopAtRuin_ && !ruined_ && game_.Bankroll() + game_.TotalOnTable < game_.TableMinimum) {
       ruined_ = true;
@@ -64,6 +65,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
   const std::string& StopReason() const { return stopReason_; }
   bool Ruined() const { return ruined_; }
   Currency RuinHeld() const { return ruinHeld_; }
+  void Watch(TableWatcher* watcher) { watcher_ = watcher; }
 
  private:
   static constexpr int64_t kPublishEvery = 4096;
@@ -78,6 +80,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
   Currency ruinHeld_;
   std::string firstMessage_;
   std::string stopReason_;
+  TableWatcher* watcher_ = nullptr;
 };
 
 void FailIfTold(const RunnerFrontEnd& ui, const std::string& what) {
@@ -171,6 +174,7 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
   r.Rng = g.RngChoice + 1;
   r.BankrollStart = g.Bankroll();
   if (control.Series) control.Series->Add(index, g.Bankroll());
+  ui.Watch(options.Watcher);
   g.HyperDriveOn = true;  // the run is headless from its first pass on
   if (script.NumLines() > 0) {
     StartScript(g, script);

@@ -8,6 +8,17 @@
 
 #include "engine/money.h"
 
+struct Game;
+
+// Gets the table whenever it lets queued input run (after every roll, and
+// now and then inside a long script pass), and may work it there as a player
+// would between rolls. One watcher serves one game at a time.
+class TableWatcher {
+ public:
+  virtual ~TableWatcher() = default;
+  virtual void LetInputRun(Game& g) = 0;
+};
+
 struct RunOptions {
   std::string ScriptPath;     // ".bet" or text; empty: no script
   std::string DicePath;       // a Dice Roll File to play back; empty: the generator
@@ -26,4 +37,5 @@ struct RunOptions {
   // End a game once the rack and the table together cannot cover the table
   // minimum; such a game counts as ruined.
   bool StopAtRuin = false;
+  TableWatcher* Watcher = nullptr;  // for one game at a time: a batch would share it
 };
