@@ -48,8 +48,3 @@ std::optional<Currency> ParseAmountArg(const std::string& text) {
   return Currency::FromRaw(*whole * Currency::kScale + std::stoi(cents) * (Currency::kScale / 100));
 }
 
-std::string MoneyText(Currency amount) {
-  std::string digits = FormatNumberWithCommas(Abs(amount));
-  if (digits.front() == '.') digits.insert(0, "0");
-  return (amount < 0 ? "-$" : "$") + digits;
-}

@@ -8,9 +8,8 @@
 #include <string>
 
 #include "engine/money.h"
+#include "engine/notices.h"  // MoneyText, the money of the command line
 
 std::optional<int64_t> ParseCountArg(const std::string& text);
 std::optional<Currency> ParseAmountArg(const std::string& text);
 
-// "$1,649.45", "-$0.57", "$500": money as the command line prints it.
-std::string MoneyText(Currency amount);

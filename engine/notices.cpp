@@ -14,6 +14,12 @@ std::string Dollars(Currency amount) {
   return text;
 }
 
+std::string MoneyText(Currency amount) {
+  std::string digits = FormatNumberWithCommas(Abs(amount));
+  if (digits.front() == '.') digits.insert(0, "0");
+  return (amount < 0 ? "-$" : "$") + digits;
+}
+
 std::string RunTimeErrorText(const std::string& description, int number, const std::string& routine) {
   return description + ", Error #" + std::to_string(number) + " occurred, at: " + routine + kBreak;
 }

@@ -25,6 +25,9 @@ Reply ShowMessage(Game& g, const std::string& title, const std::string& text, Bu
 
 // "$" and the amount in the one money format.
 std::string Dollars(Currency amount);
+// "$1,649.45", "-$0.57", "$500": money in the reports of a run, where a sign
+// and a leading zero read better than the table's "$-.57".
+std::string MoneyText(Currency amount);
 
 // The error box of a routine with a handler: the description, ", Error #",
 // the number, " occurred, at: ", the routine's name and a line break.

@@ -146,7 +146,7 @@ void StartScript(Game& g, const Script& script) {
 
 std::string RuinStopReason(Currency held, Currency tableMinimum, int64_t roll) {
   return "Stopped at ruin on roll " + FormatWithCommas(roll) + ": the rack and the table together hold " +
-         (held < 0 ? "-" + Dollars(Abs(held)) : Dollars(held)) + ", less than the table minimum of " + Dollars(tableMinimum) + ".";
+         MoneyText(held) + ", less than the table minimum of " + MoneyText(tableMinimum) + ".";
 }
 
 std::string InterruptedStopReason(int64_t roll) {
