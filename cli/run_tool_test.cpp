@@ -98,6 +98,8 @@ TEST(RunTool, RefusalsSayWhyAndExitWithTwo) {
       {"--bankroll-csv no/b.csv", "--bankroll-csv no/b.csv: the folder no does not exist"},
       {"--log no/g.glg", "--log no/g.glg: the folder no does not exist"},
       {"--log bad.glg", "--log bad.glg: Unable to Open Dicemill Games File"},
+      {"--dice .", "Dice Roll File \".\" is a directory"},
+      {"--dice none.rol", "Dice Roll File \"none.rol\" was not found"},
       {"--script " + SourcePath("tests/reliability/script-check-fault-but-run-ok-0.txt"), "-0.txt:1: Missing Start Condition\n"},
       {"--script " + SourcePath("tests/reliability/script-check-fault-but-run-ok-1.bet"), "-1.bet:13: Missing Start Condition\n"},
       {"--script " + SourcePath("tests/reliability/script-check-fault-but-run-ok-2.txt"), "-2.txt:4: Missing Action Lines\n"},

@@ -15,6 +15,7 @@
 #include "script/values.h"
 #include "sim/hyper_drive.h"
 #include "stats/bet_results.h"
+#include "store/file_read.h"
 #include "store/game_file.h"
 #include "stats/games_log.h"
 
@@ -125,8 +126,9 @@ void SetUpTable(Game& g, const RunOptions& options, int64_t seed, RunnerFrontEnd
 }
 
 void OpenDice(Game& g, const std::string& path, RunnerFrontEnd& ui) {
-  if (!std::filesystem::is_regular_file(path))
-    throw GameSetUpError("Dice Roll File \"" + path + "\" does not exist");
+  // A pipe or a device would hang the run or feed it without end.
+  if (const std::string reason = NotARegularFileReason(path); !reason.empty())
+    throw GameSetUpError("Dice Roll File \"" + path + "\" " + reason);
   OpenRollFile(g, path);
   SetRecorderStatus(g, kRecorderPlayback);
   FailIfTold(ui, "Dice Roll File \"" + path + "\"");
