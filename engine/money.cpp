@@ -1,8 +1,9 @@
 #include "engine/money.h"
 
-#include <cmath>
 #include <climits>
+#include <cmath>
 #include <cstdlib>
+#include <limits>
 #include <ostream>
 
 Currency Currency::FromDouble(double value) {
@@ -12,7 +13,13 @@ Currency Currency::FromDouble(double value) {
 
 // Scaling the raw count keeps ten-thousandths exact where the ratio allows.
 Currency MulRatio(Currency a, double ratio) {
-  return Currency::FromRaw(static_cast<int64_t>(std::nearbyint(static_cast<double>(a.raw) * ratio)));
+  const double raw = std::nearbyint(static_cast<double>(a.raw) * ratio);
+  // A payoff ratio from a damaged file can carry a figure beyond what money
+  // holds; it stops at the ends, since converting it would be undefined.
+  constexpr double kTwoTo63 = 9223372036854775808.0;
+  if (raw >= -kTwoTo63 && raw < kTwoTo63) return Currency::FromRaw(static_cast<int64_t>(raw));
+  if (std::isnan(raw)) return Currency::FromRaw(0);
+  return Currency::FromRaw(raw > 0 ? std::numeric_limits<int64_t>::max() : std::numeric_limits<int64_t>::min());
 }
 
 int64_t Floor(Currency a) {

@@ -6,6 +6,9 @@ TEST(Currency, RatiosRoundHalfToEvenAndIntegerPartsFloor) {
   EXPECT_EQ(MulRatio(Currency::FromRaw(1), 0.5).raw, 0);
   EXPECT_EQ(MulRatio(Currency::FromRaw(5), 0.5).raw, 2);
   EXPECT_EQ(MulRatio(Currency(3), 7.0 / 6.0).raw, 35000);
+  // Beyond what money holds it stops at the ends instead of wrapping.
+  EXPECT_EQ(MulRatio(Currency::FromRaw(INT64_MAX / 2), 100000.0).raw, INT64_MAX);
+  EXPECT_EQ(MulRatio(Currency::FromRaw(INT64_MIN / 2), 100000.0).raw, INT64_MIN);
   // MulDiv is exact, ties to even, also where the product needs 128 bits.
   const struct { int64_t a, num, den, raw; } exact[] = {
       {30000, 70000, 60000, 35000}, {1, 10000, 20000, 0}, {3, 10000, 20000, 2}, {-3, 10000, 20000, -2},
