@@ -65,6 +65,12 @@ void FindMode(const std::vector<Currency>& sorted, GamesStatistics& s) {
   s.HasMode = best > 1;
 }
 
+// x - mean in dollars. Worked in double: values from a damaged log may lie
+// further apart than money holds; below 2^53 it equals the exact difference.
+double Deviation(Currency x, Currency mean) {
+  return (static_cast<double>(x.raw) - static_cast<double>(mean.raw)) / Currency::kScale;
+}
+
 bool Moments(const std::vector<Currency>& values, int measure, GamesStatistics& s, std::string& error) {
   const int64_t n = static_cast<int64_t>(values.size());
   Currency sum;
@@ -74,7 +80,7 @@ bool Moments(const std::vector<Currency>& values, int measure, GamesStatistics& 
 
   double squares = 0;
   for (Currency x : values) {
-    const double d = (x - s.Mean).ToDouble();
+    const double d = Deviation(x, s.Mean);
     squares += d * d;
   }
   s.Variance = squares / n;
@@ -84,7 +90,7 @@ bool Moments(const std::vector<Currency>& values, int measure, GamesStatistics& 
   Currency cubes, fourths;
   const double sd = s.StdDev.ToDouble();
   for (Currency x : values) {
-    const double t = (x - s.Mean).ToDouble() / sd;
+    const double t = Deviation(x, s.Mean) / sd;
     Currency cube, fourth;
     if (!ToCurrency(t * t * t, cube) || !ToCurrency(t * t * t * t, fourth) || !Add(cubes, cube) ||
         !Add(fourths, fourth))
