@@ -23,17 +23,22 @@
 
 namespace fuzz {
 
+// Three single rolls in Hyper-Drive: enough to settle and to run a script.
+inline void RollAFewTimes(Game& g) {
+  g.HyperDriveOn = true;
+  for (int i = 0; i < 3; ++i) {
+    g.KeepRolling = false;
+    RollDice(g);
+  }
+}
+
 // A game file, then a few rolls of the game it made.
 inline void GameFile(const std::string& bytes) {
   Game g;
   FillDefaults(g);
   if (!OpenGameBytes(g, bytes, "fuzz.crp")) return;
   if (g.DiceFile.File.IsOpen()) CloseRollFile(g);  // never write into a file a damaged link names
-  g.HyperDriveOn = true;
-  for (int i = 0; i < 3; ++i) {
-    g.KeepRolling = false;
-    RollDice(g);
-  }
+  RollAFewTimes(g);
 }
 
 // An Auto-Bet file, and the text of every line it holds.
@@ -75,11 +80,7 @@ inline void PlayScript(const Script& script) {
   g.AutoBet = script;
   RebuildFlags(g.AutoBet);
   g.AutoBetActivated = true;
-  g.HyperDriveOn = true;
-  for (int i = 0; i < 3; ++i) {
-    g.KeepRolling = false;
-    RollDice(g);
-  }
+  RollAFewTimes(g);
 }
 
 inline void BetFileAndPlay(const std::string& bytes) {
