@@ -7,9 +7,10 @@
 #include "cli/play_session.h"
 #include "engine/catalogue.h"
 #include "engine/game.h"
+#include "sim/table.h"
 
 void PlaySession::Advantage(const Args& a) {
-  const Game& g = *game_;
+  const Game& g = table_->State();
   Json rows = Json::array();
   if (a.empty()) {
     for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) rows.push_back(AdvantageRowJson(g, id));

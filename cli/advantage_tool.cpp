@@ -10,9 +10,8 @@
 #include "cli/terminal_text.h"
 #include "engine/catalogue.h"
 #include "engine/game.h"
-#include "engine/new_game.h"
+#include "sim/table.h"
 #include "stats/advantage.h"
-#include "store/game_file.h"
 
 namespace {
 
@@ -113,13 +112,12 @@ class NotesToStderr : public SilentFrontEnd {
 }  // namespace
 
 int RunAdvantageTool(const AdvantageToolOptions& o, std::ostream& out, std::ostream& err) {
-  Game g;
   NotesToStderr notes(err, o.gameFile);
-  g.Ui = &notes;
-  FillDefaults(g);
-  NewGame(g, false);
-  if (!o.gameFile.empty() && !OpenGame(g, o.gameFile)) return kExitUsage;
-  g.IncludeZeroOutcomes = g.IncludeZeroOutcomes || o.zeroOutcomes;
+  Table table(notes);
+  table.StartFresh();
+  if (!o.gameFile.empty() && !table.Open(o.gameFile).Done()) return kExitUsage;
+  if (o.zeroOutcomes) table.Set("IncludeZeroOutcomes", 1);
+  const Game& g = table.State();
   if (!o.json) {
     WriteAdvantageText(g, o.misc, out);
     return 0;

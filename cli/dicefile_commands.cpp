@@ -7,23 +7,19 @@
 #include "cli/command_words.h"
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
+#include "cli/table_answer.h"
 #include "dice/dice_roll_files.h"
-#include "dice/pad.h"
 #include "engine/game.h"
+#include "sim/table.h"
 
 namespace {
 
-void NeedOpenFile(Game& g) {
+void NeedOpenFile(const Game& g) {
   if (!g.DiceFile.File.IsOpen()) throw CommandError("no Dice Roll File is open");
 }
 
 void NeedArgs(const std::vector<std::string>& a, size_t n, const char* usage) {
   if (a.size() != n) throw CommandError(std::string("expected: dicefile ") + usage);
-}
-
-// An engine step that said why it failed on the screen still fails the command.
-void Check(bool done, const std::string& what) {
-  if (!done) throw CommandError(what + " was not done");
 }
 
 int ReadStatus(const std::string& word) {
@@ -55,23 +51,22 @@ RollTextOptions ReadTextOptions(const std::vector<std::string>& a, size_t from) 
 }  // namespace
 
 void PlaySession::DiceFile(const Args& a) {
-  Game& g = *game_;
+  Table& table = *table_;
+  const Game& g = table.State();
   const std::string sub = ToLower(a[0]);
+  // An engine step that said why it failed on the screen still fails the command.
   if (sub == "open" || sub == "create") {
     NeedArgs(a, 2, "open|create FILE.rol");
     std::error_code ec;
     if (sub == "create" && std::filesystem::exists(a[1], ec)) throw CommandError("\"" + a[1] + "\" already exists");
-    const bool opened = OpenRollFile(g, a[1]);
-    if (opened) g.GameChanged = true;  // the game links another file
-    return Check(opened, "opening \"" + a[1] + "\"");
+    return Require(table.OpenRollFile(a[1]));
   }
   if (sub == "info") {
     NeedArgs(a, 1, "info");
-    const bool open = g.DiceFile.File.IsOpen();
     WriteJsonLine(out_, {{"dicefile",
                           {{"name", g.DiceFile.RollFileName},
                            {"status", StatusWord(g.DiceFileMode)},
-                           {"rolls", open ? TotalRolls(g) : 0},
+                           {"rolls", table.RollFileRolls()},
                            {"next", g.DiceFile.NextRollNum},
                            {"last", g.DiceFile.LastRollNum},
                            {"anchor", g.DiceFile.SelectAnchor},
@@ -81,50 +76,46 @@ void PlaySession::DiceFile(const Args& a) {
   }
   if (sub == "status") {
     NeedArgs(a, 2, "status off|record|play");
-    g.GameChanged = true;
-    return Check(SetRecorderStatus(g, ReadStatus(a[1])), "the status change");
+    return Require(table.SetRecorder(ReadStatus(a[1])));
   }
   NeedOpenFile(g);
   if (sub == "close") {
     NeedArgs(a, 1, "close");
-    CloseRollFile(g);
-    g.GameChanged = true;
+    Require(table.CloseRollFile());
   } else if (sub == "position") {
     if (a.size() < 2 || a.size() > 3) throw CommandError("expected: dicefile position N [ANCHOR]");
     const int64_t next = ReadInteger(a[1], 1, MaxRolls, "N");
-    SetPosition(g, next, a.size() == 3 ? ReadInteger(a[2], 1, MaxRolls, "ANCHOR") : -1);
+    Require(table.SetRollPosition(next, a.size() == 3 ? ReadInteger(a[2], 1, MaxRolls, "ANCHOR") : -1));
   } else if (sub == "selectall") {
     NeedArgs(a, 1, "selectall");
-    SetPosition(g, TotalRolls(g) + 1, 1);
+    Require(table.EditRolls(RollFileEdit::SelectAll));
   } else if (sub == "typeover" || sub == "insert") {
     NeedArgs(a, 1, "typeover|insert");
-    g.DiceFile.InsertRolls = sub == "insert";
+    Require(table.SetRollInsert(sub == "insert"));
   } else if (sub == "enter") {
-    if (a.size() == 2 && ToLower(a[1]) == "random") return Check(HandEntryRandom(g), "the entry");
+    if (a.size() == 2 && ToLower(a[1]) == "random") return Require(table.EnterRandomRoll());
     NeedArgs(a, 3, "enter D1 D2|random");
     const int d1 = static_cast<int>(ReadInteger(a[1], 1, 6, "D1"));
     const int d2 = static_cast<int>(ReadInteger(a[2], 1, 6, "D2"));
-    Check(HandEntry(g, d1, d2), "the entry");
+    Require(table.EnterRoll(d1, d2));
   } else if (sub == "copy" || sub == "cut" || sub == "paste" || sub == "delete") {
     NeedArgs(a, 1, "copy|cut|paste|delete");
-    if (sub == "paste" && !ClipboardHasRolls(g)) throw CommandError("the clipboard is empty");
-    const bool done = sub == "copy"  ? CopySelection(g)
-                      : sub == "cut" ? CutSelection(g)
-                      : sub == "paste" ? PasteClipboard(g)
-                                       : DeleteSelection(g);
-    Check(done, sub);
+    Require(table.EditRolls(sub == "copy"  ? RollFileEdit::Copy
+                            : sub == "cut" ? RollFileEdit::Cut
+                            : sub == "paste" ? RollFileEdit::Paste
+                                             : RollFileEdit::Delete));
   } else if (sub == "copyto") {
     NeedArgs(a, 2, "copyto FILE.rol");
-    Check(CopyToRollFile(g, a[1]), "the copy");
+    Require(table.TransferRolls(RollFileTransfer::CopyTo, a[1]));
   } else if (sub == "pastefrom") {
     NeedArgs(a, 2, "pastefrom FILE.rol");
-    Check(PasteFromRollFile(g, a[1]), "the paste");
+    Require(table.TransferRolls(RollFileTransfer::PasteFrom, a[1]));
   } else if (sub == "import") {
     NeedArgs(a, 2, "import FILE.txt");
-    Check(PasteFromTextFile(g, a[1]), "the import");
+    Require(table.TransferRolls(RollFileTransfer::ImportText, a[1]));
   } else if (sub == "export") {
     if (a.size() < 2) throw CommandError("expected: dicefile export FILE.txt [nums] [dice] [calls]");
-    Check(CopyToTextFile(g, a[1], ReadTextOptions(a, 2)), "the export");
+    Require(table.ExportRolls(a[1], ReadTextOptions(a, 2)));
   } else {
     throw CommandError("'" + a[0] +
                        "' is not open, create, close, info, status, position, selectall, typeover, insert, enter, "
@@ -133,15 +124,10 @@ void PlaySession::DiceFile(const Args& a) {
 }
 
 void PlaySession::Pad(const Args& a) {
-  Game& g = *game_;
-  g.KeepRolling = false;
   if (a.size() == 2) {
     const int d1 = static_cast<int>(ReadInteger(a[0], 1, 6, "D1"));
     const int d2 = static_cast<int>(ReadInteger(a[1], 1, 6, "D2"));
-    GoToTable();
-    return PadRoll(g, d1, d2);
+    return NotBusy(table_->PadRoll(d1, d2));
   }
-  const int total = static_cast<int>(ReadInteger(a[0], 2, 12, "TOTAL"));
-  GoToTable();
-  PadRollTotal(g, total);
+  NotBusy(table_->PadTotal(static_cast<int>(ReadInteger(a[0], 2, 12, "TOTAL"))));
 }

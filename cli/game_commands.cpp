@@ -3,8 +3,9 @@
 #include "cli/command_error.h"
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
+#include "cli/table_answer.h"
 #include "engine/game.h"
-#include "store/game_file.h"
+#include "sim/table.h"
 
 namespace {
 
@@ -19,11 +20,11 @@ Json GameJson(const Game& g) {
 }  // namespace
 
 void PlaySession::OpenGameFile(const Args& a) {
-  if (!OpenGame(*game_, a[0])) throw CommandError("\"" + a[0] + "\" was not opened");
-  WriteJsonLine(out_, {{"opened", GameJson(*game_)}});
+  Require(table_->Open(a[0]));
+  WriteJsonLine(out_, {{"opened", GameJson(table_->State())}});
 }
 
 void PlaySession::SaveGameFile(const Args& a) {
-  if (!SaveGame(*game_, a[0])) throw CommandError("\"" + a[0] + "\" was not saved");
-  WriteJsonLine(out_, {{"saved", GameJson(*game_)}});
+  Require(table_->SaveAs(a[0]));
+  WriteJsonLine(out_, {{"saved", GameJson(table_->State())}});
 }

@@ -4,7 +4,7 @@
 #include <iostream>
 
 #include "cli/json_lines.h"
-#include "engine/game.h"
+#include "sim/table.h"
 
 namespace {
 
@@ -124,7 +124,6 @@ std::optional<std::string> HeadlessFrontEnd::AskFileName(const std::string& titl
 }
 
 void HeadlessFrontEnd::LetInputRun() {
-  if (!stop_ || !game_ || !stop_()) return;
-  game_->KeepRolling = false;
-  game_->AutoBetRunning = false;
+  if (!stop_ || !table_ || !stop_()) return;
+  table_->Stop();
 }

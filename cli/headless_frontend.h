@@ -9,7 +9,7 @@
 
 #include "engine/frontend.h"
 
-struct Game;
+class Table;
 
 class HeadlessFrontEnd : public FrontEnd {
  public:
@@ -40,8 +40,8 @@ class HeadlessFrontEnd : public FrontEnd {
   std::optional<std::string> AskFileName(const std::string& title, const std::string& pattern) override;
   // A roll or script pass under way stops at its next chance once `stop`
   // says so (Ctrl-C while a command runs).
-  void StopWhen(Game* g, bool (*stop)()) {
-    game_ = g;
+  void StopWhen(Table* table, bool (*stop)()) {
+    table_ = table;
     stop_ = stop;
   }
   void LetInputRun() override;
@@ -53,6 +53,6 @@ class HeadlessFrontEnd : public FrontEnd {
   std::ostream& out_;
   std::deque<std::string> answers_;
   std::string stopReason_;
-  Game* game_ = nullptr;
+  Table* table_ = nullptr;
   bool (*stop_)() = nullptr;
 };

@@ -4,23 +4,17 @@
 #include <exception>
 #include <iostream>
 
-#include "autoplay/atm.h"
 #include "cli/command_error.h"
 #include "cli/command_words.h"
 #include "cli/data_folder.h"
 #include "cli/interrupt.h"
 #include "cli/json_lines.h"
 #include "cli/settings_registry.h"
+#include "cli/table_answer.h"
 #include "cli/table_state_json.h"
-#include "config/payoffs.h"
-#include "dice/rng.h"
 #include "engine/game.h"
-#include "engine/new_game.h"
-#include "engine/place_bet.h"
-#include "engine/roll.h"
-#include "engine/table_commands.h"
-#include "store/folder_lock.h"
-#include "store/save_prompts.h"
+#include "sim/table.h"
+#include "sim/table_limits.h"
 
 struct PlaySession::Command {
   const char* word;
@@ -39,12 +33,10 @@ Currency ReadForm(const std::string& word) {
   throw CommandError("'" + word + "' is neither to nor for");
 }
 
-// Payoffs and checks within these bounds keep every figure of a game of
-// 100,000,000 rolls inside the money's 64 bits; a game file is held to them too.
-constexpr Currency kLeastUnit = Currency::FromRaw(100);  // a cent
-constexpr Currency kMostPer = 1'000;
-constexpr int64_t kMostRatio = 1'000;
-constexpr Currency kMostChip = 100'000;
+using table_limits::kLeastUnit;
+using table_limits::kMostChip;
+using table_limits::kMostPer;
+using table_limits::kMostRatio;
 
 PayoffRecord ReadPayoff(const std::vector<std::string>& a) {
   PayoffRecord p;
@@ -102,27 +94,22 @@ const std::vector<PlaySession::Command>& PlaySession::Commands() {
 }
 
 PlaySession::PlaySession(std::ostream& out, const PlayOptions& options)
-    : out_(out),
-      ui_(out),
-      game_(std::make_unique<Game>()),
-      folderLock_(std::make_unique<DataFolderLock>()),
-      strict_(options.strict) {
-  game_->Ui = &ui_;
-  ui_.StopWhen(game_.get(), Interrupted);
+    : out_(out), ui_(out), table_(std::make_unique<Table>(ui_)), strict_(options.strict) {
+  ui_.StopWhen(table_.get(), Interrupted);
   Start(options);
   out_.flush();
 }
 
 PlaySession::~PlaySession() = default;
 
+const Game& PlaySession::game() const { return table_->State(); }
+
 void PlaySession::Start(const PlayOptions& options) {
   const auto folder = ChooseDataFolder(options.folder, [](const char* name) { return std::getenv(name); });
   std::string error;
-  if (!EnsureFolder(folder, error))
-    Error(error + "; the built-in defaults stand");
-  else
-    ClaimDataFolder(*game_, *folderLock_, folder);
-  StartUp(*game_, folder.string());
+  const bool made = EnsureFolder(folder, error);
+  if (!made) Error(error + "; the built-in defaults stand");
+  table_->StartUp(folder.string(), made);
   if (!options.gameFile.empty()) RunLine("open \"" + options.gameFile + "\"");
 }
 
@@ -164,128 +151,77 @@ bool PlaySession::RunLine(const std::string& line) {
 
 void PlaySession::Bet(const Args& a) {
   const int id = ReadBetId(a[0]);
-  const Currency amount = ReadAmount(a[1], "AMOUNT");
-  game_->BetChange = amount;
-  PlaceBetOnTable(*game_, id);
+  NotBusy(table_->Bet(id, ReadAmount(a[1], "AMOUNT")));
 }
 
 void PlaySession::Remove(const Args& a) {
-  if (ToLower(a[0]) == "all") return RemoveAllBets(*game_);
-  RemoveBet(*game_, ReadBetId(a[0]));
+  if (ToLower(a[0]) == "all") return NotBusy(table_->RemoveAll());
+  NotBusy(table_->Remove(ReadBetId(a[0])));
 }
 
 void PlaySession::Call(const Args& a) {
   const std::string way = ToLower(a[0]);
   if (way != "on" && way != "off") throw CommandError("'" + a[0] + "' is neither on nor off");
   const bool on = way == "on";
-  if (ToLower(a[1]) == "all") return CallAllBets(*game_, on);
-  CallBet(*game_, ReadBetId(a[1]), on ? kToolCallOn : kToolCallOff);
+  if (ToLower(a[1]) == "all") return NotBusy(table_->CallAll(on));
+  NotBusy(table_->Call(ReadBetId(a[1]), on));
 }
 
-void PlaySession::Buy(const Args& a) {
-  int id = ReadBetId(a[0]);
-  BuyPlaceBet(*game_, id);
-}
+void PlaySession::Buy(const Args& a) { NotBusy(table_->Buy(ReadBetId(a[0]))); }
 
 // --- Rolling -----------------------------------------------------------------
 
 void PlaySession::Roll(const Args& a) {
   if (a.size() == 1) throw CommandError("expected: roll [D1 D2]");
-  Game& g = *game_;
   if (a.size() == 2) {
     const int d1 = static_cast<int>(ReadInteger(a[0], 1, 6, "D1"));
     const int d2 = static_cast<int>(ReadInteger(a[1], 1, 6, "D2"));
-    g.Die1 = d1;
-    g.Die2 = d2;
-    g.DiceAlreadySet = true;
+    return NotBusy(table_->Roll(d1, d2));
   }
-  GoToTable();
-  g.KeepRolling = false;
-  RollDice(g);
+  NotBusy(table_->Roll());
 }
 
 void PlaySession::Hyper(const Args& a) {
-  Game& g = *game_;
-  if (!a.empty()) {
-    const auto n = static_cast<int32_t>(ReadInteger(a[0], 1, MaxRolls, "N"));
-    g.RollCountStop = g.RollCountLeft = n;
-  } else if (g.RollCountLeft <= 0) {
-    throw CommandError("no roll count is set (RollCountLeft is 0), so the run would not end: give N");
-  }
-  g.HyperDriveOn = true;
-  RunAndReport();
+  std::optional<int32_t> rolls;
+  if (!a.empty()) rolls = static_cast<int32_t>(ReadInteger(a[0], 1, MaxRolls, "N"));
+  ReportRun(table_->HyperDrive(rolls));
 }
 
 void PlaySession::AutoRoll(const Args& a) {
-  Game& g = *game_;
-  const auto n = static_cast<int32_t>(ReadInteger(a[0], 1, MaxRolls, "N"));
-  const bool savedOn = g.AutoRollOn;
-  const int32_t savedDelay = g.AutoRollDelay;
-  const int32_t savedLeft = g.RollCountLeft;
-  g.AutoRollOn = true;
-  g.AutoRollDelay = 0;
-  g.RollCountLeft = n;
-  RunAndReport();
-  g.AutoRollOn = savedOn;
-  g.AutoRollDelay = savedDelay;
-  g.RollCountLeft = savedLeft;
+  ReportRun(table_->AutoRoll(static_cast<int32_t>(ReadInteger(a[0], 1, MaxRolls, "N"))));
 }
 
-void PlaySession::RunAndReport() {
-  Game& g = *game_;
-  GoToTable();
-  const int32_t rollsBefore = g.RollCounts[0];
-  ui_.ClearStopReason();
-  g.KeepRolling = true;
-  RollDice(g);
-  // The run is over once RollDice returns, whatever it left behind.
-  g.KeepRolling = false;
-  g.HyperDriveOn = false;
-  const std::string reason = ui_.StopReason().empty() ? g.StopReason : ui_.StopReason();
-  WriteJsonLine(out_, {{"stopped", {{"reason", reason}, {"rolls", g.RollCounts[0] - rollsBefore}}}});
+void PlaySession::ReportRun(const RunResult& run) {
+  Require(run);
+  WriteJsonLine(out_, {{"stopped", {{"reason", run.reason}, {"rolls", run.rolls}}}});
 }
 
 // --- Settings ----------------------------------------------------------------
 
-void PlaySession::Set(const Args& a) {
-  const Json before = ReadSetting(*game_, a[0]);
-  ApplySetting(*game_, a[0], a[1]);
-  if (ReadSetting(*game_, a[0]) != before) game_->GameChanged = true;
-}
+void PlaySession::Set(const Args& a) { ApplySetting(*table_, a[0], a[1]); }
 
 void PlaySession::Get(const Args& a) {
-  WriteJsonLine(out_, {{"setting", {{"name", a[0]}, {"value", ReadSetting(*game_, a[0])}}}});
+  WriteJsonLine(out_, {{"setting", {{"name", a[0]}, {"value", ReadSetting(table_->State(), a[0])}}}});
 }
 
 void PlaySession::Chip(const Args& a) {
   const int n = static_cast<int>(ReadInteger(a[0], 1, 5, "N"));
   const Currency value = ReadAmount(a[1], "VALUE");
   if (value < kLeastUnit || value > kMostChip) throw CommandError("VALUE " + a[1] + " must be from .01 to 100,000");
-  game_->BetAmount[94 + n] = value;
-  game_->GameChanged = true;
+  Require(table_->SetChip(n, value));
 }
 
 void PlaySession::PayoffRow(const Args& a) {
   const int id = static_cast<int>(ReadInteger(a[0], bet::kFirstTableBet, bet::kLastTableBet, "ID"));
-  const PayoffRecord p = ReadPayoff(a);
-  Game& g = *game_;
-  g.Payoff[id] = p;
-  g.GameChanged = true;
-  // The line odds records follow the odds rows of the point.
-  if ((bet::IsComeOdds(id) || bet::IsDontComeOdds(id)) && g.Point != 0) SyncOddsPayoffs(g);
+  Require(table_->SetPayoff(id, ReadPayoff(a)));
 }
 
 void PlaySession::FieldRow(const Args& a) {
-  const int row = static_cast<int>(ReadInteger(a[0], 1, 21, "ROW"));
-  game_->FieldPayoff[row] = ReadPayoff(a);
-  game_->GameChanged = true;
+  const int row = static_cast<int>(ReadInteger(a[0], 1, table_limits::kFieldRows, "ROW"));
+  Require(table_->SetFieldPayoff(row, ReadPayoff(a)));
 }
 
-void PlaySession::Seed(const Args& a) {
-  game_->SeedRequest = ReadAmount(a[0], "N");
-  SeedRNG(*game_, true);
-  game_->GameChanged = true;
-}
+void PlaySession::Seed(const Args& a) { Require(table_->Seed(ReadAmount(a[0], "N"))); }
 
 // --- Game --------------------------------------------------------------------
 
@@ -294,11 +230,12 @@ void PlaySession::Atm(const Args& a) {
   if (word != "withdraw" && word != "deposit") throw CommandError("expected: atm withdraw|deposit AMOUNT");
   const Currency requested = ReadAmount(a[1], "AMOUNT");
   if (requested < 0) throw CommandError("AMOUNT " + a[1] + " must not be negative");
-  Game& g = *game_;
-  const Currency allowed = ::Atm(g, word == "withdraw" ? kAtmWithdraw : kAtmDeposit, requested);
+  const AtmResult r = table_->Atm(word == "withdraw" ? kAtmWithdraw : kAtmDeposit, requested);
+  NotBusy(r);
+  const Game& g = table_->State();
   WriteJsonLine(out_, {{"atm", {{"action", word},
                                 {"requested", MoneyJson(requested)},
-                                {"allowed", MoneyJson(allowed)},
+                                {"allowed", MoneyJson(r.allowed)},
                                 {"bankroll", MoneyJson(g.Bankroll())},
                                 {"amountInvested", MoneyJson(g.AmountInvested)},
                                 {"net", MoneyJson(NetResult(g))}}}});
@@ -310,11 +247,7 @@ void PlaySession::New(const Args& a) {
     if (ToLower(a[0]) != "keep") throw CommandError("expected: new [keep]");
     keep = true;
   }
-  // As the New menu: unsaved work is offered for saving first; Cancel keeps
-  // the game as it is.
-  QuerySaveGame(*game_);
-  if (game_->MsgReply == kMsgCancel) return;
-  NewGame(*game_, keep);
+  NotBusy(table_->New(keep));  // a Cancel keeps the game as it is
 }
 
 void PlaySession::Answer(const Args& a) {
@@ -330,10 +263,12 @@ void PlaySession::Answer(const Args& a) {
   for (const std::string& w : words) ui_.QueueAnswer(w);
 }
 
-void PlaySession::State(const Args&) { WriteJsonLine(out_, {{"state", TableStateJson(*game_)}}); }
+void PlaySession::State(const Args&) { WriteJsonLine(out_, {{"state", TableStateJson(table_->State())}}); }
 
 void PlaySession::Quit(const Args&) {
-  if (!StopProgram(*game_)) return;  // a Cancel keeps the session going
+  const TableResult r = table_->Quit();
+  NotBusy(r);
+  if (r.code == TableCode::Cancelled) return;  // a Cancel keeps the session going
   stopped_ = quit_ = true;
 }
 
@@ -342,9 +277,9 @@ void PlaySession::EndOfInput() {
   stopped_ = true;
   // After a --strict failure nothing more is printed.
   if (ExitStatus() != 0)
-    CloseDown(*game_);
+    table_->CloseDown();
   else
-    StopProgram(*game_, false);
+    table_->Quit(false);
   out_.flush();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 // The `dicemill-cli play` session: commands in, one per line; JSON Lines out.
-// It is a screen without pixels and drives the table only through the same
-// engine routines a click or a key would reach.
+// It is a screen without pixels and drives the table only through its Table,
+// the same front door a window's clicks and keys go through.
 
 #include <istream>
 #include <memory>
@@ -12,7 +12,9 @@
 #include "cli/headless_frontend.h"
 
 struct Game;
-class DataFolderLock;
+struct RunResult;
+struct TableResult;
+class Table;
 
 struct PlayOptions {
   std::string folder;    // empty: chosen from the environment
@@ -39,7 +41,8 @@ class PlaySession {
   // asked, but a Cancel can't keep it going. Runs once.
   void EndOfInput();
 
-  Game& game() { return *game_; }
+  const Game& game() const;
+  Table& table() { return *table_; }
   HeadlessFrontEnd& frontEnd() { return ui_; }
 
  private:
@@ -87,16 +90,12 @@ class PlaySession {
   void Stats(const Args& a);     // cli/roll_stats_commands.cpp
   void Graph(const Args& a);
   void GamesLog(const Args& a);
-  // A changed script offers its first cycle before the table's next roll.
-  void GoToTable();
-
-  // Runs RollDice as a run and prints the `stopped` object.
-  void RunAndReport();
+  // Prints the `stopped` object of a run.
+  void ReportRun(const RunResult& run);
 
   std::ostream& out_;
   HeadlessFrontEnd ui_;
-  std::unique_ptr<Game> game_;
-  std::unique_ptr<DataFolderLock> folderLock_;  // held from the start to the end of the session
+  std::unique_ptr<Table> table_;  // holds the data folder from the start to the end of the session
   bool strict_ = false;
   bool failed_ = false;
   bool quit_ = false;

@@ -100,7 +100,7 @@ TEST(PlaySession, BlankLinesCommentsCaseQuitAndStrict) {
 
 TEST(PlaySession, TableAndConfigurationCommandsReachTheGame) {
   Session s;
-  Game& g = s.play.game();
+  const Game& g = s.play.game();
   EXPECT_TRUE(s.Run("chip 1 0.25\nchip 5 1000").empty());
   EXPECT_EQ(g.BetAmount[95].raw, 2500);
   // WIN is the record's own net amount in either form; the word sets only Form.
@@ -137,8 +137,8 @@ TEST(PlaySession, TableAndConfigurationCommandsReachTheGame) {
 
 TEST(PlaySession, RunsReportHowTheyStoppedAndPutSettingsBack) {
   Session s;
-  Game& g = s.play.game();
-  g.AutoRollDelay = 3;
+  const Game& g = s.play.game();
+  s.Staged().AutoRollDelay = 3;
   const Json stopped = s.Run("autoroll 4").back().at("stopped");
   EXPECT_TRUE(stopped.at("reason").is_string());
   EXPECT_GE(stopped.at("rolls"), 0);
@@ -154,7 +154,7 @@ TEST(PlaySession, RunsReportHowTheyStoppedAndPutSettingsBack) {
   EXPECT_EQ(g.RollCountStop, 7);
   EXPECT_FALSE(g.HyperDriveOn || g.KeepRolling);
   // With a roll count in force a bare `hyper` is a bounded run.
-  g.RollCountLeft = 2;
+  s.Staged().RollCountLeft = 2;
   EXPECT_TRUE(s.Run("hyper").back().contains("stopped"));
 
   // Queued replies wait for the next question, whichever command asks it.
@@ -172,7 +172,7 @@ TEST(PlaySession, AStartRefusedAtTheBankLimitSaysWhy) {
   for (const auto& limit : limits) {
     for (const char* start : {"roll", "roll 3 4", "autoroll 3", "hyper 3"}) {
       Session s;
-      Game& g = s.play.game();
+      Game& g = s.Staged();
       g.Bankroll() = Currency(10'000'000) * limit.sign;
       g.BetAfterRoll[0] = g.Bankroll();  // the limit was broken by an earlier roll
       const auto printed = s.Run(start);

@@ -6,10 +6,11 @@
 #include "cli/command_words.h"
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
+#include "cli/table_answer.h"
 #include "config/settings_table.h"
 #include "dice/prob_table.h"
 #include "engine/game.h"
-#include "store/prob_file.h"
+#include "sim/table.h"
 
 namespace {
 
@@ -78,7 +79,8 @@ Json ProbTableJson(const Game& g) {
 }  // namespace
 
 void PlaySession::Prob(const Args& a) {
-  Game& g = *game_;
+  Table& table = *table_;
+  const Game& g = table.State();
   if (a.empty()) throw CommandError(std::string("expected: ") + kProbUsage);
   const std::string verb = ToLower(a[0]);
   if (verb == "show") {
@@ -86,14 +88,14 @@ void PlaySession::Prob(const Args& a) {
     WriteJsonLine(out_, {{"prob", ProbTableJson(g)}});
   } else if (verb == "reset") {
     ExpectArgs(a, 1, 1);
-    if (NewProbabilities(g)) g.GameChanged = true;  // the game links another file
+    NotBusy(table.ResetProbabilities());
   } else if (verb == "open") {
     ExpectArgs(a, 2, 2);
-    if (QuerySaveProbabilityPage(g) && OpenProbabilityFile(g, a[1])) g.GameChanged = true;
+    NotBusy(table.OpenProbabilities(a[1]));  // a refusal has said why on the screen
   } else if (verb == "save") {
     ExpectArgs(a, 1, 2);
     if (a.size() == 1 && g.ProbFileName == "untitled") throw CommandError("the table has no file yet: give FILE");
-    SaveProbabilityFile(g, a.size() == 2 ? a[1] : g.ProbFileName);
+    NotBusy(table.SaveProbabilities(a.size() == 2 ? a[1] : g.ProbFileName));
   } else if (verb == "set") {
     ExpectArgs(a, 4, 5);
     const ProbPosition cell = ReadBlockCell(a[1], a[2]);
@@ -101,26 +103,22 @@ void PlaySession::Prob(const Args& a) {
     const SettingRow& modes = *FindSettingRow("ProbDisplayMode");
     const auto mode = a.size() == 5 ? static_cast<int32_t>(ReadInteger(a[4], Floor(modes.least), Floor(modes.most), "MODE"))
                                     : g.ProbDisplayMode;
-    const int32_t units = EntryToTableUnits(typed, mode, g.ProbRollsOutOf, cell.row, cell.column);
     // An edit with no free cells left is ignored, as on the screen.
-    if (SetCell(g.Prob, cell.column, cell.row, units)) g.ProbModified = true;
+    NotBusy(table.SetProbabilityCell(cell.row, cell.column, typed, mode));
   } else if (verb == "lock" || verb == "unlock") {
     ExpectArgs(a, 2, 3);
     if (verb == "unlock" && a.size() == 2 && ToLower(a[1]) == "all") {
-      UnlockAll(g.Prob);
+      Require(table.UnlockAllProbabilities());
     } else {
       if (a.size() != 3) throw CommandError(std::string("expected: ") + kProbUsage);
       const ProbPosition cell = ReadBlockCell(a[1], a[2]);
-      const bool isLocked = (g.Prob.at(cell.row, cell.column).flags & kUserLock) != 0;
-      if (isLocked != (verb == "lock")) ToggleLock(g.Prob, cell.row, cell.column);
+      Require(table.LockProbabilityCell(cell.row, cell.column, verb == "lock"));
     }
-    g.ProbModified = true;
   } else if (verb == "axis") {
     ExpectArgs(a, 5, 5);
     const DieAxis axis1 = ReadAxis(a[1]), axis2 = ReadAxis(a[3]);
     const double se1 = ReadEffectiveness(a[2]), se2 = ReadEffectiveness(a[4]);
-    ComputeAxis(g.Prob, axis1, se1, axis2, se2);
-    g.ProbModified = true;
+    Require(table.ComputeProbabilityAxis(axis1, se1, axis2, se2));
   } else {
     throw CommandError("'" + a[0] + "' is not a prob command; expected: " + kProbUsage);
   }

@@ -7,8 +7,9 @@
 #include "cli/command_words.h"
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
+#include "cli/table_answer.h"
 #include "engine/game.h"
-#include "script/hot_key_run.h"
+#include "sim/table.h"
 #include "store/hot_keys_file.h"
 
 namespace {
@@ -50,7 +51,8 @@ std::string BoundFile(const Game& g, const std::string& given) {
 }  // namespace
 
 void PlaySession::HotKey(const Args& a) {
-  Game& g = *game_;
+  Table& table = *table_;
+  const Game& g = table.State();
   const std::string verb = ToLower(a[0]);
   if (verb == "list") {
     ExpectCount(a, 1, 1);
@@ -62,17 +64,15 @@ void PlaySession::HotKey(const Args& a) {
     const std::string file = BoundFile(g, a[2]);
     if (file.size() > kHotKeyFieldBytes || label.size() > kHotKeyFieldBytes)
       throw CommandError("FILE (as a path from the data folder, or whole) and LABEL take at most 100 characters each");
-    if (!DefineHotKey(g, key, file, label)) throw CommandError(HotKeyCaption(key) + " was not defined");
-    if (!SaveHotKeys(g)) throw CommandError(std::string(kHotKeysFileName) + " was not saved");
+    Require(table.DefineHotKey(key, file, label));
   } else if (verb == "clear") {
     ExpectCount(a, 2, 2);
     const char key = ReadKey(a[1]);
-    if (!ClearHotKey(g, key)) throw CommandError(HotKeyCaption(key) + " is not defined");
-    if (!SaveHotKeys(g)) throw CommandError(std::string(kHotKeysFileName) + " was not saved");
+    Require(table.ClearHotKey(key));
   } else {
     ExpectCount(a, 1, 1);
     const char key = ReadKey(a[0]);
-    switch (RunHotKey(g, key)) {
+    switch (table.RunHotKey(key)) {
       case HotKeyOutcome::Ran:
         WriteJsonLine(out_, {{"hotkey", {{"key", std::string(1, key)}, {"file", FindHotKey(g, key)->File}}}});
         break;

@@ -120,11 +120,11 @@ TEST(PromptCommands, EndOfInputAsksEveryQuestionOnce) {
                                   "bet 33 6", "call off all", "roll 3 4", "atm withdraw 10", "autobet on",
                                   "dicefile open " + roll, "dicefile status record", "dicefile close",
                                   "prob reset"}) {
-    s.play.game().GameChanged = false;
+    s.Staged().GameChanged = false;
     s.Run(line);
     EXPECT_TRUE(s.play.game().GameChanged) << line;
   }
-  s.play.game().ScriptDirty = true;
+  s.Staged().ScriptDirty = true;
   s.Run("answer cancel");
   s.out.str("");
   s.play.EndOfInput();

@@ -6,6 +6,8 @@
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
 #include "engine/game.h"
+#include "cli/table_answer.h"
+#include "sim/table.h"
 #include "stats/bankroll_graph.h"
 #include "stats/roll_views.h"
 #include "store/games_log_file.h"
@@ -103,7 +105,7 @@ void ExpectCount(const std::vector<std::string>& a, size_t count, const char* us
 }  // namespace
 
 void PlaySession::Stats(const Args& a) {
-  const Game& g = *game_;
+  const Game& g = table_->State();
   const std::string first = a.empty() ? "" : ToLower(a[0]);
   if (first == "selections") {
     ExpectCount(a, 1, kStatsUsage);
@@ -133,48 +135,46 @@ void PlaySession::Stats(const Args& a) {
 }
 
 void PlaySession::Graph(const Args& a) {
-  Game& g = *game_;
+  Table& table = *table_;
   const std::string what = a.empty() ? "" : ToLower(a[0]);
   if (what.empty()) {
   } else if (what == "average") {
     ExpectCount(a, 2, kGraphUsage);
-    SetMovingAverageRolls(g, static_cast<int32_t>(ReadInteger(a[1], -1'000'000, 1'000'000, "N")));
+    Require(table.SetGraphAverage(static_cast<int32_t>(ReadInteger(a[1], -1'000'000, 1'000'000, "N"))));
   } else if (what == "scale") {
     ExpectCount(a, 2, kGraphUsage);
     const std::string way = ToLower(a[1]);
     if (way != "larger" && way != "smaller") throw CommandError("'" + a[1] + "' is neither larger nor smaller");
-    StepGraphScale(g, way == "larger");
+    Require(table.StepGraph(way == "larger" ? GraphStep::ScaleLarger : GraphStep::ScaleSmaller));
   } else if (what == "move") {
     ExpectCount(a, 2, kGraphUsage);
     const std::string way = ToLower(a[1]);
     if (way != "up" && way != "down") throw CommandError("'" + a[1] + "' is neither up nor down");
-    MoveGraphWindow(g, way == "up");
+    Require(table.StepGraph(way == "up" ? GraphStep::MoveUp : GraphStep::MoveDown));
   } else if (what == "adjust") {
     ExpectCount(a, 2, kGraphUsage);
-    g.AutoAdjustType = static_cast<int32_t>(ReadInteger(a[1], 0, 2, "TYPE"));
-    ResetBankrollGraph(g, false);
+    Require(table.SetGraphAdjust(static_cast<int32_t>(ReadInteger(a[1], 0, 2, "TYPE"))));
   } else if (what == "reflines") {
     if (a.size() == 2 && ToLower(a[1]) == "off") {
-      g.DisplayRefLines = false;
-      g.RefLinePosition = {};
+      Require(table.ClearReferenceLines());
     } else {
       ExpectCount(a, 3, kGraphUsage);
-      g.DisplayRefLines = true;
-      g.RefLinePosition[0] = static_cast<int32_t>(ReadInteger(a[1], 1, graph::kWindowPoints, "P1"));
-      g.RefLinePosition[1] = static_cast<int32_t>(ReadInteger(a[2], 1, graph::kWindowPoints, "P2"));
+      const auto first = static_cast<int32_t>(ReadInteger(a[1], 1, graph::kWindowPoints, "P1"));
+      const auto second = static_cast<int32_t>(ReadInteger(a[2], 1, graph::kWindowPoints, "P2"));
+      Require(table.SetReferenceLines(first, second));
     }
   } else {
     throw CommandError(std::string("expected: ") + kGraphUsage);
   }
-  WriteJsonLine(out_, {{"graph", GraphJson(g)}});
+  WriteJsonLine(out_, {{"graph", GraphJson(table.State())}});
 }
 
 void PlaySession::GamesLog(const Args& a) {
-  Game& g = *game_;
-  if (ToLower(a[0]) == "off") {
-    g.GamesLogFile.clear();
-  } else if (!OpenGamesFile(g, a[0])) {
-    throw CommandError("\"" + a[0] + "\" was not opened");
-  }
+  Table& table = *table_;
+  if (ToLower(a[0]) == "off")
+    Require(table.CloseGamesLog());
+  else
+    Require(table.OpenGamesLog(a[0]));
+  const Game& g = table.State();
   WriteJsonLine(out_, {{"gameslog", g.GamesLogFile.empty() ? Json(nullptr) : Json(g.GamesLogFile)}});
 }

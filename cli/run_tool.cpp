@@ -19,11 +19,9 @@
 #include "cli/script_tool.h"
 #include "cli/terminal_text.h"
 #include "engine/game.h"
-#include "engine/new_game.h"
-#include "engine/roll.h"
 #include "script/checker.h"
-#include "script/script_files.h"
 #include "sim/batch.h"
+#include "sim/table.h"
 
 namespace {
 
@@ -56,15 +54,14 @@ class ScriptReader : public SilentFrontEnd {
 Script ReadScript(const std::string& path, bool unchecked, std::ostream& err) {
   Script script;
   if (path.empty()) return script;
-  Game g;
   ScriptReader reader;
-  g.Ui = &reader;
-  std::string error;
-  if (!OpenScriptFile(g, path, error)) {
-    const std::string why = reader.told.empty() ? TerminalText(error) : reader.told;
+  Table table(reader);
+  const TableResult read = table.ReadScript(path);
+  if (!read.Done()) {
+    const std::string why = reader.told.empty() ? TerminalText(read.text) : reader.told;
     throw Refusal{"--script " + (why.starts_with(path + ":") ? why : path + ": " + why)};
   }
-  script = g.AutoBet;
+  script = table.State().AutoBet;
   if (const std::optional<ScriptFault> fault = CheckScript(script)) {
     const std::string text = ScriptFaultText(path, script, *fault);
     if (!unchecked) throw Refusal{text + "\n(--unchecked runs it anyway)"};
@@ -83,11 +80,10 @@ int64_t CountOption(const std::string& option, const std::string& text, int64_t 
 
 // The generator a game will play when none is given: the table's default.
 int DefaultRng() {
-  Game g;
   SilentFrontEnd ui;
-  g.Ui = &ui;
-  FillDefaults(g);
-  return g.RngChoice + 1;
+  Table table(ui);
+  table.StartFresh();
+  return table.State().RngChoice + 1;
 }
 
 RunOptions ReadRunOptions(const RunToolOptions& o) {

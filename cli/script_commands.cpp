@@ -5,10 +5,9 @@
 #include "cli/command_words.h"
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
+#include "cli/table_answer.h"
 #include "engine/game.h"
-#include "script/interpreter.h"
-#include "script/script_files.h"
-#include "store/small_files.h"
+#include "sim/table.h"
 
 namespace {
 
@@ -31,36 +30,22 @@ Json FlagsJson(const Script& s) {
 }  // namespace
 
 void PlaySession::ScriptFile(const Args& a) {
-  Game& g = *game_;
-  std::string error;
-  if (!OpenScriptFile(g, a[0], error)) throw CommandError(error);
-  ScriptOpened(g);
-  g.AutoBetActivated = true;
+  Require(table_->LoadScript(a[0]));
+  const Game& g = table_->State();
   WriteJsonLine(out_, {{"script", {{"file", g.AutoBet.FileName},
                                    {"lines", g.AutoBet.NumLines()},
                                    {"flags", FlagsJson(g.AutoBet)}}}});
 }
 
 void PlaySession::AutoBet(const Args& a) {
-  Game& g = *game_;
   const std::string w = ToLower(a[0]);
   if (w == "steps") {
     if (a.size() != 2) throw CommandError(std::string("expected: ") + kAutoBetUsage);
-    g.ShowingSteps = ReadOnOff(a[1], kAutoBetUsage);
-    return;
+    return Require(table_->ShowSteps(ReadOnOff(a[1], kAutoBetUsage)));
   }
   if (a.size() != 1) throw CommandError(std::string("expected: ") + kAutoBetUsage);
-  if (w == "run") {
-    if (g.AutoBet.NumLines() == 0) throw CommandError("the script has no lines");
-    RunAutoBet(g);
-    TakeScriptSnapshots(g);
-    return;
-  }
-  const bool on = ReadOnOff(a[0], kAutoBetUsage);
-  if (on != g.AutoBetActivated) g.GameChanged = true;  // the switch is kept with the game
-  g.AutoBetActivated = on;
+  if (w == "run") return Require(table_->RunScriptPass());
+  Require(table_->ActivateScript(ReadOnOff(a[0], kAutoBetUsage)));
 }
 
-void PlaySession::Flags(const Args&) { WriteJsonLine(out_, {{"flags", FlagsJson(game_->AutoBet)}}); }
-
-void PlaySession::GoToTable() { OfferInitialCycle(*game_); }
+void PlaySession::Flags(const Args&) { WriteJsonLine(out_, {{"flags", FlagsJson(table_->State().AutoBet)}}); }

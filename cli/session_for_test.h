@@ -9,6 +9,7 @@
 #include "cli/play_session.h"
 #include "cli/temp_folder_for_test.h"
 #include "engine/game.h"
+#include "sim/table_for_test.h"
 
 struct Session {
   TempFolder folder;
@@ -17,6 +18,8 @@ struct Session {
   explicit Session(bool strict = false, std::string gameFile = "")
       : play(out, PlayOptions{folder.path().string(), std::move(gameFile), strict}) {}
 
+  // A state no command reaches, staged behind the table's back.
+  Game& Staged() { return TableForTest::Staged(play.table()); }
   std::string Path(const char* name) const { return (folder.path() / name).string(); }
   // Runs the lines and returns the objects they printed.
   std::vector<Json> Run(const std::string& lines) {

@@ -1,16 +1,11 @@
 #include "cli/settings_registry.h"
 
-#include <map>
-
 #include "cli/command_error.h"
 #include "cli/command_words.h"
 #include "cli/json_lines.h"
-#include "autoplay/adjust_bet.h"
-#include "autoplay/auto_odds.h"
-#include "config/rules.h"
+#include "cli/table_answer.h"
 #include "config/settings_table.h"
-#include "engine/bet_status.h"
-#include "engine/game.h"
+#include "sim/table.h"
 
 namespace {
 
@@ -41,39 +36,6 @@ Json ValueJson(const SettingRow& row, Currency v) {
   return MoneyJson(v);
 }
 
-int32_t Whole(Currency v) { return static_cast<int32_t>(v.raw / Currency::kScale); }
-
-// Settings whose change does more than store the value: the vig rules are
-// refigured and may be refused, auto-odds and the adjustment act on the
-// table, and some values inside the range mean nothing.
-using Store = void (*)(Game&, int index, Currency value);
-const std::map<std::string, Store>& SpecialStores() {
-  static const std::map<std::string, Store> stores = {
-      {"RoundLayVig", [](Game& g, int, Currency v) { ChangeVigRule(g, VigRule::RoundLayVig, Whole(v)); }},
-      {"RoundBuyVig", [](Game& g, int, Currency v) { ChangeVigRule(g, VigRule::RoundBuyVig, Whole(v)); }},
-      {"ChargeAllLay", [](Game& g, int, Currency v) { ChangeVigRule(g, VigRule::ChargeAllLay, v != 0 ? kTrue : 0); }},
-      {"ChargeAllBuy", [](Game& g, int, Currency v) { ChangeVigRule(g, VigRule::ChargeAllBuy, v != 0 ? kTrue : 0); }},
-      {"AutoTakeFullOdds", [](Game& g, int, Currency v) { SetAutoTakeFullOdds(g, v != 0); }},
-      {"AutoLayFullOdds", [](Game& g, int, Currency v) { SetAutoLayFullOdds(g, v != 0); }},
-      {"AutoAdjustMode", [](Game& g, int, Currency v) { SetAutoAdjustMode(g, Whole(v)); }},
-      {"AllowNegativeBankroll", [](Game& g, int, Currency v) { SetAllowNegativeBankroll(g, v != 0); }},
-      // A change of come-out working status shows at once on a bet that is not called.
-      {"WorkOnComeOut",
-       [](Game& g, int id, Currency v) {
-         g.WorkOnComeOut[id] = v != 0 ? 1 : 0;
-         if (g.BetStatus[id] != 2 && g.BetStatus[id] != -1) SetBetStatusDefault(g, id);
-       }},
-  };
-  return stores;
-}
-
-// Values inside a range that still mean nothing.
-void RefuseGaps(const SettingRow& row, Currency v, const std::string& text) {
-  const std::string name = row.name;
-  if (name == "BarNumber" && v != 2 && v != 12) throw CommandError("BarNumber " + text + " is neither 2 nor 12");
-  if (name == "ModifyUnits" && v == 1) throw CommandError("ModifyUnits 1 is no unit: -1 $, 0 %, 2..6 a check");
-}
-
 struct Found {
   const SettingRow* row;
   int index;
@@ -96,15 +58,11 @@ Found Find(const std::string& fullName) {
 
 }  // namespace
 
-void ApplySetting(Game& g, const std::string& name, const std::string& value) {
+void ApplySetting(Table& table, const std::string& name, const std::string& value) {
   const Found f = Find(name);
-  const Currency v = ReadValue(*f.row, value);
-  RefuseGaps(*f.row, v, value);
-  const auto special = SpecialStores().find(f.row->name);
-  if (special != SpecialStores().end())
-    special->second(g, f.index, v);
-  else
-    f.row->set(g, f.index, v);
+  const TableResult r = table.Set(name, ReadValue(*f.row, value));
+  // A guarded setter that refused has said why on the screen.
+  if (r.code != TableCode::Refused) Require(r);
 }
 
 Json ReadSetting(const Game& g, const std::string& name) {

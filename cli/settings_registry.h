@@ -8,13 +8,13 @@
 #include "cli/json_lines.h"
 
 struct Game;
+class Table;
 
-// Reads `value` as the setting's type, checks it against the setting's range
-// in the table of settings and stores it. The vig rules and
-// AllowNegativeBankroll go through the table's guarded setters, which may
-// refuse with a message of their own. Throws CommandError for an unknown
-// name, a bad index or a bad value, with nothing changed.
-void ApplySetting(Game& g, const std::string& name, const std::string& value);
+// Reads `value` as the setting's type and range in the table of settings
+// and hands it to the table. The vig rules and AllowNegativeBankroll may be
+// refused by the table with a message of their own. Throws CommandError for
+// an unknown name, a bad index or a bad value, with nothing changed.
+void ApplySetting(Table& table, const std::string& name, const std::string& value);
 
 // The setting's value: money as an exact number, flags as true/false.
 Json ReadSetting(const Game& g, const std::string& name);

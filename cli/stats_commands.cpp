@@ -9,6 +9,7 @@
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
 #include "engine/game.h"
+#include "sim/table.h"
 #include "sim/hyper_drive.h"
 #include "stats/bet_results.h"
 #include "stats/bet_results_view.h"
@@ -68,7 +69,7 @@ Json RowJson(const BetResultRow& row) {
 void PlaySession::Results(const Args& a) {
   const std::vector<int> ids = ReadBetSelection(a[0]);
   const int kind = a.size() > 1 ? ReadKind(a[1]) : results::kActual;
-  const BetResultsView view = CombinedBetResults(*game_, ids, kind);
+  const BetResultsView view = CombinedBetResults(table_->State(), ids, kind);
   Json rows = Json::array();
   for (const BetResultRow& row : view.Rows) rows.push_back(RowJson(row));
   WriteJsonLine(out_, {{"results", {{"kind", kind == results::kActual ? "actual" : "phantom"},
@@ -83,7 +84,7 @@ void PlaySession::Results(const Args& a) {
 
 void PlaySession::Summary(const Args&) {
   Json rows = Json::array();
-  for (const SummaryRow& row : ShowSummary(*game_)) {
+  for (const SummaryRow& row : table_->Summary()) {
     Json j = {{"label", row.Label}, {"value", row.Value}};
     if (!row.Share.empty()) j["share"] = row.Share;
     rows.push_back(j);
@@ -93,7 +94,7 @@ void PlaySession::Summary(const Args&) {
 
 void PlaySession::Trends(const Args&) {
   Json rows = Json::array();
-  for (const BetTrendRow& row : BetTrendRows(*game_))
+  for (const BetTrendRow& row : BetTrendRows(table_->State()))
     rows.push_back({{"id", row.BetId}, {"name", row.Name}, {"results", row.Results}, {"span", row.Span}});
   WriteJsonLine(out_, {{"trends", {{"heading", kBetTrendsHeading}, {"bets", rows}}}});
 }

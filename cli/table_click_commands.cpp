@@ -6,9 +6,9 @@
 #include "cli/command_words.h"
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
+#include "cli/table_answer.h"
 #include "engine/game.h"
-#include "engine/table_commands.h"
-#include "sim/hyper_drive.h"
+#include "sim/table.h"
 
 namespace {
 
@@ -36,16 +36,18 @@ void PlaySession::Click(const Args& a) {
     if (ToLower(a[1]) != "shift") throw CommandError("expected: click ID [shift]");
     shift = true;
   }
-  ClickBet(*game_, id, shift);
+  NotBusy(table_->Click(id, shift));
 }
 
 void PlaySession::Enter(const Args& a) {
   const int id = ReadBetId(a[0]);
-  if (!CommitEnteredBet(*game_, id, a[1])) throw CommandError("'" + a[1] + "' is not an amount");
+  Require(table_->Enter(id, a[1]));
 }
 
 void PlaySession::Rate(const Args& a) {
   const Currency value = ReadAmount(a[0], "VALUE");
-  if (SetRollsPerHour(*game_, value, ReadRateUnit(a[1])))
-    WriteJsonLine(out_, {{"setting", {{"name", "SimRollRate"}, {"value", MoneyJson(game_->SimRollRate)}}}});
+  const TableResult r = table_->SetRollRate(value, ReadRateUnit(a[1]));
+  NotBusy(r);  // a rate out of limits has said why on the screen
+  if (r.Done())
+    WriteJsonLine(out_, {{"setting", {{"name", "SimRollRate"}, {"value", MoneyJson(table_->State().SimRollRate)}}}});
 }

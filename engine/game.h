@@ -18,6 +18,7 @@
 #include "engine/catalogue.h"
 #include "engine/frontend.h"
 #include "engine/money.h"
+#include "engine/settlement_log.h"
 #include "script/script.h"
 #include "store/game_file_extras.h"
 
@@ -76,6 +77,7 @@ struct Game {
   Currency BetChange;          // input of PlaceBet
   Currency BetChangeAllowed;   // output of PlaceBet
   std::array<int32_t, 20> HandStats{};
+  SettlementLog Settlements;  // this roll's decisions, cleared as the dice go out
   std::string MsgText, MsgTitle;  // the pending message
   std::string ErrorText;          // pending run-time error text, shown by the roll
 

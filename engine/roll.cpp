@@ -108,6 +108,7 @@ void Finish(Game& g) {
 }
 
 void TakeSnapshots(Game& g) {
+  g.Settlements.Clear();
   g.BetAtRollStart = g.BetAmount;
   g.BetStreak[0] = g.BetStreak[1];
   MoveResultMarks(g);  // reads the last roll's DiceTotal and PointBeforeRoll

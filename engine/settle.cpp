@@ -88,6 +88,7 @@ void KeepStreak(Game& g, int betId) {
   const Currency amount = g.BetAmount[betId];
   FigurePayoff(g, 1, betId, outcome, amount);
   BookBetResult(g, results::kActual, betId, amount, g.NetPayoff);
+  g.Settlements.Add(betId, outcome, amount, g.NetPayoff);
   if (g.Payoff[0].Win == 0 && g.NetPayoff == 0) return;  // a push: nothing happened
 
   g.Bankroll() += g.NetPayoff;
@@ -115,6 +116,7 @@ void KeepStreak(Game& g, int betId) {
 [[gnu::noinline]] void ReturnIdleOdds(Game& g, int outcome, int betId) {
   if (g.BetAmount[betId] == 0 || outcome == 1 || outcome == -1) return;
   g.NetPayoff = 0;
+  g.Settlements.Add(betId, outcome, g.BetAmount[betId], Currency{});
   g.BetComesDown = g.BetAmount[bet::ParentOf(betId)] == 0 || !g.AllowPutBets;
   if (!g.BetComesDown) {
     g.Payoff[0].Per = g.Payoff[betId].Per;

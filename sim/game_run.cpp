@@ -13,6 +13,7 @@
 #include "engine/roll.h"
 #include "script/interpreter.h"
 #include "script/values.h"
+#include "sim/fresh_table.h"
 #include "sim/hyper_drive.h"
 #include "stats/bet_results.h"
 #include "store/file_read.h"
@@ -107,13 +108,7 @@ void SetUpTable(Game& g, const RunOptions& options, int64_t seed, RunnerFrontEnd
   if (!options.GameFile.empty()) {
     OpenSavedGame(g, options, ui);
   } else {
-    g.ReSeedNewGames = false;
-    FillDefaults(g);
-    if (options.Bankroll) {
-      g.BankrollInitType = 0;
-      g.BankrollInitAmount = *options.Bankroll;
-    }
-    NewGame(g, false);
+    SetUpFreshTable(g, FreshTable{false, options.Bankroll});
   }
   if (options.Rng != 0) g.RngChoice = options.Rng - 1;
   if (!options.ReSeed) return;
@@ -184,8 +179,8 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
     StartScript(g, Script(g.AutoBet));  // a saved game whose first cycle was still due
   }
   g.RollCountStop = g.RollCountLeft = static_cast<int32_t>(options.Rolls);
-  g.KeepRolling = true;
-  if (!control.Stop.load()) RollDice(g);
+  g.KeepRolling = false;
+  if (!control.Stop.load()) StartHyperDrive(g);
   g.KeepRolling = g.HyperDriveOn = false;
   ui.Publish();
   if (control.Series) control.Series->EndGame(index);
