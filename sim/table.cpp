@@ -14,8 +14,8 @@
 #include "store/save_prompts.h"
 
 Table::Table(FrontEnd& screen)
-    : game_(std::make_unique<Game>()),
-      relay_(std::make_unique<TableRelay>(screen, [this] { Publish(); })),
+    : relay_(std::make_unique<TableRelay>(screen, [this] { Publish(); })),
+      game_(std::make_unique<Game>()),
       folderLock_(std::make_unique<DataFolderLock>()) {
   game_->Ui = relay_.get();
   told_ = TakeTableSnapshot(*game_);

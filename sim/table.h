@@ -188,11 +188,11 @@ class Table {
   void GoToTable();
   TableResult MarkUnsavedIf(bool changed);
 
-  std::unique_ptr<Game> game_;
+  // The relay outlives the game, whose files may still speak as they close.
   std::unique_ptr<TableRelay> relay_;
+  std::unique_ptr<Game> game_;
   std::unique_ptr<DataFolderLock> folderLock_;
   std::vector<TableListener*> listeners_;
   TableSnapshot told_;  // what the listeners were last told
   bool busy_ = false;
-  std::string stopReason_;  // the reason the last roll reported
 };

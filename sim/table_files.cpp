@@ -49,15 +49,17 @@ TableResult Table::Save() {
 
 TableResult Table::OpenGamesLog(const std::string& path) {
   return Command([&](Game& g) {
+    const std::string before = g.GamesLogFile;
     if (!OpenGamesFile(g, path)) return NotDone("\"" + path + "\" was not opened");
-    return TableResult{};
+    return MarkUnsavedIf(g.GamesLogFile != before);  // the game links another file
   });
 }
 
 TableResult Table::CloseGamesLog() {
   return Command([&](Game& g) {
+    const bool linked = !g.GamesLogFile.empty();
     g.GamesLogFile.clear();
-    return TableResult{};
+    return MarkUnsavedIf(linked);
   });
 }
 
