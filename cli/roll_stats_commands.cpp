@@ -10,7 +10,6 @@
 #include "sim/table.h"
 #include "stats/bankroll_graph.h"
 #include "stats/roll_views.h"
-#include "store/games_log_file.h"
 
 namespace {
 

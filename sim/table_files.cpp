@@ -44,7 +44,8 @@ TableResult Table::SaveAs(const std::string& path) {
 
 TableResult Table::Save() {
   if (game_->GameFileName.empty()) return TableResult::Fail(TableCode::NotDone, "the game has no file yet: save it as one");
-  return SaveAs(game_->GameFileName);
+  const std::string file = game_->GameFileName;  // the save sets the name again
+  return SaveAs(file);
 }
 
 TableResult Table::OpenGamesLog(const std::string& path) {
