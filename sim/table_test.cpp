@@ -142,6 +142,7 @@ class Recorder : public TableListener {
   }
   void StatisticsRefreshed() override { Note("stats"); }
   void SettingChanged(const std::string& name) override { Note("setting " + name); }
+  void ChipStacksChanged() override { Note("stacks"); }
   void UnsavedChanged(bool unsaved) override { Note(unsaved ? "unsaved" : "saved"); }
   void RunStarted() override { Note("run"); }
   void RunStopped(const std::string& reason) override { Note("stopped " + reason); }
@@ -162,6 +163,7 @@ TEST(Table, CommandsTellTheirListenersWhatChanged) {
   f.table.Roll(1, 3);
   f.table.Set("TableMinimum", 5);
   f.table.Set("TableMinimum", 5);  // no change: nothing told
+  f.table.Bet(bet::kFirstStack + 1, 5);
   f.table.HyperDrive(2);
   const size_t beforeAutoRoll = heard.seen.size();
   f.table.AutoRoll(3);
@@ -169,7 +171,7 @@ TEST(Table, CommandsTellTheirListenersWhatChanged) {
       "bet 43 0>10", "bankroll 500 rail 490", "unsaved",  // the bet stands on the layout, off the rail
       "dice 22", "point 4", "settled", "stats",
       "dice 13", "point 0", "bankroll 510 rail 500", "settled 43:1:10", "stats",
-      "setting TableMinimum", "run"};
+      "setting TableMinimum", "stacks", "run"};
   ASSERT_GE(heard.seen.size(), expected.size());
   EXPECT_EQ(std::vector<std::string>(heard.seen.begin(), heard.seen.begin() + expected.size()), expected);
   // Hyper-Drive tells one set of changes at its end; each Auto-Roll roll is told.
