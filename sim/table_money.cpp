@@ -82,6 +82,12 @@ TableResult Table::SetFieldPayoff(int row, const PayoffRecord& payoff) {
     if (payoff.Win < -payoff.Per)
       return TableResult::Fail(TableCode::OutOfRange, "The loss on any Field payoff cannot exceed the amount wagered.",
                                "Payoff ratio error on Field");
+    // Worded as the configuration check words it, spelling and all.
+    bool anyWins = payoff.Win > 0;
+    for (int other = 1; other <= kFieldRows; ++other) anyWins = anyWins || (other != row && g.FieldPayoff[other].Win > 0);
+    if (!anyWins)
+      return TableResult::Fail(TableCode::OutOfRange, "At least one of the Field payoffs must be postiive.",
+                               "Payoff error on Field");
     g.FieldPayoff[row] = payoff;
     return MarkUnsavedIf(true);
   });
