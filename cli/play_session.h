@@ -13,7 +13,6 @@
 
 struct Game;
 struct RunResult;
-struct TableResult;
 class Table;
 
 struct PlayOptions {
