@@ -165,7 +165,8 @@ TableResult Table::SetClickTool(int tool) { return Set("ClickTool", tool); }
 
 TableResult Table::Enter(int betId, const std::string& text) {
   return Command([&](Game& g) {
-    if (!CommitEnteredBet(g, betId, text)) return TableResult::Fail(TableCode::WrongType, "'" + text + "' is not an amount");
+    if (!CommitEnteredBet(g, betId, text))
+      return TableResult::Fail(TableCode::WrongType, "'" + text + "' is not an amount");
     return TableResult{};
   });
 }

@@ -70,13 +70,18 @@ TableResult Table::EditRolls(RollFileEdit edit) {
   return Command([&](Game& g) {
     if (!g.DiceFile.File.IsOpen()) return NoFile();
     switch (edit) {
-      case RollFileEdit::SelectAll: SetPosition(g, TotalRolls(g) + 1, 1); return TableResult{};
-      case RollFileEdit::Copy: return CopySelection(g) ? TableResult{} : NotDone("copy");
-      case RollFileEdit::Cut: return CutSelection(g) ? TableResult{} : NotDone("cut");
+      case RollFileEdit::SelectAll:
+        SetPosition(g, TotalRolls(g) + 1, 1);
+        return TableResult{};
+      case RollFileEdit::Copy:
+        return CopySelection(g) ? TableResult{} : NotDone("copy");
+      case RollFileEdit::Cut:
+        return CutSelection(g) ? TableResult{} : NotDone("cut");
       case RollFileEdit::Paste:
         if (!ClipboardHasRolls(g)) return TableResult::Fail(TableCode::NotDone, "the clipboard is empty");
         return PasteClipboard(g) ? TableResult{} : NotDone("paste");
-      case RollFileEdit::Delete: return DeleteSelection(g) ? TableResult{} : NotDone("delete");
+      case RollFileEdit::Delete:
+        return DeleteSelection(g) ? TableResult{} : NotDone("delete");
     }
     return TableResult{};
   });
@@ -86,9 +91,12 @@ TableResult Table::TransferRolls(RollFileTransfer transfer, const std::string& p
   return Command([&](Game& g) {
     if (!g.DiceFile.File.IsOpen()) return NoFile();
     switch (transfer) {
-      case RollFileTransfer::CopyTo: return CopyToRollFile(g, path) ? TableResult{} : NotDone("the copy");
-      case RollFileTransfer::PasteFrom: return PasteFromRollFile(g, path) ? TableResult{} : NotDone("the paste");
-      case RollFileTransfer::ImportText: return PasteFromTextFile(g, path) ? TableResult{} : NotDone("the import");
+      case RollFileTransfer::CopyTo:
+        return CopyToRollFile(g, path) ? TableResult{} : NotDone("the copy");
+      case RollFileTransfer::PasteFrom:
+        return PasteFromRollFile(g, path) ? TableResult{} : NotDone("the paste");
+      case RollFileTransfer::ImportText:
+        return PasteFromTextFile(g, path) ? TableResult{} : NotDone("the import");
     }
     return TableResult{};
   });

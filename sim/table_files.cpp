@@ -43,7 +43,8 @@ TableResult Table::SaveAs(const std::string& path) {
 }
 
 TableResult Table::Save() {
-  if (game_->GameFileName.empty()) return TableResult::Fail(TableCode::NotDone, "the game has no file yet: save it as one");
+  if (game_->GameFileName.empty())
+    return TableResult::Fail(TableCode::NotDone, "the game has no file yet: save it as one");
   const std::string file = game_->GameFileName;  // the save sets the name again
   return SaveAs(file);
 }

@@ -31,7 +31,8 @@ std::optional<std::string> ChipsFault(const std::array<Currency, kChips>& values
   for (int i = 0; i < kChips; ++i) {
     if (values[i] <= 0) return "Check values must be greater than zero.";
     if (i > 0 && values[i] < values[i - 1])
-      return "Checks must be listed in ascending order with the " + br + "smallest valued check in the leftmost position.";
+      return "Checks must be listed in ascending order with the " + br +
+             "smallest valued check in the leftmost position.";
     if (values[i].raw % values[0].raw != 0) return "All checks must be wholly divisible by the smallest check.";
     if (values[i] < kLeastUnit || values[i] > kMostChip) return "Check values run from .01 to 100,000.";
   }
@@ -60,7 +61,8 @@ TableResult Table::SetChips(const std::array<Currency, kChips>& values) {
 
 TableResult Table::SetPayoff(int betId, const PayoffRecord& payoff) {
   return Command([&](Game& g) {
-    if (!bet::IsTableBet(betId)) return TableResult::Fail(TableCode::Unknown, "no table bet has the number " + std::to_string(betId));
+    if (!bet::IsTableBet(betId))
+      return TableResult::Fail(TableCode::Unknown, "no table bet has the number " + std::to_string(betId));
     if (const auto fault = PayoffOutOfBounds(payoff)) return TableResult::Fail(TableCode::OutOfRange, *fault);
     // The payoff grid's own check: no bet of the grid pays nothing.
     bool inGrid = false;
@@ -84,7 +86,8 @@ TableResult Table::SetFieldPayoff(int row, const PayoffRecord& payoff) {
                                "Payoff ratio error on Field");
     // Worded as the configuration check words it, spelling and all.
     bool anyWins = payoff.Win > 0;
-    for (int other = 1; other <= kFieldRows; ++other) anyWins = anyWins || (other != row && g.FieldPayoff[other].Win > 0);
+    for (int other = 1; other <= kFieldRows; ++other)
+      anyWins = anyWins || (other != row && g.FieldPayoff[other].Win > 0);
     if (!anyWins)
       return TableResult::Fail(TableCode::OutOfRange, "At least one of the Field payoffs must be postiive.",
                                "Payoff error on Field");
@@ -104,8 +107,9 @@ AtmResult Table::Atm(AtmAction action, Currency amount) {
     r.allowed = ::Atm(g, action, amount);
     if (r.allowed != amount) {
       // Masked notices are not composed: the cut is told in the notice's own first lines.
-      const TableResult told = Told(*relay_, TableCode::Refused,
-                                    "Requested amount:  " + Dollars(amount) + kBreak + "Allowed amount:  " + Dollars(r.allowed));
+      const TableResult told =
+          Told(*relay_, TableCode::Refused,
+               "Requested amount:  " + Dollars(amount) + kBreak + "Allowed amount:  " + Dollars(r.allowed));
       static_cast<TableResult&>(r) = told;
     }
     return r;

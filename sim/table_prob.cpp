@@ -7,8 +7,8 @@
 namespace {
 
 TableResult NotACell(int row, int column) {
-  return TableResult::Fail(TableCode::Unknown,
-                           "row " + std::to_string(row) + " column " + std::to_string(column) + " is not a cell of the table");
+  return TableResult::Fail(TableCode::Unknown, "row " + std::to_string(row) + " column " + std::to_string(column) +
+                                                   " is not a cell of the table");
 }
 
 }  // namespace

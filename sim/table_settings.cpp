@@ -89,14 +89,18 @@ Found Find(const std::string& fullName) {
 TableResult CheckValue(const SettingRow& row, Currency v) {
   const std::string name = row.name;
   const bool whole = v.raw % Currency::kScale == 0;
-  if (row.type == SettingType::Flag && v != 0 && v != 1) return TableResult::Fail(TableCode::WrongType, name + " is a flag: 0 or 1");
-  if (row.type == SettingType::Integer && !whole) return TableResult::Fail(TableCode::WrongType, name + " takes a whole number");
+  if (row.type == SettingType::Flag && v != 0 && v != 1)
+    return TableResult::Fail(TableCode::WrongType, name + " is a flag: 0 or 1");
+  if (row.type == SettingType::Integer && !whole)
+    return TableResult::Fail(TableCode::WrongType, name + " takes a whole number");
   if (v < row.least)
-    return TableResult::Fail(TableCode::OutOfRange, name + " " + FormatNumberWithCommas(v) +
-                                                        " is below the least allowed, " + FormatNumberWithCommas(row.least));
+    return TableResult::Fail(
+        TableCode::OutOfRange,
+        name + " " + FormatNumberWithCommas(v) + " is below the least allowed, " + FormatNumberWithCommas(row.least));
   if (v > row.most)
-    return TableResult::Fail(TableCode::OutOfRange, name + " " + FormatNumberWithCommas(v) +
-                                                        " is above the most allowed, " + FormatNumberWithCommas(row.most));
+    return TableResult::Fail(
+        TableCode::OutOfRange,
+        name + " " + FormatNumberWithCommas(v) + " is above the most allowed, " + FormatNumberWithCommas(row.most));
   if (name == "BarNumber" && v != 2 && v != 12)
     return TableResult::Fail(TableCode::OutOfRange, "BarNumber " + std::to_string(Whole(v)) + " is neither 2 nor 12");
   if (name == "ModifyUnits" && v == 1)
@@ -114,11 +118,12 @@ TableResult Table::Set(const std::string& name, Currency value) {
     if (TableResult bad = CheckValue(*f.row, value); !bad.Done()) return bad;
     const Currency before = f.row->get(g, f.index);
     const auto special = SpecialStores().find(f.row->name);
-    const bool taken = special == SpecialStores().end() ? (f.row->set(g, f.index, value), true)
-                                                        : special->second(g, f.index, value);
+    const bool taken =
+        special == SpecialStores().end() ? (f.row->set(g, f.index, value), true) : special->second(g, f.index, value);
     const bool changed = f.row->get(g, f.index) != before;
     if (changed) {
-      const std::string shown = f.row->IsArray() ? std::string(f.row->name) + "." + std::to_string(f.index) : f.row->name;
+      const std::string shown =
+          f.row->IsArray() ? std::string(f.row->name) + "." + std::to_string(f.index) : f.row->name;
       for (TableListener* l : listeners_) l->SettingChanged(shown);
     }
     MarkUnsavedIf(changed);

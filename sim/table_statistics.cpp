@@ -33,10 +33,18 @@ TableResult Table::StepGraph(GraphStep step) {
   Game& g = *game_;
   const auto before = GraphView(g);
   switch (step) {
-    case GraphStep::ScaleLarger: StepGraphScale(g, true); break;
-    case GraphStep::ScaleSmaller: StepGraphScale(g, false); break;
-    case GraphStep::MoveUp: MoveGraphWindow(g, true); break;
-    case GraphStep::MoveDown: MoveGraphWindow(g, false); break;
+    case GraphStep::ScaleLarger:
+      StepGraphScale(g, true);
+      break;
+    case GraphStep::ScaleSmaller:
+      StepGraphScale(g, false);
+      break;
+    case GraphStep::MoveUp:
+      MoveGraphWindow(g, true);
+      break;
+    case GraphStep::MoveDown:
+      MoveGraphWindow(g, false);
+      break;
   }
   return MarkUnsavedIf(GraphView(g) != before);
 }
@@ -54,7 +62,8 @@ TableResult Table::SetGraphAdjust(int32_t type) {
 TableResult Table::SetReferenceLines(int32_t first, int32_t second) {
   return Command([&](Game& g) {
     if (first < 1 || first > graph::kWindowPoints || second < 1 || second > graph::kWindowPoints)
-      return TableResult::Fail(TableCode::OutOfRange, "the lines stand on points 1 to " + std::to_string(graph::kWindowPoints));
+      return TableResult::Fail(TableCode::OutOfRange,
+                               "the lines stand on points 1 to " + std::to_string(graph::kWindowPoints));
     const auto before = GraphView(g);
     g.DisplayRefLines = true;
     g.RefLinePosition = {first, second};

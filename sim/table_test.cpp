@@ -40,10 +40,16 @@ TEST(Table, CommandsAnswerAndMarkTheGameUnsaved) {
       {"auto-roll of none", [](Table& t) { return t.AutoRoll(0); }, TableCode::OutOfRange, false},
       {"chip", [](Table& t) { return t.SetChip(1, Currency::FromRaw(2500)); }, TableCode::Done, true},
       {"chip of nothing", [](Table& t) { return t.SetChip(1, 0); }, TableCode::OutOfRange, false},
-      {"checks out of order", [](Table& t) { return t.SetChips({5, 1, 25, 100, 500}); }, TableCode::OutOfRange, false},
+      {"checks out of order",
+       [](Table& t) {
+         return t.SetChips({5, 1, 25, 100, 500});
+       },
+       TableCode::OutOfRange, false},
       {"payoff", [](Table& t) { return t.SetPayoff(62, Pays(15, 2)); }, TableCode::Done, true},
-      {"payoff of nothing", [](Table& t) { return t.SetPayoff(bet::Place(6), Pays(0, 1)); }, TableCode::OutOfRange, false},
-      {"field loss beyond the bet", [](Table& t) { return t.SetFieldPayoff(5, Pays(-2, 1)); }, TableCode::OutOfRange, false},
+      {"payoff of nothing", [](Table& t) { return t.SetPayoff(bet::Place(6), Pays(0, 1)); }, TableCode::OutOfRange,
+       false},
+      {"field loss beyond the bet", [](Table& t) { return t.SetFieldPayoff(5, Pays(-2, 1)); }, TableCode::OutOfRange,
+       false},
       {"atm", [](Table& t) { return t.Atm(kAtmWithdraw, 100); }, TableCode::Done, true},
       {"atm beyond the bankroll",
        [](Table& t) {
@@ -100,8 +106,8 @@ TEST(Table, BadSettingsAreAnsweredWithNothingChanged) {
     TableCode code;
   } cases[] = {
       {"NoSuchSetting", 1, TableCode::Unknown},
-      {"StopOnRoll", 1, TableCode::Unknown},     // an array needs its index
-      {"StopOnRoll.17", 1, TableCode::Unknown},  // beyond its last
+      {"StopOnRoll", 1, TableCode::Unknown},      // an array needs its index
+      {"StopOnRoll.17", 1, TableCode::Unknown},   // beyond its last
       {"TableMinimum.1", 5, TableCode::Unknown},  // a single value takes none
       {"AllowPutBets", 2, TableCode::WrongType},
       {"RollCountLeft", Currency::FromRaw(15000), TableCode::WrongType},
@@ -131,7 +137,9 @@ class Recorder : public TableListener {
   void BetChanged(int betId, Currency before, Currency after) override {
     Note("bet " + std::to_string(betId) + " " + Text(before) + ">" + Text(after));
   }
-  void BankrollChanged(Currency bankroll, Currency rail) override { Note("bankroll " + Text(bankroll) + " rail " + Text(rail)); }
+  void BankrollChanged(Currency bankroll, Currency rail) override {
+    Note("bankroll " + Text(bankroll) + " rail " + Text(rail));
+  }
   void PointChanged(int point) override { Note("point " + std::to_string(point)); }
   void DiceThrown(int die1, int die2) override { Note("dice " + std::to_string(die1) + std::to_string(die2)); }
   void RollFinished(std::span<const Settlement> settled) override {
@@ -167,11 +175,21 @@ TEST(Table, CommandsTellTheirListenersWhatChanged) {
   f.table.HyperDrive(2);
   const size_t beforeAutoRoll = heard.seen.size();
   f.table.AutoRoll(3);
-  const std::vector<std::string> expected = {
-      "bet 43 0>10", "bankroll 500 rail 490", "unsaved",  // the bet stands on the layout, off the rail
-      "dice 22", "point 4", "settled", "stats",
-      "dice 13", "point 0", "bankroll 510 rail 500", "settled 43:1:10", "stats",
-      "setting TableMinimum", "stacks", "run"};
+  const std::vector<std::string> expected = {"bet 43 0>10",
+                                             "bankroll 500 rail 490",
+                                             "unsaved",  // the bet stands on the layout, off the rail
+                                             "dice 22",
+                                             "point 4",
+                                             "settled",
+                                             "stats",
+                                             "dice 13",
+                                             "point 0",
+                                             "bankroll 510 rail 500",
+                                             "settled 43:1:10",
+                                             "stats",
+                                             "setting TableMinimum",
+                                             "stacks",
+                                             "run"};
   ASSERT_GE(heard.seen.size(), expected.size());
   EXPECT_EQ(std::vector<std::string>(heard.seen.begin(), heard.seen.begin() + expected.size()), expected);
   // Hyper-Drive tells one set of changes at its end; each Auto-Roll roll is told.
