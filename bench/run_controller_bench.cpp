@@ -5,7 +5,9 @@
 #include "test_paths.h"
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "dice/rng.h"
 #include "engine/game.h"
@@ -71,13 +73,19 @@ void BM_RunControllerHyperDrive(benchmark::State& state) {
   RunController rc(g, screen, queue.Poster());
   Measure(state, g, [&] {
     rc.Start(RunKind::HyperDrive);
-    queue.PumpUntil([&] { return !rc.Running(); });
+    queue.RunUntil([&] { return !rc.Running(); });
     rc.Wait();
   });
 }
 
 }  // namespace
 
-// Wall time: the controller's run is on another thread.
-BENCHMARK(BM_HyperDriveOnCallersThread)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(BM_RunControllerHyperDrive)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->UseRealTime();
+// The process's CPU time: the controller's run is on another thread, and on
+// a shared machine wall time measures the neighbours more than the run. The
+// least of the repetitions is the steadiest figure there.
+double Least(const std::vector<double>& v) { return *std::min_element(v.begin(), v.end()); }
+
+BENCHMARK(BM_HyperDriveOnCallersThread)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()
+    ->ComputeStatistics("min", Least);
+BENCHMARK(BM_RunControllerHyperDrive)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()
+    ->ComputeStatistics("min", Least);

@@ -65,7 +65,10 @@ RunEnd Control(RunKind kind, TaskQueue& queue, RunController& rc) {
   RunEnd end;
   rc.OnFinished([&](const RunEnd& e) { end = e; });
   EXPECT_TRUE(rc.Start(kind));
-  EXPECT_TRUE(queue.PumpUntil([&] { return !rc.Running(); }));
+  if (!queue.PumpUntil([&] { return !rc.Running(); })) {
+    ADD_FAILURE() << "the run did not end";
+    rc.Stop();  // so that Wait() below need not answer for the run
+  }
   rc.Wait();
   return end;
 }

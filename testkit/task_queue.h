@@ -23,6 +23,22 @@ class TaskQueue {
     posted_.notify_one();
   }
 
+  // Runs the posted tasks here until `done()`, which only a task can turn
+  // on, holds. Sleeps between tasks, as an idle front end does.
+  template <typename Done>
+  void RunUntil(Done done) {
+    while (!done()) {
+      std::function<void()> task;
+      {
+        std::unique_lock lock(mutex_);
+        posted_.wait(lock, [&] { return !tasks_.empty(); });
+        task = std::move(tasks_.front());
+        tasks_.pop_front();
+      }
+      task();
+    }
+  }
+
   // Runs the posted tasks here until `done()` holds; false if it still does
   // not after `limit`.
   template <typename Done>
