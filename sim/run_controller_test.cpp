@@ -90,7 +90,7 @@ TEST(RunController, EndsWithTheTableTheSameRunLeavesOnTheCallersThread) {
     EXPECT_EQ(there.g.RollCounts[0], c.rolls);
     EXPECT_EQ(there.g.RollCounts, here.g.RollCounts);
     EXPECT_EQ(there.g.BetAmount, here.g.BetAmount);
-    EXPECT_EQ(there.g.Die1 * 10 + there.g.Die2, here.g.Die1 * 10 + here.g.Die2);
+    EXPECT_EQ(std::pair(there.g.Die1, there.g.Die2), std::pair(here.g.Die1, here.g.Die2));
     EXPECT_EQ(there.g.HighBankroll, here.g.HighBankroll);
     EXPECT_EQ(there.g.LowBankroll, here.g.LowBankroll);
     EXPECT_EQ(there.ui.messages, here.ui.messages);
@@ -110,18 +110,32 @@ TEST(RunController, EndsWithTheTableTheSameRunLeavesOnTheCallersThread) {
   }
 }
 
-TEST(RunController, AStopInsideAQuestionEndsTheRunAfterThatRoll) {
-  ScriptedTable r(kAskEveryRoll, 0);
-  TaskQueue queue;
-  RunController rc(r.g, r.ui, queue.Poster());
-  r.ui.stopAtQuestion = &rc;
-  r.ui.stopAfter = 3;
-  const RunEnd end = Control(RunKind::AutoRoll, queue, rc);
-  EXPECT_TRUE(end.Stopped);
-  EXPECT_EQ(end.StopReason, "");
-  EXPECT_EQ(r.g.RollCounts[0], 3);
-  EXPECT_EQ(r.ui.askedOn.size(), 3u);
-  EXPECT_FALSE(r.g.KeepRolling);
+TEST(RunController, AStopEndsAutoRollAfterTheRollInProgress) {
+  {  // from inside the third roll's question
+    ScriptedTable r(kAskEveryRoll, 0);
+    TaskQueue queue;
+    RunController rc(r.g, r.ui, queue.Poster());
+    r.ui.stopAtQuestion = &rc;
+    r.ui.stopAfter = 3;
+    const RunEnd end = Control(RunKind::AutoRoll, queue, rc);
+    EXPECT_TRUE(end.Stopped);
+    EXPECT_EQ(end.StopReason, "");
+    EXPECT_EQ(r.g.RollCounts[0], 3);
+    EXPECT_EQ(r.ui.askedOn.size(), 3u);
+    EXPECT_FALSE(r.g.KeepRolling);
+  }
+  {  // during the wait between rolls, long before it is over
+    ScriptedTable r(kAskEveryRoll, 0);
+    r.g.AutoRollDelay = 60;
+    TaskQueue queue;
+    RunController rc(r.g, r.ui, queue.Poster());
+    ASSERT_TRUE(rc.Start(RunKind::AutoRoll));
+    ASSERT_TRUE(queue.PumpUntil([&] { return rc.Snapshot().Rolls == 1; }));
+    rc.Stop();
+    EXPECT_TRUE(queue.PumpUntil([&] { return !rc.Running(); }, std::chrono::seconds(10)));
+    rc.Wait();
+    EXPECT_EQ(r.g.RollCounts[0], 1);
+  }
 }
 
 TEST(RunController, HyperDriveSnapshotsClimbUntilStopAndASecondStartIsRefused) {

@@ -78,10 +78,11 @@ void RunScreen::Tell(std::function<void(FrontEnd&)> notice, bool mayDrop) const 
 }
 
 void RunScreen::LetInputRun() {
-  if (link_->Stopped()) g_.KeepRolling = false;
   if (link_->AnyQueued()) ApplyQueued();
   if (--untilClockCheck_ <= 0) CheckClock();
   if (!g_.HyperDriveOn) RestDuringWait();
+  // Last, so that a stop that cut the rest short is heeded by this pause.
+  if (link_->Stopped()) g_.KeepRolling = false;
 }
 
 void RunScreen::ApplyQueued() {
