@@ -6,8 +6,9 @@
 // one every other caller runs; the controller only gives it a front end
 // (RunScreen) that carries its questions across threads.
 //
-// Every member is called on the front end's thread. The headless paths
-// (batches, the command line) roll on their own threads without it.
+// Every member is called on the front end's thread; Snapshot() and Running()
+// from any thread. The headless paths (batches, the command line) roll on
+// their own threads without it.
 
 #include <atomic>
 #include <functional>

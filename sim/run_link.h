@@ -58,9 +58,12 @@ class RunLink {
   // --- Notices posted without waiting ------------------------------------------------
   // How many are queued on the front end's thread; past a limit the run drops
   // the ones that can be missed rather than flood a screen that lags behind.
-  std::atomic<int> Unseen{0};
+  void Sent() { unseen_.fetch_add(1, std::memory_order_relaxed); }
+  void Seen() { unseen_.fetch_sub(1, std::memory_order_relaxed); }
+  bool Behind(int most) const { return unseen_.load(std::memory_order_relaxed) >= most; }
 
  private:
+  std::atomic<int> unseen_{0};
   mutable std::mutex mutex_;
   std::condition_variable wake_;
   std::atomic<bool> stop_{false};

@@ -8,8 +8,8 @@ namespace {
 
 // A screen more than this many notices behind is not sent the ones it can miss.
 constexpr int kMostUnseen = 64;
-// Hyper-Drive reads the clock once in so many pauses: a clock read costs more
-// than a fast roll.
+// Hyper-Drive reads the clock once in so many pauses: read every roll, the
+// clock would be a measurable share of a fast roll.
 constexpr int kPausesPerClockRead = 256;
 constexpr auto kPublishEvery = std::chrono::milliseconds(4);
 // How long a pause of Auto-Roll's wait rests before the wait reads its clock again.
@@ -69,10 +69,10 @@ void RunScreen::RedrawBet(int betId) {
 }
 
 void RunScreen::Tell(std::function<void(FrontEnd&)> notice, bool mayDrop) const {
-  if (mayDrop && link_->Unseen.load(std::memory_order_relaxed) >= kMostUnseen) return;
-  link_->Unseen.fetch_add(1, std::memory_order_relaxed);
+  if (mayDrop && link_->Behind(kMostUnseen)) return;
+  link_->Sent();
   post_([link = link_, screen = &screen_, notice = std::move(notice)] {
-    link->Unseen.fetch_sub(1, std::memory_order_relaxed);
+    link->Seen();
     if (!link->Closed()) notice(*screen);
   });
 }
