@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <string>
 
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "dice/rng.h"
 #include "engine/game.h"
 #include "engine/new_game.h"

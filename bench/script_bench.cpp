@@ -13,7 +13,7 @@
 #include "engine/roll.h"
 #include "script/interpreter.h"
 #include "sim/batch.h"
-#include "store/script_file.h"
+#include "script/script_file.h"
 
 namespace {
 

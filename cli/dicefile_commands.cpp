@@ -7,8 +7,8 @@
 #include "cli/command_words.h"
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
-#include "dice/dice_roll_files.h"
-#include "dice/pad.h"
+#include "engine/dice_roll_files.h"
+#include "engine/pad.h"
 #include "engine/game.h"
 
 namespace {

@@ -12,7 +12,7 @@
 #include "cli/json_lines.h"
 #include "cli/settings_registry.h"
 #include "cli/table_state_json.h"
-#include "config/payoffs.h"
+#include "engine/payoffs.h"
 #include "dice/rng.h"
 #include "engine/game.h"
 #include "engine/new_game.h"

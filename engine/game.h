@@ -12,14 +12,14 @@
 #include "dice/generators.h"
 #include "dice/prob_table.h"
 #include "dice/skewed_draw.h"
-#include "store/dice_roll_file.h"
+#include "dice/dice_roll_file.h"
 #include "store/hot_keys_file.h"
 #include "store/sound_sets.h"
 #include "engine/catalogue.h"
 #include "engine/frontend.h"
-#include "engine/money.h"
-#include "script/script.h"
-#include "store/game_file_extras.h"
+#include "dice/money.h"
+#include "engine/script.h"
+#include "engine/game_file_extras.h"
 
 // A payoff: a winner nets Win for each Per bet. Form -1 shows it as "Win to
 // Per", 0 as "Win+Per for Per"; it never changes the money.

@@ -3,8 +3,8 @@
 #include <chrono>
 #include <filesystem>
 
-#include "config/payoffs.h"
-#include "dice/dice_roll_files.h"
+#include "engine/payoffs.h"
+#include "engine/dice_roll_files.h"
 #include "dice/rng.h"
 #include "engine/bet_status.h"
 #include "engine/game.h"

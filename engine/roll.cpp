@@ -4,8 +4,8 @@
 #include <array>
 #include <chrono>
 
-#include "config/payoffs.h"
-#include "dice/dice_roll_files.h"
+#include "engine/payoffs.h"
+#include "engine/dice_roll_files.h"
 #include "dice/rng.h"
 #include "engine/bet_status.h"
 #include "engine/game.h"

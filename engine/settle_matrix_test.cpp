@@ -9,7 +9,7 @@
 #include <vector>
 #include <string>
 
-#include "config/rules.h"
+#include "engine/rules.h"
 #include "engine/test_support.h"
 
 namespace {

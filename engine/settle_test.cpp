@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "config/rules.h"
+#include "engine/rules.h"
 #include "engine/test_support.h"
 
 TEST(SettleBet, WonNoticesAndRounding) {

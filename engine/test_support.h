@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "config/payoffs.h"
+#include "engine/payoffs.h"
 #include "dice/rng.h"
 #include "engine/game.h"
 #include "engine/new_game.h"

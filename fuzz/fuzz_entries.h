@@ -10,7 +10,7 @@
 #include <fstream>
 #include <string>
 
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "dice/skewed_draw.h"
 #include "engine/game.h"
 #include "engine/new_game.h"

@@ -13,7 +13,7 @@
 
 #include "engine/test_support.h"
 #include "script/interpreter.h"
-#include "store/script_file.h"
+#include "script/script_file.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "autoplay/atm.h"
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "dice/rng.h"
 #include "engine/game.h"
 #include "engine/new_game.h"

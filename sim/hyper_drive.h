@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Game;
 

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-#include "config/rules.h"
+#include "engine/rules.h"
 #include "engine/test_support.h"
 #include "stats/advantage.h"
 

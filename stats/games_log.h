@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/money.h"
+#include "dice/money.h"
 #include "store/games_log_file.h"
 
 struct Game;

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "script/script.h"
+#include "engine/script.h"
 
 struct Game;
 

@@ -9,7 +9,7 @@
 #include <cerrno>
 #include <cstring>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 namespace {
 

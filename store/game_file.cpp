@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "engine/game.h"
 #include "engine/notices.h"
 #include "store/file_errors.h"

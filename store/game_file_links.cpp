@@ -4,13 +4,13 @@
 #include <ctime>
 #include <filesystem>
 
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "engine/game.h"
 #include "engine/notices.h"
 #include "script/script_files.h"
 #include "store/game_file.h"
 #include "store/prob_file.h"
-#include "store/script_file.h"
+#include "script/script_file.h"
 #include "store/small_files.h"
 
 namespace fs = std::filesystem;

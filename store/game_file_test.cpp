@@ -6,7 +6,7 @@
 #include <random>
 
 #include "cli/temp_folder_for_test.h"
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "engine/table_commands.h"
 #include "engine/test_support.h"
 #include "script/interpreter.h"
@@ -15,7 +15,7 @@
 #include "store/file_bytes_for_test.h"
 #include "store/games_log_file.h"
 #include "test_paths.h"
-#include "store/script_file.h"
+#include "script/script_file.h"
 
 namespace fs = std::filesystem;
 

@@ -10,7 +10,7 @@
 #include "store/file_bytes_for_test.h"
 #include "store/game_file.h"
 #include "store/bet_file.h"
-#include "store/script_file.h"
+#include "script/script_file.h"
 #include "store/small_files.h"
 
 namespace fs = std::filesystem;

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Game;
 

@@ -5,7 +5,7 @@
 #include <fstream>
 
 #include "cli/temp_folder_for_test.h"
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "engine/table_commands.h"
 #include "script/interpreter.h"
 #include "script/text_form.h"

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "engine/game.h"
 #include "store/bet_file.h"
 #include "store/file_errors.h"

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Game;
 struct PayoffRecord;

@@ -1,4 +1,4 @@
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 
 #include <gtest/gtest.h>
 

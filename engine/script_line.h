@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 namespace line_kind {
 constexpr int kWhen = 1;

@@ -1,4 +1,4 @@
-#include "config/payoffs.h"
+#include "engine/payoffs.h"
 
 #include <array>
 #include <cstdint>

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "script/script.h"
+#include "engine/script.h"
 
 // True for a path whose extension is ".bet", in any case.
 bool IsBetFilePath(const std::string& path);

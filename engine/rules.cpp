@@ -1,10 +1,10 @@
 // The configuration check and the settings that guard the bankroll.
 
-#include "config/rules.h"
+#include "engine/rules.h"
 
 #include <string>
 
-#include "config/payoffs.h"
+#include "engine/payoffs.h"
 #include "engine/game.h"
 #include "engine/notices.h"
 

@@ -1,4 +1,4 @@
-#include "script/script.h"
+#include "engine/script.h"
 
 std::string Trimmed(const std::string& s) {
   const size_t first = s.find_first_not_of(' ');

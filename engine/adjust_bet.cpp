@@ -1,4 +1,4 @@
-#include "autoplay/adjust_bet.h"
+#include "engine/adjust_bet.h"
 
 #include <cmath>
 #include <string>

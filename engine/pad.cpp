@@ -1,4 +1,4 @@
-#include "dice/pad.h"
+#include "engine/pad.h"
 
 #include <chrono>
 #include <random>

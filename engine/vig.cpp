@@ -1,6 +1,6 @@
 // The vig of Buy and Lay bets and its upkeep on the table.
 
-#include "config/rules.h"
+#include "engine/rules.h"
 #include "engine/game.h"
 
 Currency RoundVig(Currency v, Currency chip, int32_t mode) {

@@ -1,11 +1,11 @@
-#include "dice/pad.h"
+#include "engine/pad.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
 #include "cli/temp_folder_for_test.h"
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "dice/rng.h"
 #include "engine/test_support.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 // Nudges a requested change so that the bet pays whole.
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Game;
 

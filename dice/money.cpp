@@ -1,4 +1,4 @@
-#include "engine/money.h"
+#include "dice/money.h"
 
 #include <climits>
 #include <cmath>

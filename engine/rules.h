@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Game;
 

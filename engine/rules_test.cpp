@@ -1,4 +1,4 @@
-#include "config/rules.h"
+#include "engine/rules.h"
 
 #include <gtest/gtest.h>
 

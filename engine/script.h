@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "script/script_line.h"
+#include "engine/script_line.h"
 
 struct Flag {
   std::string FlagName;      // trimmed

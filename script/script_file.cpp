@@ -1,4 +1,4 @@
-#include "store/script_file.h"
+#include "script/script_file.h"
 
 #include <algorithm>
 #include <cctype>

@@ -1,4 +1,4 @@
-#include "script/script.h"
+#include "engine/script.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "store/dice_roll_file.h"
+#include "dice/dice_roll_file.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "test_paths.h"
-#include "store/script_file.h"
+#include "script/script_file.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
