@@ -11,6 +11,7 @@
 #include "engine/catalogue.h"
 #include "engine/game.h"
 #include "engine/new_game.h"
+#include "sim/assemble_game.h"
 #include "stats/advantage.h"
 #include "store/game_file.h"
 
@@ -114,6 +115,7 @@ class NotesToStderr : public SilentFrontEnd {
 
 int RunAdvantageTool(const AdvantageToolOptions& o, std::ostream& out, std::ostream& err) {
   Game g;
+  AssembleGame(g);
   NotesToStderr notes(err, o.gameFile);
   g.Ui = &notes;
   FillDefaults(g);

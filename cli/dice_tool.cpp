@@ -13,7 +13,7 @@
 #include "cli/roll_text.h"
 #include "cli/terminal_text.h"
 #include "engine/dice_roll_files.h"
-#include "store/file_errors.h"
+#include "engine/file_errors.h"
 
 namespace {
 

@@ -9,6 +9,7 @@
 #include "cli/terminal_text.h"
 #include "engine/script.h"
 #include "stats/games_log.h"
+#include "store/games_log_file.h"
 
 namespace {
 

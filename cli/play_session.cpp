@@ -18,9 +18,12 @@
 #include "engine/new_game.h"
 #include "engine/place_bet.h"
 #include "engine/roll.h"
+#include "engine/seed.h"
 #include "engine/table_commands.h"
+#include "sim/assemble_game.h"
 #include "store/folder_lock.h"
 #include "store/save_prompts.h"
+#include "store/start_up.h"
 
 struct PlaySession::Command {
   const char* word;
@@ -107,6 +110,7 @@ PlaySession::PlaySession(std::ostream& out, const PlayOptions& options)
       game_(std::make_unique<Game>()),
       folderLock_(std::make_unique<DataFolderLock>()),
       strict_(options.strict) {
+  AssembleGame(*game_);
   game_->Ui = &ui_;
   ui_.StopWhen(game_.get(), Interrupted);
   Start(options);

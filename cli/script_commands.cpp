@@ -6,6 +6,7 @@
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
 #include "engine/game.h"
+#include "engine/roll.h"
 #include "script/interpreter.h"
 #include "script/script_files.h"
 #include "store/small_files.h"

@@ -5,8 +5,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "store/file_read.h"
-
 namespace {
 
 int64_t NowNs() {
@@ -23,7 +21,7 @@ bool DiceRollFile::Open(const std::string& path, bool create) {
   Close();
   std::error_code ec;
   // A pipe or a device would hang or never end: only regular files are used.
-  if (std::filesystem::exists(path, ec) && !NotARegularFileReason(path).empty()) return false;
+  if (std::filesystem::exists(path, ec) && !std::filesystem::is_regular_file(path, ec)) return false;
   std::FILE* f = std::fopen(path.c_str(), "r+b");
   if (!f && create) {
     if (!std::filesystem::exists(path, ec)) f = std::fopen(path.c_str(), "w+b");

@@ -11,7 +11,7 @@
 
 #include "engine/game.h"
 #include "engine/notices.h"
-#include "store/file_errors.h"
+#include "engine/file_errors.h"
 
 namespace fs = std::filesystem;
 

@@ -8,7 +8,8 @@
 
 #include "cli/temp_folder_for_test.h"
 #include "dice/rng.h"
-#include "engine/test_support.h"
+#include "engine/seed.h"
+#include "engine/table_for_test.h"
 
 namespace {
 

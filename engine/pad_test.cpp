@@ -7,7 +7,8 @@
 #include "cli/temp_folder_for_test.h"
 #include "engine/dice_roll_files.h"
 #include "dice/rng.h"
-#include "engine/test_support.h"
+#include "engine/seed.h"
+#include "engine/table_for_test.h"
 
 TEST(Pad, EveryCombinationOfEveryTotalIsOnePairInRange) {
   int pairs = 0;

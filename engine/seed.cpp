@@ -1,5 +1,7 @@
 // Seeding the selected generator from a request, the clock or the player.
 
+#include "engine/seed.h"
+
 #include <chrono>
 #include <limits>
 #include <optional>
@@ -121,3 +123,7 @@ void SeedAtStartUp(Game& g) {
     SeedRNG(g, false);
   }
 }
+
+void DrawDice(Game& g) { DrawDice(g, g.RollCounts[0], g.ErrorText); }
+
+int32_t DrawPercentageX(Game& g) { return DrawPercentageX(g, g.RollCounts[0], g.ErrorText); }

@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "dice/rng.h"
-#include "engine/test_support.h"
+#include "engine/seed.h"
+#include "engine/table_for_test.h"
 
 TEST(SeedRNG, LimitsAreTestedBeforeRounding) {
   Game g;

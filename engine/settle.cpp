@@ -2,11 +2,8 @@
 
 #include <optional>
 
-#include "autoplay/bet_handling.h"
 #include "engine/game.h"
 #include "engine/settle_notice.h"
-#include "stats/bet_results.h"
-#include "stats/phantom_payoff.h"
 
 namespace {
 
@@ -87,7 +84,7 @@ void KeepStreak(Game& g, int betId) {
 [[gnu::noinline]] void SettleWorkingBet(Game& g, int outcome, int betId) {
   const Currency amount = g.BetAmount[betId];
   FigurePayoff(g, 1, betId, outcome, amount);
-  BookBetResult(g, results::kActual, betId, amount, g.NetPayoff);
+  if (g.Hooks.BetDecided) g.Hooks.BetDecided(g, betId, amount, g.NetPayoff);
   if (g.Payoff[0].Win == 0 && g.NetPayoff == 0) return;  // a push: nothing happened
 
   g.Bankroll() += g.NetPayoff;
@@ -99,13 +96,13 @@ void KeepStreak(Game& g, int betId) {
     std::optional<SettleNotice> notice;
     if (g.HandleLosingBets == 0 && g.Visible() && g.BetAtRollStart[betId] > 0)
       notice = LostNotice(g, betId, UnitFor(g, amount, g.Payoff[betId].Per));
-    LostBetHandling(g, betId, notice ? &*notice : nullptr);
+    if (g.Hooks.LostBet) g.Hooks.LostBet(g, betId, notice ? &*notice : nullptr);
     return;
   }
   FigureUnit(g, betId);
   std::optional<SettleNotice> notice;
   if (g.Visible() && g.WonBetAction == 0) notice = WonNotice(g, betId);
-  WonBetHandling(g, betId, notice ? &*notice : nullptr);
+  if (g.Hooks.WonBet) g.Hooks.WonBet(g, betId, notice ? &*notice : nullptr);
 }
 
 // A flat bet that is off stands untouched; odds that are off go back to the
@@ -122,7 +119,7 @@ void KeepStreak(Game& g, int betId) {
   }
   std::optional<SettleNotice> notice;
   if (g.Visible() && g.WonBetAction == 0) notice = OddsReturnedNotice(g, betId);
-  WonBetHandling(g, betId, notice ? &*notice : nullptr);
+  if (g.Hooks.WonBet) g.Hooks.WonBet(g, betId, notice ? &*notice : nullptr);
   g.BetStatus[betId] = 1;
 }
 
@@ -135,7 +132,7 @@ void SettleBet(Game& g, int outcome, int betId) {
   // figured and booked for empty spots too. Beyond it an empty spot has
   // nothing to settle, working or not.
   const bool working = g.BetStatus[betId] >= 1;
-  if (working) BookPhantomResult(g, betId, outcome);
+  if (working && g.Hooks.PhantomDecided) g.Hooks.PhantomDecided(g, betId, outcome);
   if (g.BetAmount[betId] == 0) return;
   if (working)
     SettleWorkingBet(g, outcome, betId);

@@ -10,7 +10,7 @@
 #include <string>
 
 #include "engine/rules.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 
 namespace {
 

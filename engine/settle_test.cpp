@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/rules.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 
 TEST(SettleBet, WonNoticesAndRounding) {
   const char* winner = "* * * Winner * * *";

@@ -7,7 +7,7 @@
 #include <filesystem>
 
 #include "engine/roll.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "script/interpreter.h"
 #include "script/loop_check.h"
 #include "script/text_form.h"

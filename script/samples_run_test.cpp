@@ -11,7 +11,8 @@
 #include <string>
 #include <vector>
 
-#include "engine/test_support.h"
+#include "engine/roll.h"
+#include "engine/table_for_test.h"
 #include "script/interpreter.h"
 #include "script/script_file.h"
 

@@ -6,9 +6,10 @@
 #include <fstream>
 #include <iterator>
 
+#include "engine/file_errors.h"
 #include "script/text_form.h"
+#include "store/atomic_write.h"
 #include "store/bet_file.h"
-#include "store/file_errors.h"
 
 namespace {
 
@@ -68,20 +69,9 @@ bool LoadScriptFile(const std::string& path, Script& script, std::string& error)
 }
 
 bool SaveScriptFile(const std::string& path, const Script& script, std::string& error) {
-  std::string bytes;
-  if (IsBetFilePath(path)) {
-    for (int n = 1; n <= script.NumLines(); ++n) {
-      if (!FitsFileFields(script.Line(n))) {
-        error = PrintableName(path) + ": line " + std::to_string(n) + " has a number that a .bet record cannot hold";
-        return false;
-      }
-    }
-    bytes = EncodeBetFile(script, false);
-  } else {
-    bytes = ScriptToText(script);
-  }
+  if (IsBetFilePath(path)) return SaveBetFile(path, script, error);
   std::string reason;
-  if (!WriteFileAtomically(path, bytes, reason)) {
+  if (!WriteFileAtomically(path, ScriptToText(script), reason)) {
     error = PrintableName(path) + " " + reason + ".";
     return false;
   }

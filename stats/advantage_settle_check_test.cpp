@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "engine/rules.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "stats/advantage.h"
 
 namespace {

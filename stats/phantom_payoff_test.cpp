@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "stats/bet_results.h"
 
 using namespace results;

@@ -10,7 +10,7 @@
 #include "script/interpreter.h"
 #include "script/text_form.h"
 #include "store/bet_file.h"
-#include "store/file_errors.h"
+#include "engine/file_errors.h"
 #include "store/game_file.h"
 #include "store/prompt_ui_for_test.h"
 #include "store/small_files.h"

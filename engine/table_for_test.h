@@ -1,6 +1,7 @@
 #pragma once
 // The tests' table: a front end that records what the engine shows and
-// answers from queues, and a new game with no reseeding and no auto-adjust.
+// answers from queues, and a new game, assembled as a played one is, with no
+// reseeding and no auto-adjust.
 
 #include <deque>
 #include <optional>
@@ -8,13 +9,15 @@
 #include <string>
 #include <vector>
 
-#include "engine/payoffs.h"
 #include "dice/rng.h"
 #include "engine/game.h"
 #include "engine/new_game.h"
+#include "engine/payoffs.h"
 #include "engine/place_bet.h"
 #include "engine/roll.h"
+#include "engine/seed.h"
 #include "engine/settle.h"
+#include "sim/assemble_game.h"
 
 using Rows = std::vector<std::pair<std::string, std::string>>;
 
@@ -76,6 +79,7 @@ struct Table {
   RecordingFrontEnd ui;
 
   Table() {
+    AssembleGame(g);
     g.ReSeedNewGames = false;
     g.AutoAdjustMode = 0;
     FillDefaults(g);

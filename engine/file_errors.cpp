@@ -1,4 +1,4 @@
-#include "store/file_errors.h"
+#include "engine/file_errors.h"
 
 #include "engine/notices.h"
 

@@ -4,8 +4,7 @@
 #include <filesystem>
 #include <string>
 
-#include "store/atomic_write.h"
-#include "store/file_read.h"
+#include "dice/file_read.h"
 
 struct Game;
 

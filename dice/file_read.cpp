@@ -1,4 +1,4 @@
-#include "store/file_read.h"
+#include "dice/file_read.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
