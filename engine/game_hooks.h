@@ -21,8 +21,6 @@ struct GameHooks {
   void (*DiceCounted)(Game& g) = nullptr;
   // A working bet with money on it is decided; net is what it won or lost.
   void (*BetDecided)(Game& g, int betId, Currency stake, Currency net) = nullptr;
-  // Every working spot's decision, money on it or not, as a one-unit bet.
-  void (*PhantomDecided)(Game& g, int betId, int outcome) = nullptr;
   // What becomes of a bet that won (or odds returned) or lost; the notice
   // is the question the player was asked, or null.
   void (*WonBet)(Game& g, int betId, const SettleNotice* notice) = nullptr;

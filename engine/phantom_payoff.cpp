@@ -1,4 +1,4 @@
-#include "stats/phantom_payoff.h"
+#include "engine/phantom_payoff.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 // payoff rows.
 
 #include "engine/game.h"
-#include "stats/result_cells.h"
+#include "engine/result_cells.h"
 
 struct PhantomFigure {
   Currency Stake;  // 1, plus the vig where it is paid

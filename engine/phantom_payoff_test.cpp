@@ -1,7 +1,7 @@
 // The phantom unit is figured as the settling figures a real bet of 1, and
 // staked as the general booking stakes it, for every bet, roll and point.
 
-#include "stats/phantom_payoff.h"
+#include "engine/phantom_payoff.h"
 
 #include <gtest/gtest.h>
 

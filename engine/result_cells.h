@@ -1,12 +1,27 @@
 #pragma once
-// Booking one entry into the cells of the bet results. Inline: it runs for
+// Booking one entry into the cells of the bet results (stats/bet_results.h
+// books, clears and reads them). Inline, and the table's own: it runs for
 // every working spot on every decision of every roll.
 
+#include <array>
 #include <cstdint>
 
-#include "stats/bet_results.h"
+#include "engine/game.h"
 
 namespace results {
+constexpr int kPhantom = 0;
+constexpr int kActual = 1;
+
+// Measures of a cell.
+constexpr int kMark = 0;         // BetWagers, kind 0 only: a phantom unit stands on the number
+constexpr int kCount = 1;        // number of entries
+constexpr int kTotal = 2;        // total amount
+constexpr int kHigh = 3;         // highest single amount
+constexpr int kLow = 4;          // lowest single amount, 0 until the first entry
+constexpr int kLast = 5;         // last amount
+constexpr int kLastRollCount = 6;   // 1 when booked in the last roll
+constexpr int kLastRollAmount = 7;  // amount booked in the last roll
+constexpr int kMeasures = 8;
 
 using Cell = std::array<Currency, kMeasures>;
 constexpr int kCells = 101;  // BetIds 0..100 of one kind

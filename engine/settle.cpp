@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "engine/game.h"
+#include "engine/phantom_payoff.h"
 #include "engine/settle_notice.h"
 
 namespace {
@@ -132,7 +133,7 @@ void SettleBet(Game& g, int outcome, int betId) {
   // figured and booked for empty spots too. Beyond it an empty spot has
   // nothing to settle, working or not.
   const bool working = g.BetStatus[betId] >= 1;
-  if (working && g.Hooks.PhantomDecided) g.Hooks.PhantomDecided(g, betId, outcome);
+  if (working) BookPhantomResult(g, betId, outcome);
   if (g.BetAmount[betId] == 0) return;
   if (working)
     SettleWorkingBet(g, outcome, betId);

@@ -6,7 +6,6 @@
 #include "script/script_files.h"
 #include "stats/bankroll_graph.h"
 #include "stats/bet_results.h"
-#include "stats/phantom_payoff.h"
 #include "stats/roll_counters.h"
 #include "store/games_log_file.h"
 
@@ -17,7 +16,6 @@ void AssembleGame(Game& g) {
   h.BetDecided = [](Game& game, int betId, Currency stake, Currency net) {
     BookBetResult(game, results::kActual, betId, stake, net);
   };
-  h.PhantomDecided = [](Game& game, int betId, int outcome) { BookPhantomResult(game, betId, outcome); };
   h.WonBet = WonBetHandling;
   h.LostBet = LostBetHandling;
   h.BankrollBooked = RecordBankrollPoint;
