@@ -1,5 +1,6 @@
 #pragma once
-// The eight numbered generators, their seeding and the draw of two dice.
+// The eight numbered generators and the draw of two dice. The game seeds
+// them by its settings (engine/seed.h).
 
 #include <cstdint>
 #include <string>
