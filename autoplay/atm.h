@@ -2,7 +2,7 @@
 // The ATM: money between the player's pocket and the bankroll. The words are
 // the ATM's own: a withdrawal brings money to the table, a deposit takes it away.
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Game;
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 
 TEST(Atm, LimitsAndNotices) {
   const std::string cut = "The full amount of this transaction was not allowed since it would have ";

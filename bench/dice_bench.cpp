@@ -5,6 +5,7 @@
 #include "dice/prob_table.h"
 #include "dice/rng.h"
 #include "engine/game.h"
+#include "engine/seed.h"
 
 namespace {
 

@@ -8,11 +8,13 @@
 #include <filesystem>
 #include <string>
 
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "dice/rng.h"
 #include "engine/game.h"
 #include "engine/new_game.h"
 #include "engine/roll.h"
+#include "engine/seed.h"
+#include "sim/assemble_game.h"
 
 namespace {
 
@@ -40,6 +42,7 @@ void BM_HyperDriveDiceSource(benchmark::State& state) {
   const std::string path = BenchFile("dicemill_bench.rol");
   std::filesystem::remove(path);
   Game g;
+  AssembleGame(g);
   StartGame(g);
   if (mode != 0) {
     // A file long enough for every timed run of playback.

@@ -7,6 +7,8 @@
 #include "engine/new_game.h"
 #include "engine/roll.h"
 #include "dice/rng.h"
+#include "engine/seed.h"
+#include "sim/assemble_game.h"
 #include "testkit/busy_table.h"
 #include "testkit/heap_count.h"
 
@@ -25,6 +27,7 @@ class BusyPlayer : public SilentFrontEnd {
 
 void BM_RollDiceHyperDriveBusyTable(benchmark::State& state) {
   Game g;
+  AssembleGame(g);
   BusyPlayer player(g);
   g.Ui = &player;
   g.ReSeedNewGames = false;

@@ -13,9 +13,11 @@
 #include "engine/game.h"
 #include "engine/new_game.h"
 #include "engine/roll.h"
+#include "engine/seed.h"
+#include "sim/assemble_game.h"
 #include "sim/hyper_drive.h"
 #include "sim/run_controller.h"
-#include "store/script_file.h"
+#include "script/script_file.h"
 #include "testkit/task_queue.h"
 
 namespace {
@@ -24,6 +26,7 @@ constexpr int kRollsPerRun = 100'000;
 
 // Arg 0: the empty table; 1: the Place 6 and 8 sample.
 void SetUp(Game& g, int64_t layout) {
+  AssembleGame(g);
   g.ReSeedNewGames = false;
   FillDefaults(g);
   g.BankrollInitAmount = 1'000'000;

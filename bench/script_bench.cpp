@@ -11,9 +11,11 @@
 #include "engine/game.h"
 #include "engine/new_game.h"
 #include "engine/roll.h"
+#include "engine/seed.h"
 #include "script/interpreter.h"
 #include "sim/batch.h"
-#include "store/script_file.h"
+#include "script/script_file.h"
+#include "sim/assemble_game.h"
 
 namespace {
 
@@ -41,6 +43,7 @@ void StartGame(Game& g) {
 // index -1: an empty table.
 void RunHyperDrive(benchmark::State& state, int index) {
   Game g;
+  AssembleGame(g);
   g.ReSeedNewGames = false;
   FillDefaults(g);
   g.BankrollInitAmount = 1'000'000;

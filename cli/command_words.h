@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 // Splits at blanks; double quotes keep blanks inside a word ("my game.crp").
 // An unclosed quote is an error.

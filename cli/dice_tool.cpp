@@ -12,8 +12,8 @@
 #include "cli/json_lines.h"
 #include "cli/roll_text.h"
 #include "cli/terminal_text.h"
-#include "dice/dice_roll_files.h"
-#include "store/file_errors.h"
+#include "engine/dice_roll_files.h"
+#include "engine/file_errors.h"
 
 namespace {
 

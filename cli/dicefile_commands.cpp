@@ -8,7 +8,7 @@
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
 #include "cli/table_answer.h"
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "engine/game.h"
 #include "sim/table.h"
 

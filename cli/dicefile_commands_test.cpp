@@ -11,7 +11,7 @@
 #include "cli/json_lines.h"
 #include "cli/play_session.h"
 #include "cli/session_for_test.h"
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "engine/game.h"
 #include "store/file_bytes_for_test.h"
 #include "test_paths.h"

@@ -7,8 +7,9 @@
 #include "cli/exit_codes.h"
 #include "cli/json_lines.h"
 #include "cli/terminal_text.h"
-#include "script/script.h"
+#include "engine/script.h"
 #include "stats/games_log.h"
+#include "store/games_log_file.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 // Objects keep their keys in the order written, as the protocol shows them.
 using Json = nlohmann::ordered_json;

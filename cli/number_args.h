@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "engine/money.h"
+#include "dice/money.h"
 #include "engine/notices.h"  // MoneyText, the money of the command line
 
 std::optional<int64_t> ParseCountArg(const std::string& text);

@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <memory>
 
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 
 namespace {
 

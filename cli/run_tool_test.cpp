@@ -6,7 +6,7 @@
 
 #include "cli/cli_for_test.h"
 #include "cli/json_lines.h"
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include "script/checker.h"
 #include "script/loop_check.h"
 #include "script/text_form.h"
-#include "store/script_file.h"
+#include "script/script_file.h"
 
 namespace {
 

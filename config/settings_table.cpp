@@ -5,6 +5,7 @@
 #include <limits>
 #include <type_traits>
 
+#include "dice/rng.h"
 #include "engine/catalogue.h"
 #include "engine/game.h"
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Game;
 

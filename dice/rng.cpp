@@ -3,8 +3,8 @@
 #include <cmath>
 #include <limits>
 
+#include "dice/dice_state.h"
 #include "dice/skewed_draw.h"
-#include "engine/game.h"
 
 namespace {
 
@@ -19,8 +19,8 @@ bool FitsInt32(int64_t v) {
 
 // #6 and #7 alternate by the roll count before this roll is booked, so a
 // game's first roll takes the Ran1 or Ran2 half.
-Base BaseForRoll(const Game& g) {
-  bool oddRoll = (g.RollCounts[0] & 1) != 0;
+Base BaseForRoll(const DiceState& g, int32_t rollCount) {
+  bool oddRoll = (rollCount & 1) != 0;
   switch (g.RngChoice) {
     case 1: return Base::Cokus;
     case 2: return Base::Mod;
@@ -33,19 +33,19 @@ Base BaseForRoll(const Game& g) {
 }
 
 // A uniform draw in [0,1) from a base generator other than #3.
-double UnitDraw(Game& g, Base base) {
+double UnitDraw(DiceState& g, Base base, std::string& errorText) {
   int32_t idum = 1;
   switch (base) {
     case Base::Cokus: return randomMT(g.Rng.cokus);
-    case Base::Ran2: return Ran2(g.Rng.ran2, idum, g.ErrorText);
-    case Base::Ran1: return Ran1(g.Rng.ran1, idum, g.ErrorText);
+    case Base::Ran2: return Ran2(g.Rng.ran2, idum, errorText);
+    case Base::Ran1: return Ran1(g.Rng.ran1, idum, errorText);
     default: return genrand_real2(g.Rng.mt);
   }
 }
 
-int32_t Die(Game& g, Base base) {
+int32_t Die(DiceState& g, Base base, std::string& errorText) {
   if (base == Base::Mod) return RanMod(g, 6);
-  return static_cast<int32_t>(UnitDraw(g, base) * 6) + 1;
+  return static_cast<int32_t>(UnitDraw(g, base, errorText) * 6) + 1;
 }
 
 }  // namespace
@@ -57,7 +57,7 @@ const char* RngListText(int rngChoice) {
   return rngChoice >= 0 && rngChoice < kRngCount ? kTexts[rngChoice] : "";
 }
 
-int32_t RanMod(Game& g, int32_t range) {
+int32_t RanMod(DiceState& g, int32_t range) {
   // The step is meant for 32-bit signed arithmetic. A seed too large for it
   // (any generator's seed lands in ModSeed) is cut by a hundred until the
   // step fits; after one step ModSeed is below 714025 and always fits.
@@ -73,33 +73,31 @@ int32_t RanMod(Game& g, int32_t range) {
   return static_cast<int32_t>(std::floor(g.ModSeed / static_cast<double>(kModM) * range)) + 1;
 }
 
-DicePair DiceFromSingleDraw(int32_t v) { return {v - 6 * (v / 6) + 1, v / 6 + 1}; }
-
-void DrawDice(Game& g) {
+void DrawDice(DiceState& g, int32_t rollCount, std::string& errorText) {
   // Percentage dice: one draw per roll, mapped to a pair by the table.
-  if (g.UseSkewedProbability) return DrawSkewed(g, DrawPercentageX(g));
+  if (g.UseSkewedProbability) return DrawSkewed(g, DrawPercentageX(g, rollCount, errorText));
   if (g.RngChoice == 7) {
     DicePair pair = DiceFromSingleDraw(static_cast<int32_t>(genrand_real2(g.Rng.mt) * 36));
     g.Die1 = pair.die1;
     g.Die2 = pair.die2;
     return;
   }
-  Base base = BaseForRoll(g);
-  g.Die1 = Die(g, base);
-  g.Die2 = Die(g, base);
+  Base base = BaseForRoll(g, rollCount);
+  g.Die1 = Die(g, base, errorText);
+  g.Die2 = Die(g, base, errorText);
 }
 
-int32_t DrawPercentageX(Game& g) {
+int32_t DrawPercentageX(DiceState& g, int32_t rollCount, std::string& errorText) {
   constexpr int32_t kScale = 100000;
-  Base base = BaseForRoll(g);
+  Base base = BaseForRoll(g, rollCount);
   switch (base) {
     case Base::Mod:
       return RanMod(g, kScale);
     case Base::Ran1:
     case Base::Ran2:
       // Rounded, not floored, so these two can reach 100,001.
-      return static_cast<int32_t>(std::nearbyint(UnitDraw(g, base) * kScale)) + 1;
+      return static_cast<int32_t>(std::nearbyint(UnitDraw(g, base, errorText) * kScale)) + 1;
     default:
-      return static_cast<int32_t>(UnitDraw(g, base) * kScale) + 1;
+      return static_cast<int32_t>(UnitDraw(g, base, errorText) * kScale) + 1;
   }
 }

@@ -1,10 +1,13 @@
 #pragma once
-// The eight numbered generators, their seeding and the draw of two dice.
+// The eight numbered generators and the draw of two dice. The game seeds
+// them by its settings (engine/seed.h).
 
 #include <cstdint>
 #include <string>
 
-struct Game;
+#include "dice/dice_pair.h"
+
+struct DiceState;
 struct Ran1State;
 struct Ran2State;
 
@@ -13,14 +16,6 @@ constexpr int kRngCount = 8;
 // "RNG #1" .. "RNG #8 (#1 single call)", in list order (RngChoice 0..7);
 // "" for any other index.
 const char* RngListText(int rngChoice);
-
-// Seeds the selected generator. Silent uses SeedRequest as it stands;
-// otherwise UserSeedMode decides between the clock and a prompt.
-void SeedRNG(Game& g, bool silent);
-
-// Seeds the five base generators from the clock, as start-up does, and
-// leaves generator #1 selected.
-void SeedAtStartUp(Game& g);
 
 // Numerical Recipes ran1/ran2 over explicit state. A negative idum
 // re-initialises; Ran1 then sets idum to 1, Ran2 leaves it alone. A broken
@@ -33,18 +28,13 @@ bool Ran1InitOverflows(int32_t idum);
 bool Ran2InitOverflows(int32_t idum);
 
 // Generator #3: steps ModSeed and returns 1..range.
-int32_t RanMod(Game& g, int32_t range);
+int32_t RanMod(DiceState& d, int32_t range);
 
-struct DicePair {
-  int32_t die1, die2;
-};
-
-// Generator #8 turns one draw v in 0..35 into both dice.
-DicePair DiceFromSingleDraw(int32_t v);
-
-// Sets Die1 and Die2 from the selected generator. Allocates nothing.
-void DrawDice(Game& g);
+// Sets Die1 and Die2 from the selected generator. #6 and #7 alternate by
+// rollCount, the game's rolls before this one; a broken generator state puts
+// its error text into errorText. Allocates nothing.
+void DrawDice(DiceState& d, int32_t rollCount, std::string& errorText);
 
 // The one draw x per roll that percentage dice map to a pair: 1..100,000,
 // or up to 100,001 from #4, #5 and their halves of #6 and #7.
-int32_t DrawPercentageX(Game& g);
+int32_t DrawPercentageX(DiceState& d, int32_t rollCount, std::string& errorText);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "engine/game.h"
+#include "engine/seed.h"
 
 namespace {
 

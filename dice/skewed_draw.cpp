@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "engine/game.h"
+#include "dice/dice_state.h"
 
 namespace {
 
@@ -46,7 +46,7 @@ DicePair DrawSkewed(const ProbTable& t, int32_t x, uint32_t& rndState) {
   }
 }
 
-void DrawSkewed(Game& g, int32_t x) {
+void DrawSkewed(DiceState& g, int32_t x) {
   const DicePair pair = DrawSkewed(g.Prob, x, g.RndState);
   g.Die1 = pair.die1;
   g.Die2 = pair.die2;

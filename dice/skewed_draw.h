@@ -4,10 +4,10 @@
 
 #include <cstdint>
 
+#include "dice/dice_pair.h"
 #include "dice/prob_table.h"
-#include "dice/rng.h"
 
-struct Game;
+struct DiceState;
 
 // The plain uniform generator of the program (the dice animation's too): a
 // 24-bit congruential step, never seeded by the player.
@@ -20,5 +20,5 @@ double Rnd(uint32_t& state);
 // resetting its running sum. Allocates nothing.
 DicePair DrawSkewed(const ProbTable& t, int32_t x, uint32_t& rndState);
 
-// Sets Die1 and Die2 from x and the game's table.
-void DrawSkewed(Game& g, int32_t x);
+// Sets Die1 and Die2 from x and the dice's table.
+void DrawSkewed(DiceState& d, int32_t x);

@@ -1,8 +1,9 @@
 #include "dice/skewed_draw.h"
+#include "engine/seed.h"
 
 #include <gtest/gtest.h>
 
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 
 TEST(DrawDice, PercentageDiceOfEachGeneratorFollowItsWalk) {
   for (int choice = 0; choice < kRngCount; ++choice) {

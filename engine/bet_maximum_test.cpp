@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/place_bet.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 
 TEST(BetMaximum, TableMaximumPropositionsAndOdds) {
   Table t;

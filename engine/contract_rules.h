@@ -2,7 +2,7 @@
 // The rules of adding to and taking from a bet that depend on what kind of
 // bet it is: contract bets, the Come boxes and the odds.
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Game;
 

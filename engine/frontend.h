@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 enum class Buttons { Ok, YesNo, YesNoCancel };
 enum class Reply { Ok, Yes, No, Cancel };

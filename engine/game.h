@@ -9,18 +9,17 @@
 #include <string>
 #include <vector>
 
-#include "dice/generators.h"
-#include "dice/prob_table.h"
-#include "dice/skewed_draw.h"
-#include "store/dice_roll_file.h"
-#include "store/hot_keys_file.h"
-#include "store/sound_sets.h"
+#include "dice/dice_roll_file.h"
+#include "dice/dice_state.h"
+#include "dice/money.h"
 #include "engine/catalogue.h"
 #include "engine/frontend.h"
-#include "engine/money.h"
+#include "engine/game_file_extras.h"
+#include "engine/game_hooks.h"
+#include "engine/hot_key_binding.h"
+#include "engine/script.h"
 #include "engine/settlement_log.h"
-#include "script/script.h"
-#include "store/game_file_extras.h"
+#include "engine/sound_sets.h"
 
 // A payoff: a winner nets Win for each Per bet. Form -1 shows it as "Win to
 // Per", 0 as "Win+Per for Per"; it never changes the money.
@@ -35,7 +34,9 @@ constexpr int32_t kTrue = -1;  // booleans stored as 32-bit integers use -1
 constexpr int64_t MaxRolls = 100'000'000;
 constexpr int BankLimit = 9'999'999;
 
-struct Game {
+// The dice part (DiceState: the generators, the percentage table, Die1 and
+// Die2) comes first.
+struct Game : DiceState {
   // --- Money slots and per-bet arrays -------------------------------------
   std::array<Currency, bet::kSlots> BetAmount{};
   std::array<std::string, bet::kSlots> BetName{};
@@ -53,7 +54,7 @@ struct Game {
   std::array<PayoffRecord, 22> FieldPayoff{};  // rows 1..21 by dice pair
 
   // --- Scalars of the table -----------------------------------------------
-  int32_t Die1 = 3, Die2 = 4, DiceTotal = 7;
+  int32_t DiceTotal = 7;
   int32_t Point = 0;            // after this roll; 0 is the come-out
   int32_t PointBeforeRoll = 0;  // what every decision of this roll reads
   int32_t PointTwoRollsAgo = 0;
@@ -135,25 +136,18 @@ struct Game {
   std::array<Currency, 6> ModifyAmount{};
   std::array<int32_t, 6> ModifyUnits{-1, -1, -1, -1, -1, -1};
 
-  // --- Dice ---------------------------------------------------------------
-  int32_t RngChoice = 0;
+  // --- Dice (beyond DiceState) ---------------------------------------------
   bool UserSeedMode = false;
   bool ReSeedNewGames = true;
-  int32_t ModSeed = 0;
   int32_t LastSeed = 0;
   Currency SeedRequest;
-  bool UseSkewedProbability = false;
   int32_t DiceFileMode = 0;  // 0 none, 1 recording, 2 playing
-  Generators Rng;
 
-  // --- Percentage dice --------------------------------------------------------
-  // The table the roll walks when UseSkewedProbability is set, and its editor.
-  ProbTable Prob = TrueTable();
+  // --- Percentage dice: the editor of DiceState's table ------------------------
   int32_t ProbDisplayMode = 0;  // 0 percent, 1 +/- true %, 2 rolls out of, 3 +/- true rolls
   int32_t ProbRollsOutOf = 36;  // the "rolls out of" count of modes 2 and 3
   bool ProbModified = false;
   std::string ProbFileName = "untitled";
-  uint32_t RndState = kRndStartState;  // Rnd, for the second walk of a short table
 
   // --- Simulation and sound -------------------------------------------------
   bool DisableAllSound = false;
@@ -252,8 +246,9 @@ struct Game {
   SoundSets Sounds;
   GameFileExtras FileExtras;      // what a game file holds that this program does not use
 
-  // --- Screen ---------------------------------------------------------------
+  // --- Screen and what hangs on the table ---------------------------------------
   FrontEnd* Ui = &silentUi;
+  GameHooks Hooks;  // set by whoever puts the game together
 
   Currency& Bankroll() { return BetAmount[bet::kBankroll]; }
   Currency Bankroll() const { return BetAmount[bet::kBankroll]; }

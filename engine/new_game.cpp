@@ -1,30 +1,14 @@
 #include "engine/new_game.h"
 
-#include <chrono>
-#include <filesystem>
+#include <optional>
 
-#include "config/payoffs.h"
-#include "dice/dice_roll_files.h"
-#include "dice/rng.h"
 #include "engine/bet_status.h"
+#include "engine/dice_roll_files.h"
 #include "engine/game.h"
-#include "engine/roll.h"
-#include "store/small_files.h"
-#include "stats/bet_results.h"
-#include "store/game_file.h"
-#include "stats/bankroll_graph.h"
-#include "stats/games_log.h"
+#include "engine/payoffs.h"
+#include "engine/seed.h"
 
 namespace {
-
-// Empty loop passes per millisecond: how Hyper-Drive's throttle is paced.
-int32_t MeasureSpeedUnit() {
-  using Clock = std::chrono::steady_clock;
-  const auto end = Clock::now() + std::chrono::milliseconds(100);
-  int64_t count = 0;
-  while (Clock::now() < end) ++count;
-  return static_cast<int32_t>(count / 10);
-}
 
 // Bankroll for a new game by BankrollInitType; old is the bankroll before.
 Currency BeginningBankroll(Game& g, Currency old) {
@@ -54,24 +38,9 @@ void FillDefaults(Game& g) {
   RestoreDefaultPayoffs(g);
 }
 
-void StartUp(Game& g, const std::string& folder) {
-  g.DataFolder = folder;
-  g.SpeedUnit = MeasureSpeedUnit();
-  SeedAtStartUp(g);
-  FillDefaults(g);
-  ListSoundSetsAndHotKeys(g);
-  // The default game of the folder sets everything a game file holds; with
-  // none there (or one refused) the start is a new game.
-  std::error_code ec;
-  if (!std::filesystem::is_regular_file(DefaultGamePath(g), ec) || !OpenGame(g, DefaultGamePath(g)))
-    NewGame(g, false);
-  WriteActiveScript(g);
-  if (g.Point == 0) PlayComeOutSound(g);
-}
-
 void NewGame(Game& g, bool keepChipStacks) {
   // The games log takes its row before the counters are cleared.
-  LogFinishedGame(g);
+  if (g.Hooks.GameFinished) g.Hooks.GameFinished(g);
   const Currency savedBankroll = g.Bankroll();
   for (int id = 0; id <= bet::kLastTableBet; ++id)
     g.BetAmount[id] = g.BetAtRollStart[id] = g.BetAfterRoll[id] = 0;
@@ -96,14 +65,14 @@ void NewGame(Game& g, bool keepChipStacks) {
   g.LayVigOnBet.fill(0);
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) g.BetStatus[id] = g.WorkOnComeOut[id];
   for (Flag& f : g.AutoBet.Flags) f.FlagValue = f.FlagPrevious = 0;
-  ClearBetResults(g);
+  if (g.Hooks.CountersCleared) g.Hooks.CountersCleared(g);
   if (g.ReSeedNewGames) SeedRNG(g, false);
 
   const Currency bankroll = BeginningBankroll(g, savedBankroll);
   g.BetAmount[bet::kBankroll] = g.BetAtRollStart[bet::kBankroll] = g.BetAfterRoll[bet::kBankroll] = bankroll;
   if (g.BankrollInitType != 3) g.AmountInvested = bankroll;  // type 3 keeps counting from the first start
   if (bankroll < 0) g.AllowNegativeBankroll = true;
-  ClearBankrollGraph(g);
+  if (g.Hooks.BankrollSet) g.Hooks.BankrollSet(g);
   g.HighBankroll = g.LowBankroll = bankroll;
   g.BankrollSum = 0;
   g.RollCountLeft = g.RollCountStop;

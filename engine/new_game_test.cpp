@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
+#include "store/start_up.h"
 
 TEST(NewGame, ClearsTheTableAndKeepsTheSettings) {
   Table t;

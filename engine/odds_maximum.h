@@ -2,7 +2,7 @@
 // The most odds allowed behind a flat bet. docs/odds-limits.md gives the rule
 // of each method with worked examples.
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct OddsLimitInput {
   Currency multiple;      // X: OddsAllowed410, OddsAllowed59 or OddsAllowed68

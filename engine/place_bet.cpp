@@ -3,8 +3,8 @@
 #include <string>
 #include <utility>
 
-#include "autoplay/adjust_bet.h"
-#include "config/rules.h"
+#include "engine/adjust_bet.h"
+#include "engine/rules.h"
 #include "engine/bet_status.h"
 #include "engine/contract_rules.h"
 #include "engine/game.h"

@@ -1,7 +1,7 @@
 #pragma once
 // The one gate through which every change of a bet or Chip-Stack passes.
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Game;
 

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/notices.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 namespace refusal {
 std::string PassLineDecrease();

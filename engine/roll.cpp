@@ -4,18 +4,14 @@
 #include <array>
 #include <chrono>
 
-#include "config/payoffs.h"
-#include "dice/dice_roll_files.h"
 #include "dice/rng.h"
 #include "engine/bet_status.h"
+#include "engine/dice_roll_files.h"
 #include "engine/game.h"
 #include "engine/notices.h"
+#include "engine/payoffs.h"
 #include "engine/place_bet.h"
 #include "engine/settle_order.h"
-#include "script/interpreter.h"
-#include "stats/bet_results.h"
-#include "stats/bankroll_graph.h"
-#include "stats/roll_counters.h"
 
 namespace {
 
@@ -111,7 +107,8 @@ void TakeSnapshots(Game& g) {
   g.Settlements.Clear();
   g.BetAtRollStart = g.BetAmount;
   g.BetStreak[0] = g.BetStreak[1];
-  MoveResultMarks(g);  // reads the last roll's DiceTotal and PointBeforeRoll
+  // Reads the last roll's DiceTotal and PointBeforeRoll.
+  if (g.Hooks.RollStarting) g.Hooks.RollStarting(g);
   // What the script's dice-event conditions compare with.
   g.PreviousRollCounts = g.RollCounts;
   g.PreviousRollsSinceLast = g.RollsSinceLast;
@@ -134,7 +131,7 @@ bool GetDice(Game& g) {
     g.StopReason = got == FileRoll::EndOfFile ? kEndOfRollFileReason : kOutOfLimitsReason;
     return false;
   }
-  DrawDice(g);
+  DrawDice(g, g.RollCounts[0], g.ErrorText);
   if (!g.ErrorText.empty()) {
     ShowMessage(g, "Dicemill", g.ErrorText);
     g.ErrorText.clear();
@@ -159,7 +156,7 @@ void Throw(Game& g) {
   if (Doubles(g) && g.DiceTotal != 2 && g.DiceTotal != 12) Sound(g, kSoundDouble);
   MovePoint(g);
 
-  UpdateRollCounters(g);
+  if (g.Hooks.DiceCounted) g.Hooks.DiceCounted(g);
   g.GameChanged = true;
   ++g.HandStats[0];
   if (g.PointBeforeRoll == 0) ++g.HandStats[14];
@@ -175,8 +172,8 @@ void Throw(Game& g) {
   if (Abs(g.Bankroll()) > Currency(BankLimit)) CheckBankLimit(g);
   g.HighBankroll = Max(g.HighBankroll, g.Bankroll());
   g.LowBankroll = Min(g.LowBankroll, g.Bankroll());
-  RecordBankrollPoint(g);
-  if (g.AutoBetActivated && g.AutoBet.NumLines() > 0) RunAutoBet(g);
+  if (g.Hooks.BankrollBooked) g.Hooks.BankrollBooked(g);
+  if (g.AutoBetActivated && g.AutoBet.NumLines() > 0 && g.Hooks.ScriptPass) g.Hooks.ScriptPass(g);
   TakeScriptSnapshots(g);
 
   if (g.RollCountLeft > 0 && --g.RollCountLeft == 0) {
@@ -289,6 +286,12 @@ void CheckBankLimit(Game& g) {
   } else if (g.Bankroll() != g.BetAfterRoll[bet::kBankroll]) {
     ShowBankLimit(g);
   }
+}
+
+void TakeScriptSnapshots(Game& g) {
+  g.BetAfterRoll = g.BetAmount;
+  for (Flag& flag : g.AutoBet.Flags) flag.FlagPrevious = flag.FlagValue;
+  g.RollCountAfterPass = g.RollCounts[0];
 }
 
 void PlayComeOutSound(Game& g) {

@@ -14,3 +14,7 @@ void MoveBet(Game& g, int fromBet, int toBet);
 // Ends a run, or tells the player, once the bankroll is beyond the bank limit.
 void CheckBankLimit(Game& g);
 void PlayComeOutSound(Game& g);
+// Copies what the next script pass sees as "previous": the table of amounts
+// after the roll, every flag's value and the roll count. The end of every
+// roll, and of a pass run between rolls.
+void TakeScriptSnapshots(Game& g);

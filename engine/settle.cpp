@@ -2,11 +2,9 @@
 
 #include <optional>
 
-#include "autoplay/bet_handling.h"
 #include "engine/game.h"
+#include "engine/phantom_payoff.h"
 #include "engine/settle_notice.h"
-#include "stats/bet_results.h"
-#include "stats/phantom_payoff.h"
 
 namespace {
 
@@ -87,7 +85,7 @@ void KeepStreak(Game& g, int betId) {
 [[gnu::noinline]] void SettleWorkingBet(Game& g, int outcome, int betId) {
   const Currency amount = g.BetAmount[betId];
   FigurePayoff(g, 1, betId, outcome, amount);
-  BookBetResult(g, results::kActual, betId, amount, g.NetPayoff);
+  if (g.Hooks.BetDecided) g.Hooks.BetDecided(g, betId, amount, g.NetPayoff);
   g.Settlements.Add(betId, outcome, amount, g.NetPayoff);
   if (g.Payoff[0].Win == 0 && g.NetPayoff == 0) return;  // a push: nothing happened
 
@@ -100,13 +98,13 @@ void KeepStreak(Game& g, int betId) {
     std::optional<SettleNotice> notice;
     if (g.HandleLosingBets == 0 && g.Visible() && g.BetAtRollStart[betId] > 0)
       notice = LostNotice(g, betId, UnitFor(g, amount, g.Payoff[betId].Per));
-    LostBetHandling(g, betId, notice ? &*notice : nullptr);
+    if (g.Hooks.LostBet) g.Hooks.LostBet(g, betId, notice ? &*notice : nullptr);
     return;
   }
   FigureUnit(g, betId);
   std::optional<SettleNotice> notice;
   if (g.Visible() && g.WonBetAction == 0) notice = WonNotice(g, betId);
-  WonBetHandling(g, betId, notice ? &*notice : nullptr);
+  if (g.Hooks.WonBet) g.Hooks.WonBet(g, betId, notice ? &*notice : nullptr);
 }
 
 // A flat bet that is off stands untouched; odds that are off go back to the
@@ -124,7 +122,7 @@ void KeepStreak(Game& g, int betId) {
   }
   std::optional<SettleNotice> notice;
   if (g.Visible() && g.WonBetAction == 0) notice = OddsReturnedNotice(g, betId);
-  WonBetHandling(g, betId, notice ? &*notice : nullptr);
+  if (g.Hooks.WonBet) g.Hooks.WonBet(g, betId, notice ? &*notice : nullptr);
   g.BetStatus[betId] = 1;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 // What one bet does on this roll: payoff, rounding, money, streak, notice.
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Game;
 

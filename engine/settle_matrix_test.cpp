@@ -9,8 +9,8 @@
 #include <vector>
 #include <string>
 
-#include "config/rules.h"
-#include "engine/test_support.h"
+#include "engine/rules.h"
+#include "engine/table_for_test.h"
 
 namespace {
 

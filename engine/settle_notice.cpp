@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "config/payoffs.h"
+#include "engine/payoffs.h"
 #include "engine/game.h"
 #include "engine/notices.h"
 #include "engine/settle.h"

@@ -3,7 +3,7 @@
 // SettleBet has just left in the table state.
 
 #include "engine/frontend.h"
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Game;
 

@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include "config/rules.h"
-#include "engine/test_support.h"
+#include "engine/rules.h"
+#include "engine/table_for_test.h"
 
 TEST(SettleBet, WonNoticesAndRounding) {
   const char* winner = "* * * Winner * * *";

@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Settlement {
   int32_t BetId = 0;

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Game;
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "engine/bet_status.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 
 namespace {
 

@@ -10,15 +10,17 @@
 #include <fstream>
 #include <string>
 
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "dice/skewed_draw.h"
 #include "engine/game.h"
 #include "engine/new_game.h"
 #include "engine/roll.h"
 #include "script/text_form.h"
+#include "sim/assemble_game.h"
 #include "stats/games_log.h"
 #include "store/bet_file.h"
 #include "store/game_file.h"
+#include "store/games_log_file.h"
 #include "store/prob_file.h"
 
 namespace fuzz {
@@ -35,6 +37,7 @@ inline void RollAFewTimes(Game& g) {
 // A game file, then a few rolls of the game it made.
 inline void GameFile(const std::string& bytes) {
   Game g;
+  AssembleGame(g);
   FillDefaults(g);
   if (!OpenGameBytes(g, bytes, "fuzz.crp")) return;
   if (g.DiceFile.File.IsOpen()) CloseRollFile(g);  // never write into a file a damaged link names
@@ -75,6 +78,7 @@ inline void PlayScript(const Script& script) {
     for (int code : kFileVerbs)
       if (line.Kind == line_kind::kAction && line.Code == code) return;
   Game g;
+  AssembleGame(g);
   FillDefaults(g);
   NewGame(g, false);
   g.AutoBet = script;

@@ -5,7 +5,7 @@
 #include <filesystem>
 
 #include "cli/temp_folder_for_test.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "store/file_bytes_for_test.h"
 #include "script/script_for_test.h"
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "script/script.h"
+#include "engine/script.h"
 
 struct Game;
 

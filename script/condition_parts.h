@@ -7,7 +7,7 @@
 
 #include "engine/game.h"
 #include "script/pass_state.h"
-#include "script/script_line.h"
+#include "engine/script_line.h"
 
 // Bets, bet groups, the bankroll and its average, Chip-Stacks and the
 // shooter's-point bets: the subjects that go through the bet rule.

@@ -4,6 +4,6 @@
 
 #include "engine/game.h"
 #include "script/pass_state.h"
-#include "script/script_line.h"
+#include "engine/script_line.h"
 
 void EvaluateCondition(Game& g, PassState& pass, const ScriptLine& line);

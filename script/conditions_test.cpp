@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "script/script_for_test.h"
 
 namespace {

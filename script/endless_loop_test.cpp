@@ -7,11 +7,11 @@
 #include <filesystem>
 
 #include "engine/roll.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "script/interpreter.h"
 #include "script/loop_check.h"
 #include "script/text_form.h"
-#include "store/script_file.h"
+#include "script/script_file.h"
 #include "test_paths.h"
 
 namespace {

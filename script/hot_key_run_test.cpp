@@ -5,7 +5,7 @@
 #include <fstream>
 
 #include "cli/temp_folder_for_test.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "script/text_form.h"
 #include "store/bet_file.h"
 #include "store/hot_keys_file.h"

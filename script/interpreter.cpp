@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "engine/notices.h"
+#include "engine/roll.h"
 #include "script/actions.h"
 #include "script/conditions.h"
 #include "script/clock.h"
@@ -375,12 +376,6 @@ std::string LineListText(const std::vector<int>& lines) {
 void RunAutoBet(Game& g) {
   if (g.AutoBet.NumLines() == 0) return;  // an empty script is never run
   Pass(g).Run();
-}
-
-void TakeScriptSnapshots(Game& g) {
-  g.BetAfterRoll = g.BetAmount;
-  for (Flag& flag : g.AutoBet.Flags) flag.FlagPrevious = flag.FlagValue;
-  g.RollCountAfterPass = g.RollCounts[0];
 }
 
 void OfferInitialCycle(Game& g) {

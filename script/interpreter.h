@@ -1,6 +1,6 @@
 #pragma once
-// One pass over the Auto-Bet script, and the snapshots that the next pass
-// compares with.
+// One pass over the Auto-Bet script. The snapshots the next pass compares
+// with are the roll's own (TakeScriptSnapshots, engine/roll.h).
 
 #include <cstdint>
 #include <string>
@@ -17,10 +17,6 @@ void RunAutoBet(Game& g);
 
 // Line numbers in rising order as a phrase: "lines 3 to 5, 9 and 12".
 std::string LineListText(const std::vector<int>& lines);
-
-// Copies what the next pass sees as "previous": the table of amounts after
-// the roll, every flag's value and the roll count.
-void TakeScriptSnapshots(Game& g);
 
 // When the script has changed (InitPending) and Auto-Bet is on with at least
 // one line, offers one cycle before the next roll. Clears InitPending.

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "engine/notices.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "script/jumps.h"
 #include "script/script_for_test.h"
 

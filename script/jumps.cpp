@@ -2,7 +2,7 @@
 
 #include <cctype>
 
-#include "script/script.h"
+#include "engine/script.h"
 
 std::string LabelKey(const std::string& name) {
   std::string key = Trimmed(name);

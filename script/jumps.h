@@ -3,7 +3,7 @@
 // the pass state; the interpreter then restarts its scan from line 1.
 
 #include "script/pass_state.h"
-#include "script/script_line.h"
+#include "engine/script_line.h"
 
 namespace verb {
 constexpr int kGoTo = 117;

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "script/script_line.h"
+#include "engine/script_line.h"
 
 // At most kLineTextWidth characters.
 std::string LineText(const ScriptLine& line);

@@ -9,7 +9,7 @@
 #include <optional>
 
 #include "script/checker.h"
-#include "script/script.h"
+#include "engine/script.h"
 
 // The first such loop as a warning: the line is the jump's.
 std::optional<ScriptFault> FindEndlessLoop(const Script& script);

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "engine/catalogue.h"
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct PassState {
   int32_t CurrentLine = 0;

@@ -11,9 +11,10 @@
 #include <string>
 #include <vector>
 
-#include "engine/test_support.h"
+#include "engine/roll.h"
+#include "engine/table_for_test.h"
 #include "script/interpreter.h"
-#include "store/script_file.h"
+#include "script/script_file.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "engine/game.h"
 #include "store/bet_file.h"
-#include "store/script_file.h"
+#include "script/script_file.h"
 
 bool OpenScriptFile(Game& g, const std::string& path, std::string& error) {
   // A ".bet" file is refused in the program's own words, on the screen.

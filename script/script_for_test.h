@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "script/script_line.h"
+#include "engine/script_line.h"
 
 inline ScriptLine MakeLine(int kind, int code = 0, Currency amount = 0, int subject = 0, int target = 0,
                            const std::string& name = "") {

@@ -8,6 +8,7 @@
 #include "autoplay/auto_odds.h"
 #include "dice/rng.h"
 #include "engine/new_game.h"
+#include "engine/seed.h"
 #include "script/clock.h"
 #include "script/values.h"
 #include "script/verb_families.h"

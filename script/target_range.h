@@ -2,7 +2,7 @@
 // The slots an Action line acts upon, from its Target and TargetNum.
 
 #include "engine/game.h"
-#include "script/script_line.h"
+#include "engine/script_line.h"
 
 struct TargetRange {
   int first = 1;

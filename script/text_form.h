@@ -16,7 +16,7 @@
 #include <string>
 #include <vector>
 
-#include "script/script.h"
+#include "engine/script.h"
 
 // One line in the text form, without a line end.
 std::string LineToText(const ScriptLine& line);

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "script/catalogue.h"
-#include "script/script_line.h"
+#include "engine/script_line.h"
 
 namespace text_form {
 

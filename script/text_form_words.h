@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/money.h"
+#include "dice/money.h"
 #include "script/catalogue.h"
 
 struct TextFormError {

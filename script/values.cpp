@@ -2,8 +2,6 @@
 
 #include <cmath>
 
-#include "stats/rounded_quotient.h"
-
 namespace {
 
 Currency SumSlots(const std::array<Currency, bet::kSlots>& amounts, int first, int last) {
@@ -83,11 +81,6 @@ Currency ValueOf(const Game& g, int code, int num, bool last) {
 }
 
 }  // namespace
-
-Currency AverageBankroll(const Game& g) {
-  if (g.RollCounts[0] == 0) return g.Bankroll();
-  return RoundedQuotient(g.BankrollSum, g.RollCounts[0]);
-}
 
 int ChipStackReference(const Game& g, int num) {
   if (num < 0 || num + bet::kFirstStack >= bet::kSlots) return -1;

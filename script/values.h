@@ -3,6 +3,7 @@
 // or a Chip-Stack, now ("value of") or as the roll started ("value of the last").
 
 #include "engine/game.h"
+#include "stats/game_measures.h"
 
 Currency GetValue(const Game& g, int code, int num);
 Currency GetLastValue(const Game& g, int code, int num);
@@ -10,10 +11,6 @@ Currency GetLastValue(const Game& g, int code, int num);
 // Codes 11/17 equal, 12/18 not equal, 13/19 greater, 14/20 not greater,
 // 15/21 less, 16/22 not less. Any other code is false.
 bool CompareValues(Currency left, int code, Currency right);
-
-// The average bankroll over the rolls of the game (the bankroll itself
-// before the first roll).
-Currency AverageBankroll(const Game& g);
 
 // Chip-Stack number that "Chip-Stack ref #" num points at, or -1 when the
 // value in Chip-Stack num is not a whole 0..99.

@@ -4,7 +4,7 @@
 
 #include "engine/game.h"
 #include "script/pass_state.h"
-#include "script/script_line.h"
+#include "engine/script_line.h"
 #include "script/target_range.h"
 
 // Bet, Add, Subtract, Multiply, Divide (10..58), Round (109), Get input (83).

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 // A double, rounded to Currency (ties to even).
 Currency CheckedFromDouble(double value);

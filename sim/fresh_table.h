@@ -5,7 +5,7 @@
 
 #include <optional>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Game;
 

@@ -5,18 +5,20 @@
 #include <stdexcept>
 
 #include "autoplay/atm.h"
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "dice/rng.h"
 #include "engine/game.h"
 #include "engine/new_game.h"
 #include "engine/notices.h"
 #include "engine/roll.h"
+#include "engine/seed.h"
 #include "script/interpreter.h"
 #include "script/values.h"
 #include "sim/fresh_table.h"
 #include "sim/hyper_drive.h"
 #include "stats/bet_results.h"
-#include "store/file_read.h"
+#include "dice/file_read.h"
+#include "sim/assemble_game.h"
 #include "store/game_file.h"
 #include "stats/games_log.h"
 
@@ -154,6 +156,7 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
   const auto started = std::chrono::steady_clock::now();
   const int64_t seed = options.Seed + index;
   Game g;
+  AssembleGame(g);
   RunnerFrontEnd ui(g, control, index, options.StopAtRuin);
   g.Ui = &ui;
   SetUpTable(g, options, seed, ui);

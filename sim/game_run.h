@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "engine/money.h"
-#include "script/script.h"
+#include "dice/money.h"
+#include "engine/script.h"
 #include "sim/run_options.h"
 #include "stats/bet_results_view.h"
 #include "store/games_log_file.h"

@@ -1,9 +1,10 @@
 #pragma once
-// Starting and stopping the table's runs, and the simulated clock of a run.
+// Starting and stopping the table's runs, and the simulated roll rate.
 
 #include <string>
 
-#include "engine/money.h"
+#include "dice/money.h"
+#include "stats/game_measures.h"
 
 struct Game;
 
@@ -23,11 +24,3 @@ const char* RateUnitName(RateUnit unit);
 // unit's message under "Sim Roll Rate Out Of Limits", when the value is not
 // above zero or beyond the unit's largest value; the rate is then unchanged.
 bool SetRollsPerHour(Game& g, Currency value, RateUnit unit);
-
-// Simulated hours: the roll count over the rate.
-double SimHours(const Game& g);
-// "Sim hrs:" as shown: "#,#.0###" for a positive figure, "#,#" for a
-// negative one, "0" for none.
-std::string SimHoursText(double hours);
-// The rate as shown beside it; a rate too small to show is "<.0001".
-std::string RollsPerHourText(Currency rate);

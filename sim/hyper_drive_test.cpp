@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 
 TEST(RollRate, UnitsLimitsAndTexts) {
   struct Case {

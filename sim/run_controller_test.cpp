@@ -5,7 +5,7 @@
 #include <thread>
 #include <vector>
 
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "script/text_form.h"
 #include "sim/hyper_drive.h"
 #include "testkit/task_queue.h"
@@ -32,6 +32,7 @@ struct ScriptedTable {
   Screen ui;
 
   ScriptedTable(const std::string& script, int32_t rolls) {
+    AssembleGame(g);
     g.ReSeedNewGames = false;
     FillDefaults(g);
     g.BankrollInitAmount = 100'000;

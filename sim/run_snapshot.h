@@ -7,7 +7,7 @@
 #include <cstdint>
 
 #include "engine/catalogue.h"
-#include "engine/money.h"
+#include "dice/money.h"
 #include "stats/bankroll_graph.h"
 
 struct Game;

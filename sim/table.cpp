@@ -7,16 +7,19 @@
 #include "engine/roll.h"
 #include "engine/table_commands.h"
 #include "script/interpreter.h"
+#include "sim/assemble_game.h"
 #include "sim/fresh_table.h"
 #include "sim/table_command.h"
 #include "sim/table_listener.h"
 #include "store/folder_lock.h"
 #include "store/save_prompts.h"
+#include "store/start_up.h"
 
 Table::Table(FrontEnd& screen)
     : relay_(std::make_unique<TableRelay>(screen, [this] { Publish(); })),
       game_(std::make_unique<Game>()),
       folderLock_(std::make_unique<DataFolderLock>()) {
+  AssembleGame(*game_);
   game_->Ui = relay_.get();
   told_ = TakeTableSnapshot(*game_);
 }

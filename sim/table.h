@@ -14,7 +14,7 @@
 
 #include "autoplay/atm.h"
 #include "dice/prob_table.h"
-#include "engine/money.h"
+#include "dice/money.h"
 #include "script/hot_key_run.h"
 #include "sim/hyper_drive.h"
 #include "sim/table_result.h"

@@ -1,7 +1,7 @@
 // The table's Dice Roll File screen and the roll-your-own pad.
 
-#include "dice/dice_roll_files.h"
-#include "dice/pad.h"
+#include "engine/dice_roll_files.h"
+#include "engine/pad.h"
 #include "sim/table_command.h"
 
 namespace {

@@ -2,6 +2,7 @@
 // its Hot-Keys.
 
 #include "engine/new_game.h"
+#include "engine/roll.h"
 #include "script/interpreter.h"
 #include "script/script_files.h"
 #include "sim/table_command.h"

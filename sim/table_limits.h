@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 namespace table_limits {
 constexpr Currency kLeastUnit = Currency::FromRaw(100);  // a cent

@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-#include "engine/money.h"
+#include "dice/money.h"
 #include "engine/settlement_log.h"
 
 class TableListener {

@@ -3,8 +3,9 @@
 
 #include <string>
 
-#include "config/payoffs.h"
+#include "engine/payoffs.h"
 #include "dice/rng.h"
+#include "engine/seed.h"
 #include "engine/notices.h"
 #include "sim/table_command.h"
 #include "sim/table_limits.h"

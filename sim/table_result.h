@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 enum class TableCode {
   Done,

@@ -4,9 +4,9 @@
 #include <charconv>
 #include <map>
 
-#include "autoplay/adjust_bet.h"
+#include "engine/adjust_bet.h"
 #include "autoplay/auto_odds.h"
-#include "config/rules.h"
+#include "engine/rules.h"
 #include "config/settings_table.h"
 #include "engine/bet_status.h"
 #include "engine/notices.h"

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "engine/catalogue.h"
-#include "engine/money.h"
+#include "dice/money.h"
 
 struct Game;
 class TableListener;

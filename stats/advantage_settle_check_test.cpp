@@ -7,8 +7,8 @@
 
 #include <vector>
 
-#include "config/rules.h"
-#include "engine/test_support.h"
+#include "engine/rules.h"
+#include "engine/table_for_test.h"
 #include "stats/advantage.h"
 
 namespace {

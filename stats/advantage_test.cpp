@@ -9,7 +9,7 @@
 #include <functional>
 #include <limits>
 
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "stats/roll_nets.h"
 
 namespace {

@@ -1,8 +1,6 @@
 #include "stats/bet_results.h"
 
-#include "stats/result_cells.h"
-
-#include <algorithm>
+#include "engine/result_cells.h"
 
 using namespace results;
 
@@ -31,18 +29,6 @@ void SetNumberMarks(Game& g, int number, Currency mark) {
 }
 
 }  // namespace
-
-void results::KeepTrend(Game& g, int betId, Currency net) {
-  Game::BetTrend& trend = g.BetTrends[betId];
-  if (trend.Count == Game::kTrendCells) {
-    std::copy(trend.Net.begin() + 1, trend.Net.end(), trend.Net.begin());
-    std::copy(trend.Roll.begin() + 1, trend.Roll.end(), trend.Roll.begin());
-    --trend.Count;
-  }
-  trend.Net[trend.Count] = net;
-  trend.Roll[trend.Count] = g.RollCounts[0];
-  ++trend.Count;
-}
 
 void BookBetResult(Game& g, int kind, int betId, Currency stake, Currency net) {
   if (kind == kPhantom && !PhantomStands(g, betId)) return;

@@ -7,22 +7,7 @@
 #include <array>
 
 #include "engine/game.h"
-
-namespace results {
-constexpr int kPhantom = 0;
-constexpr int kActual = 1;
-
-// Measures of a cell.
-constexpr int kMark = 0;         // BetWagers, kind 0 only: a phantom unit stands on the number
-constexpr int kCount = 1;        // number of entries
-constexpr int kTotal = 2;        // total amount
-constexpr int kHigh = 3;         // highest single amount
-constexpr int kLow = 4;          // lowest single amount, 0 until the first entry
-constexpr int kLast = 5;         // last amount
-constexpr int kLastRollCount = 6;   // 1 when booked in the last roll
-constexpr int kLastRollAmount = 7;  // amount booked in the last roll
-constexpr int kMeasures = 8;
-}  // namespace results
+#include "engine/result_cells.h"
 
 // Books one decision. A net of 0 is no decision. The stake takes the vig of
 // a Lay or Buy where it is paid; a phantom Come or Don't Come number (and

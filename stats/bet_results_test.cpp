@@ -8,7 +8,7 @@
 
 #include <vector>
 
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 
 using namespace results;
 

@@ -1,9 +1,9 @@
 #include "stats/bet_results_view.h"
 
 #include "engine/notices.h"
-#include "sim/hyper_drive.h"
 #include "stats/advantage.h"
 #include "stats/bet_results.h"
+#include "stats/game_measures.h"
 #include "stats/number_formats.h"
 
 using namespace results;

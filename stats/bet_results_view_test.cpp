@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "stats/bet_results.h"
 
 using namespace results;

@@ -6,9 +6,8 @@
 
 #include "autoplay/atm.h"
 #include "engine/game.h"
-#include "script/values.h"
-#include "sim/hyper_drive.h"
 #include "stats/bet_results.h"
+#include "stats/game_measures.h"
 #include "stats/rounded_quotient.h"
 
 namespace {
@@ -158,11 +157,6 @@ GameLogRecord FinishedGameRecord(const Game& g) {
   r[kNetResult] = NetResult(g);
   r[kSimHours] = Currency::FromDouble(SimHours(g));
   return r;
-}
-
-void LogFinishedGame(Game& g) {
-  if (g.GamesLogFile.empty() || g.RollCounts[0] == 0) return;
-  SaveGameToLog(g, g.GamesLogFile, FinishedGameRecord(g));
 }
 
 void SetBreakPoint(GamesView& view, Currency first, Currency second) {

@@ -7,10 +7,13 @@
 #include <string>
 #include <vector>
 
-#include "engine/money.h"
-#include "store/games_log_file.h"
+#include "dice/money.h"
 
 struct Game;
+
+// A game of the log: a fixed row of values, the fields below.
+constexpr int kGameLogFields = 32;
+using GameLogRecord = std::array<Currency, kGameLogFields>;
 
 // Fields of a record (cmbView lists them in this order).
 namespace logfield {
@@ -30,9 +33,6 @@ const char* MeasureName(int field);
 
 // The record of the game now on the table.
 GameLogRecord FinishedGameRecord(const Game& g);
-// Adds the game on the table to its log, if a log is active and the game
-// has had a roll.
-void LogFinishedGame(Game& g);
 
 // What frmGames is set to show.
 struct GamesView {

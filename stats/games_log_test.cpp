@@ -6,7 +6,8 @@
 #include <vector>
 
 #include "cli/temp_folder_for_test.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
+#include "store/games_log_file.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <cmath>
 
 #include "dice/rng.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "stats/advantage.h"
 #include "stats/bet_results.h"
 

@@ -4,7 +4,7 @@
 
 #include <set>
 
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <set>
 #include <string>
 
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "stats/roll_counters.h"
 
 namespace {

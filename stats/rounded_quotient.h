@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "engine/money.h"
+#include "dice/money.h"
 
 inline Currency RoundedQuotient(Currency sum, int64_t count) {
   if (count <= 0) return 0;

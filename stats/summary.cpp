@@ -3,9 +3,8 @@
 #include <cmath>
 
 #include "engine/notices.h"
-#include "script/values.h"
-#include "sim/hyper_drive.h"
 #include "stats/bet_results.h"
+#include "stats/game_measures.h"
 #include "stats/number_formats.h"
 
 using namespace results;

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "stats/bet_results.h"
 #include "stats/number_formats.h"
 

@@ -10,7 +10,7 @@
 #include <random>
 #include <system_error>
 
-#include "store/file_read.h"
+#include "dice/file_read.h"
 
 namespace fs = std::filesystem;
 

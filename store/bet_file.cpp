@@ -8,9 +8,10 @@
 #include <fstream>
 #include <system_error>
 
+#include "engine/file_errors.h"
 #include "engine/game.h"
 #include "engine/notices.h"
-#include "store/file_errors.h"
+#include "store/atomic_write.h"
 
 namespace {
 
@@ -78,7 +79,6 @@ ScriptLine ReadRecord(const std::string& in, size_t at) {
   l.Spare2 = Get16(in, at + kSpare2);
   return l;
 }
-
 
 }  // namespace
 
@@ -180,6 +180,21 @@ bool SaveAutoBetFile(Game& g, const std::string& path, bool selectedOnly) {
   if (!selectedOnly) {
     g.AutoBet.FileName = path;
     g.ScriptDirty = false;
+  }
+  return true;
+}
+
+bool SaveBetFile(const std::string& path, const Script& script, std::string& error) {
+  for (int n = 1; n <= script.NumLines(); ++n) {
+    if (!FitsFileFields(script.Line(n))) {
+      error = PrintableName(path) + ": line " + std::to_string(n) + " has a number that a .bet record cannot hold";
+      return false;
+    }
+  }
+  std::string reason;
+  if (!WriteFileAtomically(path, EncodeBetFile(script, false), reason)) {
+    error = PrintableName(path) + " " + reason + ".";
+    return false;
   }
   return true;
 }

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "script/script.h"
+#include "engine/script.h"
 
 struct Game;
 
@@ -36,3 +36,8 @@ bool OpenAutoBetFile(Game& g, const std::string& path);
 // Save, Save As and "Copy To Auto-Bet File" (selectedOnly). The file is
 // written beside the target and renamed over it.
 bool SaveAutoBetFile(Game& g, const std::string& path, bool selectedOnly = false);
+
+// Writes the whole script as a ".bet" file, beside the target and renamed
+// over it, telling nobody: false with `error` set to what to say. A line
+// whose numbers a record cannot hold is refused before anything is written.
+bool SaveBetFile(const std::string& path, const Script& script, std::string& error);

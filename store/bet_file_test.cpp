@@ -8,7 +8,7 @@
 #include <fstream>
 
 #include "cli/temp_folder_for_test.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 
 namespace {
 

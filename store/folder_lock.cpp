@@ -7,7 +7,7 @@
 #include "engine/game.h"
 #include "engine/notices.h"
 #include "store/atomic_write.h"
-#include "store/file_errors.h"
+#include "engine/file_errors.h"
 
 DataFolderLock::~DataFolderLock() {
   if (fd_ >= 0) ::close(fd_);

@@ -2,10 +2,11 @@
 
 #include <filesystem>
 
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "engine/game.h"
 #include "engine/notices.h"
-#include "store/file_errors.h"
+#include "engine/file_errors.h"
+#include "store/atomic_write.h"
 #include "store/game_file_check.h"
 #include "store/game_file_links.h"
 #include "store/game_file_sections.h"

@@ -4,13 +4,12 @@
 #include <ctime>
 #include <filesystem>
 
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "engine/game.h"
 #include "engine/notices.h"
-#include "script/script_files.h"
+#include "store/bet_file.h"
 #include "store/game_file.h"
 #include "store/prob_file.h"
-#include "store/script_file.h"
 #include "store/small_files.h"
 
 namespace fs = std::filesystem;
@@ -100,7 +99,7 @@ FileLink AutoBetLinkForSave(Game& g, const std::string& gamePath) {
     if (!IsDefaultGame(gamePath) || script.NumLines() == 0) return {};
     const std::string path = WorkFileFor(g, gamePath, "default.bet");
     std::string error;
-    if (!SaveScriptFile(path, script, error)) return {};
+    if (!SaveBetFile(path, script, error)) return {};
     script.FileName = path;
     g.ScriptDirty = false;
     return LinkTo(path);
@@ -127,7 +126,9 @@ void OpenAutoBetLink(Game& g, const FileLink& link) {
   const LinkState state = CheckLink(g, link, kAutoBetWords);
   if (state == LinkState::Same || state == LinkState::Altered) {
     std::string error;
-    if (!OpenScriptFile(g, link.Path, error) && !error.empty()) ShowMessage(g, "Error", error);
+    // The script's reader sits above the files; the game is given it.
+    if (g.Hooks.OpenScriptFile && !g.Hooks.OpenScriptFile(g, link.Path, error) && !error.empty())
+      ShowMessage(g, "Error", error);
   }
   g.AutoBet.ChipStackNames = names;
   g.ScriptDirty = false;

@@ -6,16 +6,18 @@
 #include <random>
 
 #include "cli/temp_folder_for_test.h"
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
+#include "engine/roll.h"
 #include "engine/table_commands.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "script/interpreter.h"
 #include "store/game_file_links.h"
 #include "store/game_record.h"
 #include "store/file_bytes_for_test.h"
 #include "store/games_log_file.h"
 #include "test_paths.h"
-#include "store/script_file.h"
+#include "script/script_file.h"
+#include "store/start_up.h"
 
 namespace fs = std::filesystem;
 
@@ -64,6 +66,7 @@ struct SavedTable {
   RecordingFrontEnd ui;
 
   explicit SavedTable(const fs::path& folder) {
+    AssembleGame(g);
     g.Ui = &ui;
     g.DataFolder = folder.string();
     g.ReSeedNewGames = false;
@@ -402,6 +405,7 @@ TEST(GameFile, TheDefaultGameIsSavedAtTheStopAndOpenedAtTheStart) {
   t.g.TableMaximum = 2500;
   ASSERT_TRUE(SaveDefaultGame(t.g));
   Game next;
+  AssembleGame(next);
   StartUp(next, folder.path().string());
   EXPECT_EQ(next.Bankroll(), 4321);
   EXPECT_EQ(next.TableMaximum, 2500);

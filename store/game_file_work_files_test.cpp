@@ -6,11 +6,11 @@
 
 #include "cli/temp_folder_for_test.h"
 #include "engine/new_game.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "store/file_bytes_for_test.h"
 #include "store/game_file.h"
 #include "store/bet_file.h"
-#include "store/script_file.h"
+#include "script/script_file.h"
 #include "store/small_files.h"
 
 namespace fs = std::filesystem;
@@ -24,6 +24,7 @@ struct FolderGame {
   Game g;
   RecordingFrontEnd ui;
   FolderGame() {
+    AssembleGame(g);
     g.Ui = &ui;
     g.DataFolder = data.path().string();
     g.ReSeedNewGames = false;

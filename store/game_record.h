@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "engine/money.h"
-#include "store/game_file_extras.h"
+#include "dice/money.h"
+#include "engine/game_file_extras.h"
 
 constexpr int kCurrencySlots = 32, kInt16Slots = 128, kInt32Slots = 64;
 

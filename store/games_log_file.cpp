@@ -8,7 +8,8 @@
 
 #include "engine/game.h"
 #include "engine/notices.h"
-#include "store/file_errors.h"
+#include "engine/file_errors.h"
+#include "store/atomic_write.h"
 
 namespace {
 
@@ -150,4 +151,9 @@ bool SaveGameToLog(Game& g, const std::string& path, const GameLogRecord& record
   if (AppendGamesToLog(path, {record}, error)) return true;
   Show(g, error);
   return false;
+}
+
+void LogFinishedGame(Game& g) {
+  if (g.GamesLogFile.empty() || g.RollCounts[0] == 0) return;
+  SaveGameToLog(g, g.GamesLogFile, FinishedGameRecord(g));
 }

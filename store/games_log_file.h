@@ -8,15 +8,13 @@
 #include <string>
 #include <vector>
 
-#include "engine/money.h"
+#include "dice/money.h"
+#include "stats/games_log.h"
 
 struct Game;
 
 constexpr int kGamesRecordBytes = 256;
-constexpr int kGameLogFields = 32;
 constexpr const char* kGamesFileTitle = "Dicemill Games File, Data Format 5.0";
-
-using GameLogRecord = std::array<Currency, kGameLogFields>;
 
 // What a failed read or write tells the player.
 struct GamesFileError {
@@ -40,3 +38,7 @@ bool AppendGamesToLog(const std::filesystem::path& path, const std::vector<GameL
 bool OpenGamesFile(Game& g, const std::string& path);
 // Adds one game to the log at `path`; a failure is shown.
 bool SaveGameToLog(Game& g, const std::string& path, const GameLogRecord& record);
+
+// Adds the game on the table to its log, if a log is active and the game
+// has had a roll.
+void LogFinishedGame(Game& g);

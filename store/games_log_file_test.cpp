@@ -5,7 +5,7 @@
 #include <random>
 
 #include "cli/temp_folder_for_test.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "store/file_bytes_for_test.h"
 #include "test_paths.h"
 

@@ -6,20 +6,14 @@
 #include <string>
 #include <vector>
 
+#include "engine/hot_key_binding.h"
+
 struct Game;
 
 inline constexpr const char* kHotKeysFileName = "HotKeys.dta";
 inline constexpr const char* kHotKeysMagic = "Dicemill Hot-Key File";
 constexpr size_t kHotKeyRecordBytes = 256;
 constexpr size_t kHotKeyFieldBytes = 100;
-
-// One binding. The label is the player's own note on what the file does; it
-// is listed beside the key and plays no part in running it.
-struct HotKeyBinding {
-  char Key = 0;          // 'A'..'Z' or '0'..'9'
-  std::string File;      // path of the Auto-Bet file, as defined
-  std::string Label;
-};
 
 // A key the table can bind, upper-cased; 0 for any other character.
 char HotKeyChar(char c);

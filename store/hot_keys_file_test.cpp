@@ -8,8 +8,8 @@
 
 #include "cli/temp_folder_for_test.h"
 #include "store/file_bytes_for_test.h"
-#include "engine/test_support.h"
-#include "store/file_errors.h"
+#include "engine/table_for_test.h"
+#include "engine/file_errors.h"
 
 namespace {
 

@@ -7,7 +7,8 @@
 
 #include "engine/game.h"
 #include "engine/notices.h"
-#include "store/file_errors.h"
+#include "engine/file_errors.h"
+#include "store/atomic_write.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 
 class AnsweringUi : public RecordingFrontEnd {
  public:

@@ -5,12 +5,12 @@
 #include <fstream>
 
 #include "cli/temp_folder_for_test.h"
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "engine/table_commands.h"
 #include "script/interpreter.h"
 #include "script/text_form.h"
 #include "store/bet_file.h"
-#include "store/file_errors.h"
+#include "engine/file_errors.h"
 #include "store/game_file.h"
 #include "store/prompt_ui_for_test.h"
 #include "store/small_files.h"

@@ -8,7 +8,7 @@
 #include "cli/temp_folder_for_test.h"
 #include "config/settings_table.h"
 #include "engine/new_game.h"
-#include "engine/test_support.h"
+#include "engine/table_for_test.h"
 #include "store/game_file.h"
 
 namespace {

@@ -4,10 +4,11 @@
 #include <fstream>
 #include <iterator>
 
-#include "dice/dice_roll_files.h"
+#include "engine/dice_roll_files.h"
 #include "engine/game.h"
 #include "store/bet_file.h"
-#include "store/file_errors.h"
+#include "engine/file_errors.h"
+#include "store/atomic_write.h"
 #include "store/hot_keys_file.h"
 #include "store/sound_sets.h"
 

@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-#include "script/script_line.h"
+#include "engine/script_line.h"
 
 struct Game;
 

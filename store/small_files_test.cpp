@@ -6,11 +6,12 @@
 
 #include "cli/temp_folder_for_test.h"
 #include "store/file_bytes_for_test.h"
-#include "dice/dice_roll_files.h"
-#include "engine/test_support.h"
+#include "engine/dice_roll_files.h"
+#include "engine/table_for_test.h"
 #include "store/bet_file.h"
 #include "store/hot_keys_file.h"
 #include "store/sound_sets.h"
+#include "store/start_up.h"
 
 namespace fs = std::filesystem;
 

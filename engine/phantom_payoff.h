@@ -1,0 +1,51 @@
+#pragma once
+// The phantom one-unit wager of every working spot, figured as the settling
+// figures FigurePayoff (0, BetId, Outcome, 1), but without touching the
+// payoff scratch of the real bet and without its rounding to checks, which
+// the phantom does not use. It runs for every working spot on every
+// decision, so the common cases are inline and worked straight from the
+// payoff rows.
+
+#include "engine/game.h"
+#include "engine/result_cells.h"
+
+struct PhantomFigure {
+  Currency Stake;  // 1, plus the vig where it is paid
+  Currency Net;    // the raw payoff
+};
+
+// Win x 1 / Per; a Per of 1 needs no division.
+inline Currency UnitShare(const PayoffRecord& record) {
+  if (record.Per.raw == Currency::kScale) return record.Win;
+  if (record.Per.raw == 0) return Currency{};  // validation keeps Per above zero
+  return MulDiv(Currency(1), record.Win, record.Per);
+}
+
+// The rarer cases: a Lay or Buy, and a won line or split bet.
+PhantomFigure FigurePhantomInFull(const Game& g, int betId, int outcome);
+
+inline PhantomFigure FigurePhantom(const Game& g, int betId, int outcome) {
+  const Currency unit = 1;
+  if (betId == bet::kField) return {unit, UnitShare(g.FieldPayoff[bet::FieldRow(g.Die1, g.Die2)])};
+  if (betId <= bet::kBuyBase + 5) {
+    if (bet::IsLay(betId) || bet::IsBuy(betId)) return FigurePhantomInFull(g, betId, outcome);
+  }
+  if (outcome <= 0) return {unit, -unit};
+  switch (betId) {
+    case bet::kPassLine:
+    case bet::kPassOdds:
+    case bet::kDontPass:
+    case bet::kDontPassOdds:
+    case bet::kCandE:
+    case bet::kHorn:
+    case bet::kWorld: return FigurePhantomInFull(g, betId, outcome);
+    default: return {unit, UnitShare(g.Payoff[betId])};
+  }
+}
+
+// Figures and books the phantom unit of betId, when one stands there.
+inline void BookPhantomResult(Game& g, int betId, int outcome) {
+  if (!results::PhantomStands(g, betId)) return;
+  const PhantomFigure f = FigurePhantom(g, betId, outcome);
+  results::BookEntry(g, results::kPhantom, betId, f.Stake, f.Net);
+}

@@ -1,0 +1,21 @@
+#pragma once
+// A script file in either form: a ".bet" file of records, or the text form
+// (".txt"). Tools and the headless front end load and save scripts through
+// these, without a screen to show messages on.
+
+#include <string>
+
+#include "engine/script.h"
+
+// True for a path whose extension is ".bet", in any case.
+bool IsBetFilePath(const std::string& path);
+
+// Reads a ".bet" file (by extension, or by its magic whatever the name) or a
+// text file. On success the lines replace the script's, its Flags are
+// rebuilt and FileName becomes the path; on failure the script is untouched
+// and `error` says why, in one line.
+bool LoadScriptFile(const std::string& path, Script& script, std::string& error);
+
+// Writes the script as ".bet" records when the path ends in ".bet", else as
+// text. The file is replaced whole or not at all.
+bool SaveScriptFile(const std::string& path, const Script& script, std::string& error);
