@@ -16,6 +16,7 @@
 #include "store/hot_keys_file.h"
 #include "store/sound_sets.h"
 #include "engine/catalogue.h"
+#include "engine/hand_counters.h"
 #include "engine/frontend.h"
 #include "engine/money.h"
 #include "script/script.h"
@@ -75,7 +76,7 @@ struct Game {
   bool GameChanged = false;
   Currency BetChange;          // input of PlaceBet
   Currency BetChangeAllowed;   // output of PlaceBet
-  std::array<int32_t, 20> HandStats{};
+  std::array<int32_t, hand::kCount> HandStats{};
   std::string MsgText, MsgTitle;  // the pending message
   std::string ErrorText;          // pending run-time error text, shown by the roll
 

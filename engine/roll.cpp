@@ -143,7 +143,7 @@ bool GetDice(Game& g) {
 
 void MovePoint(Game& g) {
   const int next = NextPoint(g.Point, g.DiceTotal);
-  if (g.Point == 0 && next != 0) ++g.HandStats[7];
+  if (g.Point == 0 && next != 0) ++g.HandStats[hand::kPointsEstablished];
   g.Point = next;
 }
 
@@ -160,8 +160,8 @@ void Throw(Game& g) {
 
   UpdateRollCounters(g);
   g.GameChanged = true;
-  ++g.HandStats[0];
-  if (g.PointBeforeRoll == 0) ++g.HandStats[14];
+  ++g.HandStats[hand::kRolls];
+  if (g.PointBeforeRoll == 0) ++g.HandStats[hand::kComeOutRolls];
 
   TestStopOnRoll(g, SettleTheThrow(g));
 
@@ -291,6 +291,6 @@ void CheckBankLimit(Game& g) {
 }
 
 void PlayComeOutSound(Game& g) {
-  if (g.HandStats[0] == 0) Sound(g, kSoundNewShooter);
+  if (g.HandStats[hand::kRolls] == 0) Sound(g, kSoundNewShooter);
   Sound(g, kSoundComeOut);
 }

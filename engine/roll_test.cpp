@@ -11,39 +11,40 @@ struct RollTest : ::testing::Test, Table {
     g.BetChange = amount;
     PlaceBetOnTable(g, id);
   }
-  void ExpectHandStats(std::initializer_list<std::pair<int, int>> counts) {
+  void ExpectHandStats(std::initializer_list<std::pair<hand::Stat, int>> counts) {
     for (const auto& [index, count] : counts) EXPECT_EQ(g.HandStats[index], count) << "HandStats " << index;
   }
 };
 
 TEST_F(RollTest, PointComesAndGoesWithItsHandCounters) {
+  using namespace hand;
   Roll(2, 2);  // point 4
   EXPECT_EQ(g.Point, 4);
   EXPECT_EQ(g.PointBeforeRoll, 0);  // still the come-out for this roll's decisions
-  ExpectHandStats({{7, 1}, {14, 1}});
+  ExpectHandStats({{kPointsEstablished, 1}, {kComeOutRolls, 1}});
   Roll(3, 1);  // point made
   EXPECT_EQ(g.Point, 0);
   EXPECT_EQ(g.PointBeforeRoll, 4);
-  ExpectHandStats({{1, 1}, {8, 1}});
+  ExpectHandStats({{kWins, 1}, {kPointsMade, 1}});
   Roll(5, 6);  // come-out 11: a line win on the come-out
-  ExpectHandStats({{9, 1}, {10, 2}});
+  ExpectHandStats({{kComeOutWins, 1}, {kAllWins, 2}});
   Roll(1, 1);  // come-out 2, bar 12: a come-out line loss, not a hand's end
-  ExpectHandStats({{12, 1}, {2, 0}});
+  ExpectHandStats({{kComeOutLosses, 1}, {kHands, 0}});
   Roll(4, 1);  // point 5
   Roll(6, 6);
   Roll(3, 4);  // seven-out
-  ExpectHandStats({{0, 0}, {1, 0}, {2, 1}, {3, 7}, {5, 7}, {11, 1}, {17, 7}, {18, 2}});
+  ExpectHandStats({{kRolls, 0}, {kWins, 0}, {kHands, 1}, {kMostRolls, 7}, {kRollsOfHands, 7}, {kSevenOuts, 1}, {kLastHandRolls, 7}, {kLastHandWins, 2}});
   EXPECT_EQ(g.RollCounts[0], 7);
 
   // Barred craps count as line losses on the come-out; a come-out 7 wins the
   // line and the hand goes on.
   Roll(6, 6);
-  ExpectHandStats({{12, 2}, {13, 3}, {15, 1}});
+  ExpectHandStats({{kComeOutLosses, 2}, {kAllLosses, 3}, {kLossesInRow, 1}});
   g.BarNumber = 2;
   Roll(1, 1);
-  ExpectHandStats({{12, 3}});
+  ExpectHandStats({{kComeOutLosses, 3}});
   Roll(3, 4);
-  ExpectHandStats({{2, 1}, {9, 2}});
+  ExpectHandStats({{kHands, 1}, {kComeOutWins, 2}});
 }
 
 TEST_F(RollTest, StatusesAndSnapshotsFollowThePoint) {

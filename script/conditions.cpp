@@ -113,14 +113,14 @@ Counter CounterOf(const Game& g, int subject) {
   const auto& h = g.HandStats;
   switch (subject) {
     case 1311: return {g.RollCounts[event::kAllRolls], CounterKind::Game};
-    case 1312: return {h[0], CounterKind::Shooter};
-    case 1323: return {h[17], CounterKind::LastShooter};
-    case 1314: return {h[10], CounterKind::Game, true};
-    case 1315: return {h[1], CounterKind::Shooter, true};
-    case 1324: return {h[18], CounterKind::LastShooter};
-    case 1317: return {h[13], CounterKind::Game, true};
-    case 1318: return {h[15], CounterKind::Shooter, true};
-    case 1325: return {h[19], CounterKind::LastShooter};
+    case 1312: return {h[hand::kRolls], CounterKind::Shooter};
+    case 1323: return {h[hand::kLastHandRolls], CounterKind::LastShooter};
+    case 1314: return {h[hand::kAllWins], CounterKind::Game, true};
+    case 1315: return {h[hand::kWins], CounterKind::Shooter, true};
+    case 1324: return {h[hand::kLastHandWins], CounterKind::LastShooter};
+    case 1317: return {h[hand::kAllLosses], CounterKind::Game, true};
+    case 1318: return {h[hand::kLossesInRow], CounterKind::Shooter, true};
+    case 1325: return {h[hand::kLastHandLossesInRow], CounterKind::LastShooter};
     default: return {};
   }
 }
@@ -131,7 +131,8 @@ bool EvaluateCounter(const Game& g, PassState& pass, const ScriptLine& line, Cur
   pass.BlockTrue = CompareValues(Currency(c.value), line.Code, amount);
   if (c.kind == CounterKind::LastShooter) {
     // Fresh when a new shooter has just come out after a finished hand.
-    pass.LineJustNow = g.HandStats[0] == 0 && g.HandStats[18] + g.HandStats[19] > 0;
+    const auto& h = g.HandStats;
+    pass.LineJustNow = h[hand::kRolls] == 0 && h[hand::kLastHandWins] + h[hand::kLastHandLossesInRow] > 0;
   } else {
     pass.LineJustNow = !CompareValues(Currency(c.value - 1), line.Code, amount) && (!c.decidedOnly || g.Point == 0);
   }

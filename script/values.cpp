@@ -45,11 +45,11 @@ Currency ValueOf(const Game& g, int code, int num, bool last) {
   if (code >= 1000 && code <= 1009) return GroupSum(amounts, code);
   switch (code) {
     case 1311: return Currency(g.RollCounts[0]);
-    case 1312: return Currency(last ? h[17] : h[0]);
-    case 1314: return Currency(h[10]);
-    case 1315: return Currency(last ? h[18] : h[1]);
-    case 1317: return Currency(h[13]);
-    case 1318: return Currency(last ? h[19] : h[15]);
+    case 1312: return Currency(last ? h[hand::kLastHandRolls] : h[hand::kRolls]);
+    case 1314: return Currency(h[hand::kAllWins]);
+    case 1315: return Currency(last ? h[hand::kLastHandWins] : h[hand::kWins]);
+    case 1317: return Currency(h[hand::kAllLosses]);
+    case 1318: return Currency(last ? h[hand::kLastHandLossesInRow] : h[hand::kLossesInRow]);
     case 1400: return g.Bankroll();
     case 1401: return AverageBankroll(g);
     case 1402: return last ? g.HighBankroll : Max(g.HighBankroll, g.Bankroll());

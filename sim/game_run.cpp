@@ -168,7 +168,7 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
   }
   ui.ForgetMessages();
 
-  const int64_t rollsBefore = g.RollCounts[0], handsBefore = g.HandStats[2];
+  const int64_t rollsBefore = g.RollCounts[0], handsBefore = g.HandStats[hand::kHands];
   ui.StartCountingAt(rollsBefore);
   GameResult r;
   r.Index = index;
@@ -205,7 +205,7 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
     r.StopReason = InterruptedStopReason(r.Rolls);
   const int64_t planned = options.Rolls > 0 ? options.Rolls : MaxRolls;
   if (r.Rolls < planned) control.RollsNotNeeded.fetch_add(planned - r.Rolls, std::memory_order_relaxed);
-  r.Hands = g.HandStats[2] - handsBefore;
+  r.Hands = g.HandStats[hand::kHands] - handsBefore;
   r.SimHours = SimHours(g);
   r.BankrollEnd = g.Bankroll();
   r.BankrollHigh = g.HighBankroll;
