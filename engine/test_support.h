@@ -111,7 +111,7 @@ struct Table {
     return g.BetChangeAllowed;
   }
   // What the bankroll gained.
-  Currency Settle(int outcome, int id) {
+  Currency Settle(Outcome outcome, int id) {
     const Currency before = g.Bankroll();
     SettleBet(g, outcome, id);
     return g.Bankroll() - before;
