@@ -18,7 +18,7 @@ Currency AfterPlace6Win(int wonBetAction, std::optional<int> button = std::nullo
   EXPECT_EQ(t.Settle(Outcome::Win, kPlace6), Currency(14));
   EXPECT_EQ(t.g.TotalOnTable, t.g.BetAmount[kPlace6]);
   EXPECT_EQ(t.ui.notices.size(), wonBetAction == 0 ? 1u : 0u);
-  EXPECT_EQ(t.g.NoticeMask, 15);
+  EXPECT_EQ(t.g.NoticeMask, kNoticeDefault);
   return t.g.BetAmount[kPlace6];
 }
 
@@ -32,7 +32,7 @@ Currency AfterFieldLoss(int handleLosingBets, int per, std::optional<int> button
   t.Dice(1, 4, 0);
   SettleBet(t.g, Outcome::Win, bet::kField);
   EXPECT_EQ(t.g.TotalOnTable, t.g.BetAmount[bet::kField]);
-  EXPECT_EQ(t.g.NoticeMask, 15);
+  EXPECT_EQ(t.g.NoticeMask, kNoticeDefault);
   return t.g.BetAmount[bet::kField];
 }
 
@@ -70,12 +70,12 @@ TEST(WonBetHandling, ModifiedFormsAndResultNotices) {
 
   // Press, double and parlay tell the result against the bet before the roll.
   const struct { int option; int32_t mask; bool hyper; std::vector<RecordedMessage> said; } told[] = {
-      {3, 15, false, {{"Press 1 Unit Place 6", "Bet increased by: $6"}}},
-      {4, 15, false, {{"Press Double Place 6", "Bet increased by: $12"}}},
-      {5, 15, false, {{"Parlay Place 6", "Bet increased by: $14"}}},
-      {5, 11, false, {}},
-      {5, 15, true, {}},
-      {2, 15, false, {}}};
+      {3, kNoticeDefault, false, {{"Press 1 Unit Place 6", "Bet increased by: $6"}}},
+      {4, kNoticeDefault, false, {{"Press Double Place 6", "Bet increased by: $12"}}},
+      {5, kNoticeDefault, false, {{"Parlay Place 6", "Bet increased by: $14"}}},
+      {5, kNoticeDefault & ~kNoticeCharges, false, {}},
+      {5, kNoticeDefault, true, {}},
+      {2, kNoticeDefault, false, {}}};
   for (const auto& c : told) {
     Table t;
     t.g.WonBetAction = c.option;

@@ -313,7 +313,7 @@ void PlaySession::New(const Args& a) {
   // As the New menu: unsaved work is offered for saving first; Cancel keeps
   // the game as it is.
   QuerySaveGame(*game_);
-  if (game_->MsgReply == kMsgCancel) return;
+  if (game_->MsgReply == ::Answer::Cancel) return;
   NewGame(*game_, keep);
 }
 

@@ -93,7 +93,7 @@ std::vector<SettingRow> BuildTable() {
       Row<&G::BankrollInitAmount>("BankrollInitAmount", -kBank, kBank, 500),
       Row<&G::AtmAmount>("AtmAmount", 0, kBank, 500),
       Row<&G::AmountInvested>("AmountInvested", -kMostBankroll, kMostBankroll, 0),
-      Row<&G::NoticeMask>("NoticeMask", 0, 31, 15),
+      Row<&G::NoticeMask>("NoticeMask", 0, kNoticeAll, kNoticeDefault),
       // Auto-Play
       Row<&G::AutoAdjustMode>("AutoAdjustMode", 0, 2, 2),
       Flag<&G::AutoTakeFullOdds>("AutoTakeFullOdds", false),

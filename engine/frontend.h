@@ -2,6 +2,7 @@
 // What the engine needs of a screen. The engine never calls a GUI toolkit; a
 // desktop window, the headless `play` front end and tests all implement this.
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -10,6 +11,10 @@
 
 enum class Buttons { Ok, YesNo, YesNoCancel };
 enum class Reply { Ok, Yes, No, Cancel };
+
+// An answer the table keeps: the last save prompt's (MsgReply) and the
+// script's last Yes/No question (LastAnswer). Game files keep the numbers.
+enum class Answer : int32_t { None = 1, Cancel = 2, Yes = 6, No = 7 };
 
 // The won and lost notices of settlement: rows of a left label and a right
 // amount, a title and the buttons the player may answer with.

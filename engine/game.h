@@ -19,6 +19,7 @@
 #include "engine/hand_counters.h"
 #include "engine/frontend.h"
 #include "engine/money.h"
+#include "engine/notices.h"
 #include "script/script.h"
 #include "store/game_file_extras.h"
 
@@ -69,7 +70,7 @@ struct Game {
   bool HyperDriveOn = false;
   bool DiceAlreadySet = false;
   std::string StopReason;
-  int32_t NoticeMask = 15;  // 1 refusals, 2 limits, 4 vig and change, 8/16 script
+  int32_t NoticeMask = kNoticeDefault;  // bits kNotice*
   bool MovingBet = false;
   bool TableDirty = false;
   bool TableUsed = false;
@@ -229,7 +230,7 @@ struct Game {
   bool ShowingSteps = false;      // every step of a pass waits on the steps viewer
   bool HotKeyRun = false;         // this pass was started by a Hot-Key
   bool InitPending = false;       // the script changed: its first cycle is due
-  int32_t LastAnswer = 1;         // 6 Yes, 7 No to the script's last question
+  Answer LastAnswer = Answer::None;  // to the script's last question
   int32_t RollCountAfterPass = 0; // the roll count as the last pass ended
   std::string MessageBuffer;      // a run of message lines being built
   std::ofstream ScriptOutput;     // the script's output file, kept between passes
@@ -246,7 +247,7 @@ struct Game {
   bool ScriptDirty = false;
   std::string GameFileName;       // the game's own file; empty for the default game
   std::string TableCaption = "Dicemill";
-  int32_t MsgReply = 1;           // the last save prompt's answer: 6 Yes, 7 No, 2 Cancel, 1 nothing asked
+  Answer MsgReply = Answer::None;  // the last save prompt's answer; None: nothing asked
   std::vector<HotKeyBinding> HotKeys;
   SoundSets Sounds;
   GameFileExtras FileExtras;      // what a game file holds that this program does not use

@@ -19,8 +19,6 @@ constexpr int kAvailableBankroll = 1410;
 constexpr int kSimulatedHours = 1405;
 constexpr int kFlag = 1500, kAnyFlag = 1501, kAllFlags = 1502, kTrueFlags = 1503, kFalseFlags = 1504;
 
-constexpr int kReplyYes = 6, kReplyNo = 7;
-
 void Set(PassState& pass, bool now, bool justNow) {
   pass.BlockTrue = now;
   pass.LineJustNow = justNow;
@@ -81,8 +79,8 @@ bool EvaluateTiming(const Game& g, PassState& pass, const ScriptLine& line) {
       return true;
     }
     case kDecided: Set(pass, g.Point == 0 && InPointSet(before, line.Code), before > 0); return true;
-    case kAnswerYes: Set(pass, g.LastAnswer == kReplyYes, true); return true;
-    case kAnswerNo: Set(pass, g.LastAnswer == kReplyNo, true); return true;
+    case kAnswerYes: Set(pass, g.LastAnswer == Answer::Yes, true); return true;
+    case kAnswerNo: Set(pass, g.LastAnswer == Answer::No, true); return true;
     case kEachPass: {
       const bool craps = CameThisRoll(g, 2) || CameThisRoll(g, 3) || CameThisRoll(g, 12);
       const bool sevenOut = CameThisRoll(g, 7) && before > 0;

@@ -84,7 +84,7 @@ TEST(Conditions, TimingSubjects) {
   }
 
   Scene s;
-  s.g.LastAnswer = 6;
+  s.g.LastAnswer = Answer::Yes;
   EXPECT_EQ(Evaluate(s.g, Condition(1307, 0)), kTrueNew);
   EXPECT_EQ(Evaluate(s.g, Condition(1308, 0)), kFalseNew);
   EXPECT_EQ(Evaluate(s.g, Condition(9999, 0)), kFalse);

@@ -63,7 +63,7 @@ class Pass {
         g_.Ui->ShowStepsBanner("Auto-Betting");
       s_.PassStart = SecondsOfDay();
     }
-    g_.LastAnswer = 1;
+    g_.LastAnswer = Answer::None;
     try {
       RunLines();
     } catch (const ScriptError& e) {

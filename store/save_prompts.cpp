@@ -43,17 +43,17 @@ bool NeedsNewName(const std::string& path, const char* defaultName, const char* 
 }
 
 void Ask(Game& g, const SavePrompt& prompt) {
-  g.MsgReply = kMsgGoAhead;
+  g.MsgReply = Answer::None;
   if (!(g.*prompt.dirty)) return;
   try {
     const Reply reply = ShowMessage(g, prompt.title, prompt.text, Buttons::YesNoCancel);
-    g.MsgReply = reply == Reply::Yes ? kMsgYes : reply == Reply::No ? kMsgNo : kMsgCancel;
-    if (g.MsgReply != kMsgYes) return;
+    g.MsgReply = reply == Reply::Yes ? Answer::Yes : reply == Reply::No ? Answer::No : Answer::Cancel;
+    if (g.MsgReply != Answer::Yes) return;
     std::string path = prompt.fileName(g);
     if (NeedsNewName(path, prompt.defaultName, prompt.pattern)) {
       const std::optional<std::string> chosen = g.Ui->AskFileName(prompt.dialogTitle, prompt.pattern);
       if (!chosen || chosen->empty()) {
-        g.MsgReply = kMsgCancel;
+        g.MsgReply = Answer::Cancel;
         return;
       }
       path = *chosen;
@@ -61,13 +61,13 @@ void Ask(Game& g, const SavePrompt& prompt) {
     // A save that fails has said why; the work stays unsaved and whatever
     // was to follow waits, as on Cancel.
     if (!prompt.save(g, path)) {
-      g.MsgReply = kMsgCancel;
+      g.MsgReply = Answer::Cancel;
       return;
     }
     g.*prompt.dirty = false;
   } catch (const std::exception& e) {
     ShowMessage(g, "Dicemill", RunTimeErrorText(e.what(), kInternalError, prompt.routine));
-    g.MsgReply = kMsgCancel;
+    g.MsgReply = Answer::Cancel;
   }
 }
 
@@ -88,7 +88,7 @@ bool AskEach(Game& g, bool mayCancel) {
   bool cancelled = false;
   for (void (*query)(Game&) : {QuerySaveGame, QuerySaveAutoBets, QuerySaveProbability}) {
     query(g);
-    cancelled = cancelled || g.MsgReply == kMsgCancel;
+    cancelled = cancelled || g.MsgReply == Answer::Cancel;
     if (cancelled && mayCancel) return false;
   }
   return !cancelled;
