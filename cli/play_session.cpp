@@ -241,8 +241,8 @@ void PlaySession::RunAndReport() {
   // The run is over once RollDice returns, whatever it left behind.
   g.KeepRolling = false;
   g.HyperDriveOn = false;
-  const std::string reason = ui_.StopReason().empty() ? g.StopReason : ui_.StopReason();
-  WriteJsonLine(out_, {{"stopped", {{"reason", reason}, {"rolls", g.RollCounts[0] - rollsBefore}}}});
+  const StopReason reason = ui_.LastStop() == StopReason::None ? g.StopReason : ui_.LastStop();
+  WriteJsonLine(out_, {{"stopped", {{"reason", StopReasonText(reason)}, {"rolls", g.RollCounts[0] - rollsBefore}}}});
 }
 
 // --- Settings ----------------------------------------------------------------

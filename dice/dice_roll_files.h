@@ -12,8 +12,6 @@ struct Game;
 constexpr size_t kBlockBytes = 30000;
 constexpr int kRecorderOff = 0, kRecorderRecord = 1, kRecorderPlayback = 2;
 
-inline constexpr const char* kEndOfRollFileReason = "Stopped due to end of Dice Roll File reached.";
-inline constexpr const char* kOutOfLimitsReason = "Stopped due to Dice Roll File value out of limits.";
 inline constexpr const char* kClipboardName = "copyfile.rll";
 inline constexpr const char* kTextConvertName = "cnvrtasc.xx~";
 

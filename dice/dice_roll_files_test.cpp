@@ -129,7 +129,7 @@ TEST(DiceRollFiles, RecordedRunPlaysBackTheSameDiceAndBankroll) {
   play.answers.replies = {Reply::Yes};
   play.RollOnce();
   EXPECT_EQ(play.g.RollCounts[0], kRolls);
-  EXPECT_EQ(play.answers.stopReason, kEndOfRollFileReason);
+  EXPECT_EQ(play.answers.stopReason, StopReason::EndOfRollFile);
   EXPECT_EQ(play.answers.messages.back(), (RecordedMessage{"Dice Roll File", "Playback stopped.\rRewind for playback?"}));
   EXPECT_EQ(play.g.DiceFile.NextRollNum, 1);
   EXPECT_EQ(play.g.DiceFileMode, kRecorderPlayback);
@@ -141,7 +141,7 @@ TEST(DiceRollFiles, RecordedRunPlaysBackTheSameDiceAndBankroll) {
   EXPECT_LE(play.g.DiceFile.File.Seeks() - seeksBefore, 2);  // one byte read per roll, no seek
   EXPECT_FALSE(play.g.HyperDriveOn);
   const auto& m = play.answers.messages;
-  EXPECT_EQ(m[m.size() - 2], (RecordedMessage{"Hyper-Drive Stopped", kEndOfRollFileReason}));
+  EXPECT_EQ(m[m.size() - 2], (RecordedMessage{"Hyper-Drive Stopped", "Stopped due to end of Dice Roll File reached."}));
   EXPECT_EQ(m.back().title, "Dice Roll File");
   EXPECT_EQ(play.g.DiceFileMode, kRecorderPlayback);  // Cancel changes nothing
 }
@@ -156,7 +156,7 @@ TEST(DiceRollFiles, OutOfLimitsAndEmptyFileStopWithoutRolling) {
   EXPECT_EQ(t.g.Die2, 1);
   t.RollOnce();
   EXPECT_EQ(t.g.RollCounts[0], 1);
-  EXPECT_EQ(t.answers.stopReason, kOutOfLimitsReason);
+  EXPECT_EQ(t.answers.stopReason, StopReason::RollFileOutOfLimits);
   EXPECT_EQ(t.g.DiceFileMode, kRecorderOff);
   EXPECT_EQ(t.g.DiceFile.NextRollNum, 2);  // the position stays on the bad byte
   EXPECT_EQ(t.answers.messages.back(),

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "engine/money.h"
+#include "engine/stop_reason.h"
 
 enum class Buttons { Ok, YesNo, YesNoCancel };
 enum class Reply { Ok, Yes, No, Cancel };
@@ -40,8 +41,8 @@ class FrontEnd {
   // A visible throw has landed: the dice are drawn before anything is settled.
   virtual void ShowThrow(int /*die1*/, int /*die2*/, int /*pointAfter*/) {}
   // The last step of RollDice, before a visible table forgets StopReason:
-  // the reason a run ended, or "" when it simply ran out of rolls to make.
-  virtual void RollFinished(const std::string& /*stopReason*/) {}
+  // the reason a run ended, or a start refused.
+  virtual void RollFinished(StopReason /*reason*/) {}
   virtual void PlaySound(int /*slot*/) {}
   virtual void PlaySoundFile(const std::string& /*name*/) {}
   virtual void RedrawBet(int /*betId*/) {}

@@ -20,6 +20,7 @@
 #include "engine/frontend.h"
 #include "engine/money.h"
 #include "engine/notices.h"
+#include "engine/stop_reason.h"
 #include "script/script.h"
 #include "store/game_file_extras.h"
 
@@ -69,7 +70,7 @@ struct Game {
   bool KeepRolling = false;
   bool HyperDriveOn = false;
   bool DiceAlreadySet = false;
-  std::string StopReason;
+  ::StopReason StopReason = ::StopReason::None;
   int32_t NoticeMask = kNoticeDefault;  // bits kNotice*
   bool MovingBet = false;
   bool TableDirty = false;

@@ -28,8 +28,6 @@ constexpr int kSoundNewShooter = 18;
 constexpr int kStopOnWin = 0;
 constexpr int kStopOnLoss = 1;
 
-const std::string kResetTail = "Select \"New\" from the \"Game\" menu to reset the table.";
-
 void Stop(Game& g) { g.KeepRolling = false; }
 
 void Sound(Game& g, int slot) {
@@ -72,9 +70,6 @@ void AfterPointMoved(Game& g) {
   if (passLine && g.AutoRemovePlaceBets) TakeDownBet(g, bet::Place(g.Point));
 }
 
-// The reset tail follows every stop text after two line breaks.
-std::string WithTail(const std::string& text) { return text + kTwoBreaks + kResetTail; }
-
 // Hyper-Drive paces itself by burning a counted loop.
 void BurnPaceLoop(const Game& g) {
   const int64_t passes = int64_t{g.ThrottleValue} * g.ThrottleValue * g.SpeedUnit;
@@ -84,7 +79,7 @@ void BurnPaceLoop(const Game& g) {
 
 void LeaveHyperDrive(Game& g) {
   g.HyperDriveOn = false;
-  if (!g.StopReason.empty()) ShowMessage(g, "Hyper-Drive Stopped", g.StopReason);
+  if (g.StopReason != StopReason::None) ShowMessage(g, "Hyper-Drive Stopped", StopReasonText(g.StopReason));
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) g.Ui->RedrawBet(id);
   for (int id = bet::kFirstStack; id <= bet::kLastStack; ++id) g.Ui->RedrawBet(id);
   g.TableDirty = true;
@@ -100,9 +95,9 @@ void AutoRollWait(Game& g) {
 }
 
 void Finish(Game& g) {
-  if (g.StopReason == kEndOfRollFileReason && !g.Ui->IsMinimised()) OfferRewind(g);
+  if (g.StopReason == StopReason::EndOfRollFile && !g.Ui->IsMinimised()) OfferRewind(g);
   g.Ui->RollFinished(g.StopReason);
-  if (!g.Ui->IsMinimised()) g.StopReason.clear();
+  if (!g.Ui->IsMinimised()) g.StopReason = StopReason::None;
   if (g.Point == 0) PlayComeOutSound(g);
   g.RollInProgress = false;
 }
@@ -130,7 +125,7 @@ bool GetDice(Game& g) {
     const FileRoll got = NextRollFromFile(g);
     if (got == FileRoll::Rolled) return true;
     Stop(g);
-    g.StopReason = got == FileRoll::EndOfFile ? kEndOfRollFileReason : kOutOfLimitsReason;
+    g.StopReason = got == FileRoll::EndOfFile ? StopReason::EndOfRollFile : StopReason::RollFileOutOfLimits;
     return false;
   }
   DrawDice(g);
@@ -180,7 +175,7 @@ void Throw(Game& g) {
 
   if (g.RollCountLeft > 0 && --g.RollCountLeft == 0) {
     Stop(g);
-    if (g.HyperDriveOn && g.StopReason.empty()) g.StopReason = "Stopped by roll count on Auto-Play screen.";
+    if (g.HyperDriveOn && g.StopReason == StopReason::None) g.StopReason = StopReason::RollCount;
     g.RollCountLeft = g.RollCountStop;
   }
 }
@@ -189,23 +184,21 @@ void Throw(Game& g) {
 bool BelowMaxRolls(Game& g) {
   if (g.RollCounts[0] < MaxRolls) return true;
   Stop(g);
-  const std::string limit = FormatWithCommas(MaxRolls);
   if (g.HyperDriveOn)
-    g.StopReason = WithTail("Stopped due to reaching the maximum limit of " + limit + " rolls.");
+    g.StopReason = StopReason::MaxRolls;
   else
     ShowMessage(g, "Reached Maximum Roll Limit",
-                WithTail("Sorry ... you've reached the maximum limit of " + limit + " rolls."));
+                WithResetTail("Sorry ... you've reached the maximum limit of " + FormatWithCommas(MaxRolls) + " rolls."));
   return false;
 }
 
-// The dialog of the bank limit; returns its text.
-std::string ShowBankLimit(Game& g) {
+// The dialog of the bank limit; returns the refusal whose text it shows.
+StopReason ShowBankLimit(Game& g) {
   const bool won = g.Bankroll() > 0;
-  const std::string text =
-      WithTail((won ? "You broke the bank limit of " : "You've exceeded the max loss limit of ") + Dollars(BankLimit));
+  const StopReason refusal = won ? StopReason::StartRefusedBankLimit : StopReason::StartRefusedMaxLoss;
   g.Ui->PlaySoundFile("Chips.wav");
-  ShowMessage(g, won ? "Congratulations!" : "Sorry ... this wasn't your lucky day.", text);
-  return text;
+  ShowMessage(g, won ? "Congratulations!" : "Sorry ... this wasn't your lucky day.", StopReasonText(refusal));
+  return refusal;
 }
 
 // A start beyond the bank limit is refused alike however it was asked for:
@@ -213,9 +206,8 @@ std::string ShowBankLimit(Game& g) {
 void RefuseStart(Game& g) {
   Stop(g);
   g.HyperDriveOn = false;
-  const std::string text = ShowBankLimit(g);
-  g.Ui->RollFinished(text);
-  g.StopReason.clear();
+  g.Ui->RollFinished(ShowBankLimit(g));
+  g.StopReason = StopReason::None;
 }
 
 }  // namespace
@@ -235,7 +227,7 @@ void RollDice(Game& g) {
   }
   g.TableUsed = true;
   g.RollInProgress = true;
-  g.StopReason.clear();
+  g.StopReason = StopReason::None;
 
   for (;;) {
     if (BelowMaxRolls(g)) Throw(g);
@@ -282,9 +274,7 @@ void CheckBankLimit(Game& g) {
   // it stops, a visible table says so at once if this roll crossed the line.
   Stop(g);
   if (g.HyperDriveOn) {
-    const bool won = g.Bankroll() > 0;
-    g.StopReason = WithTail((won ? "Stopped by breaking the bank limit of " : "Stopped by exceeding the max loss limit of ") +
-                            Dollars(BankLimit));
+    g.StopReason = g.Bankroll() > 0 ? StopReason::BankLimit : StopReason::MaxLoss;
   } else if (g.Bankroll() != g.BetAfterRoll[bet::kBankroll]) {
     ShowBankLimit(g);
   }

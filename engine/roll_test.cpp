@@ -101,11 +101,11 @@ TEST_F(RollTest, RunsStopByRollCountOrMarkedTotal) {
   EXPECT_EQ(g.RollCounts[0], 3);
   EXPECT_FALSE(g.HyperDriveOn);
   EXPECT_EQ(g.RollCountLeft, 3);  // reloaded for the next run
-  EXPECT_EQ(ui.stopReason, "Stopped by roll count on Auto-Play screen.");
+  EXPECT_EQ(ui.stopReason, StopReason::RollCount);
   ASSERT_EQ(ui.messages.size(), 1u);
   EXPECT_EQ(ui.messages[0].title, "Hyper-Drive Stopped");
   EXPECT_EQ(ui.throws, 0);  // nothing is drawn under Hyper-Drive
-  EXPECT_TRUE(g.StopReason.empty());
+  EXPECT_EQ(g.StopReason, StopReason::None);
   // Auto-Roll stops on a marked total and says nothing.
   g.AutoRollOn = g.KeepRolling = true;
   g.StopOnRoll[9] = true;  // any 7
@@ -114,7 +114,7 @@ TEST_F(RollTest, RunsStopByRollCountOrMarkedTotal) {
   EXPECT_EQ(g.DiceTotal, 7);
   EXPECT_FALSE(g.KeepRolling);
   EXPECT_EQ(ui.throws, g.RollCounts[0] - 3);
-  EXPECT_TRUE(ui.stopReason.empty());
+  EXPECT_EQ(ui.stopReason, StopReason::None);
 }
 
 TEST_F(RollTest, NoRollAtTheCeilingOrBeyondTheBankLimit) {
@@ -126,7 +126,7 @@ TEST_F(RollTest, NoRollAtTheCeilingOrBeyondTheBankLimit) {
                                      "Sorry ... you've reached the maximum limit of 100,000,000 rolls." + newGame}));
   g.HyperDriveOn = g.KeepRolling = true;
   RollDice(g);
-  EXPECT_EQ(ui.stopReason, "Stopped due to reaching the maximum limit of 100,000,000 rolls." + newGame);
+  EXPECT_EQ(StopReasonText(ui.stopReason), "Stopped due to reaching the maximum limit of 100,000,000 rolls." + newGame);
 
   g.RollCounts[0] = 0;
   g.Bankroll() = 10'000'000;
@@ -139,7 +139,8 @@ TEST_F(RollTest, NoRollAtTheCeilingOrBeyondTheBankLimit) {
   EXPECT_FALSE(g.HyperDriveOn);
   EXPECT_EQ(Last(), (RecordedMessage{"Sorry ... this wasn't your lucky day.",
                                      "You've exceeded the max loss limit of $9,999,999" + newGame}));
-  EXPECT_EQ(ui.stopReason, Last().text);
+  EXPECT_EQ(ui.stopReason, StopReason::StartRefusedMaxLoss);
+  EXPECT_EQ(StopReasonText(ui.stopReason), Last().text);
 }
 
 TEST_F(RollTest, SoundsFollowTheThrow) {

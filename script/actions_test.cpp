@@ -220,7 +220,7 @@ TEST(Actions, TableVerbsAndResets) {
   t.g.AutoRollOn = t.g.KeepRolling = t.g.HyperDriveOn = true;
   t.Run(Action(75));
   EXPECT_FALSE(t.g.AutoRollOn || t.g.KeepRolling);
-  EXPECT_EQ(t.g.StopReason, "Stopped by Auto-Bet command.");
+  EXPECT_EQ(t.g.StopReason, StopReason::ScriptCommand);
 }
 
 TEST(Actions, MessagesAndQuestions) {

@@ -324,7 +324,7 @@ class Pass {
                              std::to_string(s_.CurrentLine) + ":" + kTwoBreaks +
                              RunTimeErrorText(description, number, "Run Auto-Bet") + kTwoBreaks +
                              "Press help for more information.";
-    if (g_.HyperDriveOn) g_.StopReason = "Auto-Bet error.";
+    if (g_.HyperDriveOn) g_.StopReason = StopReason::ScriptError;
     ShowMessage(g_, "Auto-Bet Abort", text);
     g_.KeepRolling = false;
   }
@@ -343,7 +343,7 @@ class Pass {
                              std::to_string(s_.CurrentLine) + ":" + kTwoBreaks + "This pass ran more than " +
                              FormatWithCommas(kMostLinesPerPass) + " lines without ending: it keeps running " +
                              LineListText(lines) + "." + kTwoBreaks + "Press help for more information.";
-    if (g_.HyperDriveOn) g_.StopReason = "Auto-Bet error.";
+    if (g_.HyperDriveOn) g_.StopReason = StopReason::ScriptError;
     ShowMessage(g_, "Auto-Bet Abort", text);
     g_.KeepRolling = false;
     g_.AutoBetRunning = false;

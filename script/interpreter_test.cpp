@@ -257,7 +257,7 @@ TEST(Interpreter, AnErrorAbortsThePassWithItsLine) {
               "Press help for more information.");
     EXPECT_FALSE(p.t.g.KeepRolling);
     EXPECT_TRUE(p.t.g.AutoBetRunning) << "left as it was";
-    EXPECT_EQ(p.t.g.StopReason, hyper ? "Auto-Bet error." : "");
+    EXPECT_EQ(p.t.g.StopReason, hyper ? StopReason::ScriptError : StopReason::None);
   }
 }
 

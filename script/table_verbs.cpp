@@ -30,7 +30,7 @@ void ResetEvent(Game& g, int event) {
 void StopRolling(Game& g) {
   g.AutoRollOn = false;
   g.KeepRolling = false;
-  if (g.HyperDriveOn) g.StopReason = "Stopped by Auto-Bet command.";
+  if (g.HyperDriveOn) g.StopReason = StopReason::ScriptCommand;
 }
 
 }  // namespace

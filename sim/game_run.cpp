@@ -21,8 +21,6 @@
 
 namespace {
 
-constexpr const char* kMaxLossReason = "Stopped by exceeding the max loss limit";
-
 // The screen of a headless run: takes every default, remembers the first
 // message (during set-up a message means the set-up failed), and once per
 // roll lets a stop request in, hands on the bankroll and reports progress.
@@ -51,7 +49,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
       game_.AutoBetRunning = false;  // a script pass that loops stops too
     }
   }
-  void RollFinished(const std::string& reason) override { stopReason_ = reason; }
+  void RollFinished(::StopReason reason) override { stopReason_ = reason; }
 
   // Hands the rolls not yet reported to the shared counter.
   void Publish() {
@@ -63,7 +61,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
   void StartCountingAt(int64_t rolls) { published_ = lastRoll_ = rolls; }
   const std::string& FirstMessage() const { return firstMessage_; }
   void ForgetMessages() { firstMessage_.clear(); }
-  const std::string& StopReason() const { return stopReason_; }
+  ::StopReason LastStop() const { return stopReason_; }
   bool Ruined() const { return ruined_; }
   Currency RuinHeld() const { return ruinHeld_; }
   void Watch(TableWatcher* watcher) { watcher_ = watcher; }
@@ -80,7 +78,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
   bool ruined_ = false;
   Currency ruinHeld_;
   std::string firstMessage_;
-  std::string stopReason_;
+  ::StopReason stopReason_ = ::StopReason::None;
   TableWatcher* watcher_ = nullptr;
 };
 
@@ -190,7 +188,7 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
   ui.Publish();
   if (control.Series) control.Series->EndGame(index);
   std::string where;
-  if (ui.StopReason() == kOutOfLimitsReason && g.DiceFile.File.IsOpen()) {
+  if (ui.LastStop() == StopReason::RollFileOutOfLimits && g.DiceFile.File.IsOpen()) {
     const int64_t roll = g.DiceFile.NextRollNum;
     where = " Roll #" + FormatWithCommas(roll) + " of " + g.DiceFile.File.Path() + " is the byte " +
             std::to_string(g.DiceFile.File.Read(roll)) + ", which is no pair of dice.";
@@ -198,7 +196,7 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
   if (g.DiceFile.File.IsOpen()) CloseRollFile(g);
 
   r.Rolls = g.RollCounts[0] - rollsBefore;
-  r.StopReason = ui.StopReason() + where;
+  r.StopReason = StopReasonText(ui.LastStop()) + where;
   if (ui.Ruined())
     r.StopReason = RuinStopReason(ui.RuinHeld(), g.TableMinimum, r.Rolls);
   else if (r.StopReason.empty() && control.Stop.load())
@@ -219,7 +217,7 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
   r.AmountWon = actual.Wins[results::kTotal];
   r.AmountLost = actual.Losses[results::kTotal];
   r.Bets = ActualBetLines(g);
-  r.Ruined = options.StopAtRuin ? ui.Ruined() : g.LowBankroll <= 0 || r.StopReason.rfind(kMaxLossReason, 0) == 0;
+  r.Ruined = options.StopAtRuin ? ui.Ruined() : g.LowBankroll <= 0 || ui.LastStop() == StopReason::MaxLoss;
   r.LogRecord = FinishedGameRecord(g);
   r.Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
   return r;
