@@ -258,10 +258,10 @@ void PlaySession::Get(const Args& a) {
 }
 
 void PlaySession::Chip(const Args& a) {
-  const int n = static_cast<int>(ReadInteger(a[0], 1, 5, "N"));
+  const int n = static_cast<int>(ReadInteger(a[0], 1, bet::kChipColours, "N"));
   const Currency value = ReadAmount(a[1], "VALUE");
   if (value < kLeastUnit || value > kMostChip) throw CommandError("VALUE " + a[1] + " must be from .01 to 100,000");
-  game_->BetAmount[94 + n] = value;
+  game_->BetAmount[bet::ChipSlot(n)] = value;
   game_->GameChanged = true;
 }
 

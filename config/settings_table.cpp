@@ -7,6 +7,7 @@
 
 #include "engine/catalogue.h"
 #include "engine/game.h"
+#include "engine/table_commands.h"
 
 namespace {
 
@@ -127,7 +128,7 @@ std::vector<SettingRow> BuildTable() {
       Row<&G::SimRollRate>("SimRollRate", Currency::FromRaw(1), kMostRollRate, 100),
       Row<&G::SpeedUnit>("SpeedUnit", 0, kInt32Max, 0, false),  // measured at start-up
       // The table's click tool: 1..5 checks, 7..10 tray Chip-Stacks, 89 buy, 90/91 call
-      Row<&G::ClickTool>("ClickTool", 1, 91, 1),
+      Row<&G::ClickTool>("ClickTool", kToolFirstChip, kToolCallOn, kToolFirstChip),
       // Auto-Bet
       Flag<&G::AutoBetActivated>("AutoBetActivated", false),
       Flag<&G::ShowingSteps>("ShowingSteps", false, false),

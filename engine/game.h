@@ -82,8 +82,7 @@ struct Game {
   std::string MsgText, MsgTitle;  // the pending message
   std::string ErrorText;          // pending run-time error text, shown by the roll
 
-  // What a click on a bet does: 1..5 add check 95..99, 7..10 add the
-  // Chip-Stack TrayStack[tool - 6] holds, 89 buy, 90 call OFF, 91 call ON.
+  // What a click on a bet does: a kTool* of engine/table_commands.h.
   int32_t ClickTool = 1;
   std::array<int32_t, 5> TrayStack{0, 101, 102, 103, 104};
 

@@ -263,8 +263,8 @@ void MoveBet(Game& g, int fromBet, int toBet) {
   g.MovingBet = false;
   g.BetCommitted[toBet] = amount;  // at once a contract bet on its number
   if (bet::IsComeNumber(toBet) && g.AutoRemovePlaceBets) {
-    TakeDownBet(g, toBet + 12);  // the Place bet of the number
-    TakeDownBet(g, toBet + 18);  // and its Buy bet
+    TakeDownBet(g, bet::PlaceOfCome(toBet));
+    TakeDownBet(g, bet::BuyOfCome(toBet));
   }
   g.DisableAllSound = soundWasOff;
 }

@@ -85,7 +85,7 @@ void SettleTotal(Game& g, Settler& settle) {
       settle.Range(kLoss, bet::kPlaceBase, bet::kBuyBase + 5);
       for (int id = bet::kComeNumberBase; id < bet::kComeNumberBase + 6; ++id) {
         settle(kLoss, id);
-        settle(kOddsLoss, id + 6);
+        settle(kOddsLoss, bet::OddsOf(id));
       }
       if (comeOut) {
         settle(kLoss, bet::kDontPass);
@@ -99,7 +99,7 @@ void SettleTotal(Game& g, Settler& settle) {
       settle.Range(kWin, bet::kLayBase, bet::kLayBase + 5);
       for (int id = bet::kDontComeBase; id < bet::kDontComeBase + 6; ++id) {
         settle(kWin, id);
-        settle(kOddsWin, id + 6);
+        settle(kOddsWin, bet::OddsOf(id));
       }
       settle(kWin, bet::kCome);
       settle(kWin, bet::kSeven);
