@@ -118,7 +118,7 @@ int RunAdvantageTool(const AdvantageToolOptions& o, std::ostream& out, std::ostr
   g.Ui = &notes;
   FillDefaults(g);
   NewGame(g, false);
-  if (!o.gameFile.empty() && !OpenGame(g, o.gameFile)) return kExitUsage;
+  if (!o.gameFile.empty() && !ShowFileStatus(g, OpenGame(g, o.gameFile))) return kExitUsage;
   g.IncludeZeroOutcomes = g.IncludeZeroOutcomes || o.zeroOutcomes;
   if (!o.json) {
     WriteAdvantageText(g, o.misc, out);

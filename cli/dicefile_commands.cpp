@@ -61,7 +61,7 @@ void PlaySession::DiceFile(const Args& a) {
     NeedArgs(a, 2, "open|create FILE.rol");
     std::error_code ec;
     if (sub == "create" && std::filesystem::exists(a[1], ec)) throw CommandError("\"" + a[1] + "\" already exists");
-    const bool opened = OpenRollFile(g, a[1]);
+    const bool opened = ShowFileStatus(g, OpenRollFile(g, a[1]));
     if (opened) g.GameChanged = true;  // the game links another file
     return Check(opened, "opening \"" + a[1] + "\"");
   }

@@ -19,11 +19,11 @@ Json GameJson(const Game& g) {
 }  // namespace
 
 void PlaySession::OpenGameFile(const Args& a) {
-  if (!OpenGame(*game_, a[0])) throw CommandError("\"" + a[0] + "\" was not opened");
+  if (!ShowFileStatus(*game_, OpenGame(*game_, a[0]))) throw CommandError("\"" + a[0] + "\" was not opened");
   WriteJsonLine(out_, {{"opened", GameJson(*game_)}});
 }
 
 void PlaySession::SaveGameFile(const Args& a) {
-  if (!SaveGame(*game_, a[0])) throw CommandError("\"" + a[0] + "\" was not saved");
+  if (!ShowFileStatus(*game_, SaveGame(*game_, a[0]))) throw CommandError("\"" + a[0] + "\" was not saved");
   WriteJsonLine(out_, {{"saved", GameJson(*game_)}});
 }

@@ -23,6 +23,7 @@
 #include "engine/roll.h"
 #include "script/checker.h"
 #include "script/script_files.h"
+#include "store/script_file.h"
 #include "sim/batch.h"
 
 namespace {
@@ -42,26 +43,19 @@ struct Refusal {
   std::string text;
 };
 
-// Reads the script once for all games; a refusal is told in the program's
-// own words.
-class ScriptReader : public SilentFrontEnd {
- public:
-  Reply ShowMessage(const std::string& title, const std::string& text, Buttons b) override {
-    told += (told.empty() ? "" : "\n") + title + ": " + TerminalText(text);
-    return SilentFrontEnd::ShowMessage(title, text, b);
-  }
-  std::string told;
-};
 
 Script ReadScript(const std::string& path, bool unchecked, std::ostream& err) {
   Script script;
   if (path.empty()) return script;
   Game g;
-  ScriptReader reader;
-  g.Ui = &reader;
-  std::string error;
-  if (!OpenScriptFile(g, path, error)) {
-    const std::string why = reader.told.empty() ? TerminalText(error) : reader.told;
+  if (const FileStatus opened = OpenScriptFile(g, path); !opened) {
+    // A refusal is told in the program's own words: a dialog's title and
+    // text, or a text file's one line.
+    std::string why;
+    for (const FileMessage& m : opened.Messages) {
+      if (!why.empty()) why += "\n";
+      why += IsBetFilePath(path) ? m.Title + ": " + TerminalText(m.Text) : TerminalText(m.Text);
+    }
     throw Refusal{"--script " + (why.starts_with(path + ":") ? why : path + ": " + why)};
   }
   script = g.AutoBet;

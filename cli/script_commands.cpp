@@ -8,6 +8,7 @@
 #include "engine/game.h"
 #include "script/interpreter.h"
 #include "script/script_files.h"
+#include "store/script_file.h"
 #include "store/small_files.h"
 
 namespace {
@@ -32,8 +33,13 @@ Json FlagsJson(const Script& s) {
 
 void PlaySession::ScriptFile(const Args& a) {
   Game& g = *game_;
-  std::string error;
-  if (!OpenScriptFile(g, a[0], error)) throw CommandError(error);
+  const FileStatus opened = OpenScriptFile(g, a[0]);
+  if (!opened) {
+    // A ".bet" file is refused by its dialog; a text file by its one line.
+    if (!IsBetFilePath(a[0])) throw CommandError(opened.Messages.front().Text);
+    ShowFileStatus(g, opened);
+    throw CommandError("\"" + a[0] + "\" was not opened");
+  }
   ScriptOpened(g);
   g.AutoBetActivated = true;
   WriteJsonLine(out_, {{"script", {{"file", g.AutoBet.FileName},

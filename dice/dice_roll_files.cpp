@@ -197,19 +197,16 @@ void OfferRewind(Game& g) {
   if (reply == Reply::Yes || reply == Reply::No) g.Ui->RefreshTable();
 }
 
-bool OpenRollFile(Game& g, const std::string& path) {
+FileStatus OpenRollFile(Game& g, const std::string& path) {
   DiceRollFile probe;
-  if (path.empty() || !probe.Open(path, true)) {
-    ShowFileNameError(g);
-    return false;
-  }
+  if (path.empty() || !probe.Open(path, true)) return FileNameErrorStatus();
   probe.Close();
   DiceFileState& d = g.DiceFile;
   d.File.Open(path, false);
   d.RollFileName = path;
   d.NextRollNum = d.SelectAnchor = d.TopRollNum = 1;
   d.LastRollNum = 0;
-  return true;
+  return {};
 }
 
 void CloseRollFile(Game& g) {

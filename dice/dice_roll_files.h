@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <string>
 
+#include "store/file_status.h"
+
 struct Game;
 
 constexpr size_t kBlockBytes = 30000;
@@ -36,9 +38,9 @@ bool SetRecorderStatus(Game& g, int status);
 // The question when recording or playback stops.
 void OfferRewind(Game& g);
 
-// Opens a Dice Roll File, creating an empty one when the name is new; shows
-// the file-name error and changes nothing when it cannot.
-bool OpenRollFile(Game& g, const std::string& path);
+// Opens a Dice Roll File, creating an empty one when the name is new; the
+// file-name error, and nothing changed, when it cannot.
+FileStatus OpenRollFile(Game& g, const std::string& path);
 void CloseRollFile(Game& g);
 int64_t TotalRolls(Game& g);
 // The selection: rolls [first, first + count).

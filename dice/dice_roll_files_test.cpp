@@ -178,8 +178,11 @@ TEST(DiceRollFiles, OutOfLimitsAndEmptyFileStopWithoutRolling) {
   FileTable none;
   EXPECT_FALSE(SetRecorderStatus(none.g, kRecorderRecord));
   EXPECT_EQ(none.Last(), (RecordedMessage{"Record Dice Rolls During Game Play", "You need to open a file first."}));
-  EXPECT_FALSE(OpenRollFile(none.g, (none.Path("no-such-dir") / "x.rol").string()));
-  EXPECT_EQ(none.Last(), (RecordedMessage{"Error", "File name error, file not found, or device error.\rCheck path and file name."}));
+  const FileStatus missing = OpenRollFile(none.g, (none.Path("no-such-dir") / "x.rol").string());
+  EXPECT_FALSE(missing.Ok);
+  const std::vector<FileMessage> nameError{
+      {"Error", "File name error, file not found, or device error.\rCheck path and file name."}};
+  EXPECT_EQ(missing.Messages, nameError);
 }
 
 TEST(DiceRollFiles, RecordingTypesOverAndHandEntryInserts) {

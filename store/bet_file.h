@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "script/script.h"
+#include "store/file_status.h"
 
 struct Game;
 
@@ -26,13 +27,13 @@ struct DecodedBetFile {
 
 DecodedBetFile DecodeBetFile(const std::string& bytes);
 
-// Reads a file's lines, telling the player why one can't be read. The
+// Reads a file's lines into `lines`, or says why one can't be read. The
 // script is not touched; Open and Paste decide where the lines go.
-std::optional<std::vector<ScriptLine>> ReadAutoBetFile(Game& g, const std::string& path);
+FileStatus ReadAutoBetFile(const std::string& path, std::vector<ScriptLine>& lines);
 
 // Open: the file's lines replace the script, whose name becomes the path.
-bool OpenAutoBetFile(Game& g, const std::string& path);
+FileStatus OpenAutoBetFile(Game& g, const std::string& path);
 
 // Save, Save As and "Copy To Auto-Bet File" (selectedOnly). The file is
 // written beside the target and renamed over it.
-bool SaveAutoBetFile(Game& g, const std::string& path, bool selectedOnly = false);
+FileStatus SaveAutoBetFile(Game& g, const std::string& path, bool selectedOnly = false);

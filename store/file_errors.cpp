@@ -6,7 +6,9 @@ std::string FileNameErrorText() {
   return std::string("File name error, file not found, or device error.") + kBreak + "Check path and file name.";
 }
 
-void ShowFileNameError(Game& g) { ShowMessage(g, "Error", FileNameErrorText()); }
+void ShowFileNameError(Game& g) { ShowFileStatus(g, FileNameErrorStatus()); }
+
+FileStatus FileNameErrorStatus() { return FileStatus::Failed("Error", FileNameErrorText()); }
 
 namespace {
 
@@ -45,5 +47,9 @@ std::string FileErrorText(const std::filesystem::path& path, const std::string& 
 }
 
 void ShowFileError(Game& g, const std::filesystem::path& path, const std::string& reason) {
-  ShowMessage(g, "Error", FileErrorText(path, reason));
+  ShowFileStatus(g, FileErrorStatus(path, reason));
+}
+
+FileStatus FileErrorStatus(const std::filesystem::path& path, const std::string& reason) {
+  return FileStatus::Failed("Error", FileErrorText(path, reason));
 }

@@ -6,6 +6,7 @@
 
 #include "store/atomic_write.h"
 #include "store/file_read.h"
+#include "store/file_status.h"
 
 struct Game;
 
@@ -14,6 +15,8 @@ struct Game;
 std::string FileNameErrorText();
 // Shows the file-name error, titled "Error".
 void ShowFileNameError(Game& g);
+// The file-name error as a failed status, for the caller to show.
+FileStatus FileNameErrorStatus();
 // A file name fit to show: control bytes and bytes that are not UTF-8 become
 // "?", so that a name read from a damaged file never prints raw bytes.
 std::string PrintableName(const std::filesystem::path& path);
@@ -21,4 +24,6 @@ std::string PrintableName(const std::filesystem::path& path);
 // is a directory."), then the file-name error.
 std::string FileErrorText(const std::filesystem::path& path, const std::string& reason);
 void ShowFileError(Game& g, const std::filesystem::path& path, const std::string& reason);
+// FileErrorText as a failed status, titled "Error".
+FileStatus FileErrorStatus(const std::filesystem::path& path, const std::string& reason);
 

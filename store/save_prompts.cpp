@@ -72,7 +72,7 @@ void Ask(Game& g, const SavePrompt& prompt) {
 }
 
 bool SaveGameAs(Game& g, const std::string& path) {
-  if (!SaveGame(g, path)) return false;
+  if (!ShowFileStatus(g, SaveGame(g, path))) return false;
   g.GameFileName = path;
   return true;
 }
@@ -80,7 +80,7 @@ bool SaveGameAs(Game& g, const std::string& path) {
 void AskAboutScript(Game& g, const std::string& text) {
   Ask(g, {"QuerySaveAutoBets", "Save Auto-Bets?", text, "Save Auto-Bet File As", "*.bet", "default.bet",
           &Game::ScriptDirty, [](const Game& game) { return game.AutoBet.FileName; },
-          [](Game& game, const std::string& path) { return SaveAutoBetFile(game, path); }});
+          [](Game& game, const std::string& path) { return ShowFileStatus(game, SaveAutoBetFile(game, path)); }});
 }
 
 // The questions in order; a Cancel ends them when it may.
@@ -134,7 +134,7 @@ void QuerySaveProbability(Game& g) {
 bool QuerySaveAll(Game& g) { return AskEach(g, true); }
 
 void CloseDown(Game& g) {
-  if (!g.DataFolder.empty() && !g.DataFolderInUse) SaveGame(g, DataFile(g, "default.crp").string());
+  if (!g.DataFolder.empty() && !g.DataFolderInUse) (void)ShowFileStatus(g, SaveGame(g, DataFile(g, "default.crp").string()));
   RemoveWorkFiles(g);
 }
 
