@@ -89,11 +89,11 @@ void PlaySession::Prob(const Args& a) {
     if (NewProbabilities(g)) g.GameChanged = true;  // the game links another file
   } else if (verb == "open") {
     ExpectArgs(a, 2, 2);
-    if (QuerySaveProbabilityPage(g) && OpenProbabilityFile(g, a[1])) g.GameChanged = true;
+    if (QuerySaveProbabilityPage(g) && ShowFileStatus(g, OpenProbabilityFile(g, a[1]))) g.GameChanged = true;
   } else if (verb == "save") {
     ExpectArgs(a, 1, 2);
     if (a.size() == 1 && g.ProbFileName == "untitled") throw CommandError("the table has no file yet: give FILE");
-    SaveProbabilityFile(g, a.size() == 2 ? a[1] : g.ProbFileName);
+    (void)ShowFileStatus(g, SaveProbabilityFile(g, a.size() == 2 ? a[1] : g.ProbFileName));
   } else if (verb == "set") {
     ExpectArgs(a, 4, 5);
     const ProbPosition cell = ReadBlockCell(a[1], a[2]);

@@ -58,7 +58,7 @@ void ActivateProbabilityFile(Game& g, const ScriptLine& line) {
   std::error_code ec;
   if (!std::filesystem::is_regular_file(name, ec)) throw script_error::FileNotFound();
   // A file of the wrong kind is refused with its own message and changes nothing.
-  if (OpenProbabilityFile(g, name)) g.UseSkewedProbability = true;
+  if (ShowFileStatus(g, OpenProbabilityFile(g, name))) g.UseSkewedProbability = true;
 }
 
 }  // namespace

@@ -112,7 +112,7 @@ FileLink ProbabilityLinkForSave(Game& g, const std::string& gamePath) {
   if (g.ProbModified) {
     if (!IsDefaultGame(gamePath)) return {};
     const std::string path = WorkFileFor(g, gamePath, "default.prb");
-    return SaveProbabilityFile(g, path) ? LinkTo(path) : FileLink{};
+    return ShowFileStatus(g, SaveProbabilityFile(g, path)) ? LinkTo(path) : FileLink{};
   }
   return FileExists(g.ProbFileName) ? LinkTo(g.ProbFileName) : FileLink{};
 }

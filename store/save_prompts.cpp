@@ -128,7 +128,8 @@ void QuerySaveProbability(Game& g) {
           Lines({"Your current probabilities (listed on the", "configuration screen) have not been saved.",
                  "Do you want to save them now?"}),
           "Save Probability File As", "*.prb", "default.prb", &Game::ProbModified,
-          [](const Game& game) { return game.ProbFileName; }, SaveProbabilityFile});
+          [](const Game& game) { return game.ProbFileName; },
+          [](Game& game, const std::string& path) { return ShowFileStatus(game, SaveProbabilityFile(game, path)); }});
 }
 
 bool QuerySaveAll(Game& g) { return AskEach(g, true); }
