@@ -63,12 +63,12 @@ void PlaySession::HotKey(const Args& a) {
     if (file.size() > kHotKeyFieldBytes || label.size() > kHotKeyFieldBytes)
       throw CommandError("FILE (as a path from the data folder, or whole) and LABEL take at most 100 characters each");
     if (!DefineHotKey(g, key, file, label)) throw CommandError(HotKeyCaption(key) + " was not defined");
-    if (!SaveHotKeys(g)) throw CommandError(std::string(kHotKeysFileName) + " was not saved");
+    if (!ShowFileStatus(g, SaveHotKeys(g))) throw CommandError(std::string(kHotKeysFileName) + " was not saved");
   } else if (verb == "clear") {
     ExpectCount(a, 2, 2);
     const char key = ReadKey(a[1]);
     if (!ClearHotKey(g, key)) throw CommandError(HotKeyCaption(key) + " is not defined");
-    if (!SaveHotKeys(g)) throw CommandError(std::string(kHotKeysFileName) + " was not saved");
+    if (!ShowFileStatus(g, SaveHotKeys(g))) throw CommandError(std::string(kHotKeysFileName) + " was not saved");
   } else {
     ExpectCount(a, 1, 1);
     const char key = ReadKey(a[0]);
