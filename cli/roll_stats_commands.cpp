@@ -173,7 +173,7 @@ void PlaySession::GamesLog(const Args& a) {
   Game& g = *game_;
   if (ToLower(a[0]) == "off") {
     g.GamesLogFile.clear();
-  } else if (!OpenGamesFile(g, a[0])) {
+  } else if (!ShowFileStatus(g, OpenGamesFile(g, a[0]))) {
     throw CommandError("\"" + a[0] + "\" was not opened");
   }
   WriteJsonLine(out_, {{"gameslog", g.GamesLogFile.empty() ? Json(nullptr) : Json(g.GamesLogFile)}});

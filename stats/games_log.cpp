@@ -162,7 +162,7 @@ GameLogRecord FinishedGameRecord(const Game& g) {
 
 void LogFinishedGame(Game& g) {
   if (g.GamesLogFile.empty() || g.RollCounts[0] == 0) return;
-  SaveGameToLog(g, g.GamesLogFile, FinishedGameRecord(g));
+  (void)ShowFileStatus(g, SaveGameToLog(g.GamesLogFile, FinishedGameRecord(g)));
 }
 
 void SetBreakPoint(GamesView& view, Currency first, Currency second) {

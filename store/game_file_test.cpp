@@ -195,7 +195,7 @@ TEST(GameFile, TheSignatureDecidesWhatOpens) {
   TempFolder other;
   SavedTable games(other.path());
   const fs::path log = other.path() / "x.glg", script = other.path() / "x.bet";
-  ASSERT_TRUE(SaveGameToLog(games.g, log.string(), {}));
+  ASSERT_TRUE(SaveGameToLog(log.string(), {}));
   WriteBytes(script, ReadBytes(DICEMILL_SOURCE_DIR "/samples/iron-cross.bet"));
   const struct {
     std::string bytes;
