@@ -33,8 +33,8 @@ TEST(EndlessLoop, APassThatLoopsIsAbortedNamingItsLines) {
       continue;
     ++files;
     Table t;
-    std::string error;
-    ASSERT_TRUE(LoadScriptFile(entry.path().string(), t.g.AutoBet, error)) << error;
+    const FileStatus loaded = LoadScriptFile(entry.path().string(), t.g.AutoBet);
+    ASSERT_TRUE(loaded) << loaded.FirstMessage();
     t.g.HyperDriveOn = true;
     t.g.KeepRolling = true;
     t.g.AutoBetActivated = true;

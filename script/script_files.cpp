@@ -7,8 +7,7 @@
 FileStatus OpenScriptFile(Game& g, const std::string& path) {
   if (IsBetFilePath(path)) return OpenAutoBetFile(g, path);
   Script script;
-  std::string error;
-  if (!LoadScriptFile(path, script, error)) return FileStatus::Failed("Error", error);
+  if (FileStatus loaded = LoadScriptFile(path, script); !loaded) return loaded;
   script.ChipStackNames = g.AutoBet.ChipStackNames;  // names belong to the table, not the file
   g.AutoBet = std::move(script);
   g.InitPending = true;

@@ -97,8 +97,7 @@ FileLink AutoBetLinkForSave(Game& g, const std::string& gamePath) {
   if (g.ScriptDirty) {
     if (!IsDefaultGame(gamePath) || script.NumLines() == 0) return {};
     const std::string path = WorkFileFor(g, gamePath, "default.bet");
-    std::string error;
-    if (!SaveScriptFile(path, script, error)) return {};
+    if (!SaveScriptFile(path, script)) return {};
     script.FileName = path;
     g.ScriptDirty = false;
     return LinkTo(path);

@@ -74,8 +74,8 @@ struct SavedTable {
 void StartStrategy(Game& g, const fs::path& folder) {
   const std::string text = (folder / "strategy.txt").string();
   WriteBytes(text, kStrategy);
-  std::string error;
-  ASSERT_TRUE(LoadScriptFile(text, g.AutoBet, error)) << error;
+  const FileStatus loaded = LoadScriptFile(text, g.AutoBet);
+  ASSERT_TRUE(loaded) << loaded.FirstMessage();
   ASSERT_GE(g.AutoBet.Flags.size(), 1u);
   g.AutoBetActivated = true;
   g.InitPending = true;
@@ -333,8 +333,7 @@ TEST(GameFile, LinksNameTheFilesInUse) {
   SavedTable linked(folder.path());
   NewGame(linked.g, false);
   ASSERT_TRUE(OpenRollFile(linked.g, rol.string()));
-  std::string error;
-  ASSERT_TRUE(LoadScriptFile(bet.string(), linked.g.AutoBet, error));
+  ASSERT_TRUE(LoadScriptFile(bet.string(), linked.g.AutoBet));
   const fs::path game = folder.path() / "linked.crp";
   ASSERT_TRUE(SaveGame(linked.g, game.string()));
   fs::last_write_time(rol, fs::last_write_time(rol) - std::chrono::hours(2));

@@ -48,42 +48,36 @@ bool IsBetFilePath(const std::string& path) {
   return Lowered(std::filesystem::path(path).extension().string()) == ".bet";
 }
 
-bool LoadScriptFile(const std::string& path, Script& script, std::string& error) {
+FileStatus LoadScriptFile(const std::string& path, Script& script) {
   std::string bytes, reason;
-  if (!ReadRegularFile(path, kMaxScriptFileBytes, bytes, reason)) {
-    error = PrintableName(path) + " " + reason + ".";
-    return false;
-  }
+  if (!ReadRegularFile(path, kMaxScriptFileBytes, bytes, reason))
+    return FileStatus::Failed("Error", PrintableName(path) + " " + reason + ".");
   std::vector<ScriptLine> lines;
+  std::string error;
   if (IsBetFilePath(path) || LooksLikeBetFile(bytes)) {
-    if (!ReadBetLines(path, bytes, lines, error)) return false;
+    if (!ReadBetLines(path, bytes, lines, error)) return FileStatus::Failed("Error", error);
   } else if (!ReadScriptText(bytes, lines, error)) {
-    error = PrintableName(path) + ": " + error;
-    return false;
+    return FileStatus::Failed("Error", PrintableName(path) + ": " + error);
   }
   script.Lines = std::move(lines);
   script.FileName = path;
   RebuildFlags(script);
-  return true;
+  return {};
 }
 
-bool SaveScriptFile(const std::string& path, const Script& script, std::string& error) {
+FileStatus SaveScriptFile(const std::string& path, const Script& script) {
   std::string bytes;
   if (IsBetFilePath(path)) {
     for (int n = 1; n <= script.NumLines(); ++n) {
-      if (!FitsFileFields(script.Line(n))) {
-        error = PrintableName(path) + ": line " + std::to_string(n) + " has a number that a .bet record cannot hold";
-        return false;
-      }
+      if (!FitsFileFields(script.Line(n)))
+        return FileStatus::Failed("Error", PrintableName(path) + ": line " + std::to_string(n) +
+                                               " has a number that a .bet record cannot hold");
     }
     bytes = EncodeBetFile(script, false);
   } else {
     bytes = ScriptToText(script);
   }
   std::string reason;
-  if (!WriteFileAtomically(path, bytes, reason)) {
-    error = PrintableName(path) + " " + reason + ".";
-    return false;
-  }
-  return true;
+  if (!WriteFileAtomically(path, bytes, reason)) return FileStatus::Failed("Error", PrintableName(path) + " " + reason + ".");
+  return {};
 }
