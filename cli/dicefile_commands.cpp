@@ -115,16 +115,16 @@ void PlaySession::DiceFile(const Args& a) {
     Check(done, sub);
   } else if (sub == "copyto") {
     NeedArgs(a, 2, "copyto FILE.rol");
-    Check(CopyToRollFile(g, a[1]), "the copy");
+    Check(ShowFileStatus(g, CopyToRollFile(g, a[1])), "the copy");
   } else if (sub == "pastefrom") {
     NeedArgs(a, 2, "pastefrom FILE.rol");
-    Check(PasteFromRollFile(g, a[1]), "the paste");
+    Check(ShowFileStatus(g, PasteFromRollFile(g, a[1])), "the paste");
   } else if (sub == "import") {
     NeedArgs(a, 2, "import FILE.txt");
-    Check(PasteFromTextFile(g, a[1]), "the import");
+    Check(ShowFileStatus(g, PasteFromTextFile(g, a[1])), "the import");
   } else if (sub == "export") {
     if (a.size() < 2) throw CommandError("expected: dicefile export FILE.txt [nums] [dice] [calls]");
-    Check(CopyToTextFile(g, a[1], ReadTextOptions(a, 2)), "the export");
+    Check(ShowFileStatus(g, CopyToTextFile(g, a[1], ReadTextOptions(a, 2))), "the export");
   } else {
     throw CommandError("'" + a[0] +
                        "' is not open, create, close, info, status, position, selectall, typeover, insert, enter, "

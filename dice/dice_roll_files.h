@@ -69,9 +69,11 @@ bool CutSelection(Game& g);
 bool DeleteSelection(Game& g);
 bool ClipboardHasRolls(const Game& g);
 bool PasteClipboard(Game& g);
-bool CopyToRollFile(Game& g, const std::string& path);
-bool PasteFromRollFile(Game& g, const std::string& path);
-bool PasteFromTextFile(Game& g, const std::string& path);
+// Copies and pastes to and from other files. A failure with no message is
+// the player's own No, or no file open; a file that cannot be used is told.
+FileStatus CopyToRollFile(Game& g, const std::string& path);
+FileStatus PasteFromRollFile(Game& g, const std::string& path);
+FileStatus PasteFromTextFile(Game& g, const std::string& path);
 
 struct RollTextOptions {
   bool rollNums = true;        // chkRollNums
@@ -80,7 +82,7 @@ struct RollTextOptions {
 };
 // Writes the selection as text, one line per roll; refuses when neither the
 // dice nor the numbers called are wanted.
-bool CopyToTextFile(Game& g, const std::string& path, const RollTextOptions& options);
+FileStatus CopyToTextFile(Game& g, const std::string& path, const RollTextOptions& options);
 
 // File-to-file conversions, with no game: every "1".."6" of the text counts,
 // paired as Die1 then Die2; an unpaired last digit is dropped. The target is

@@ -264,8 +264,9 @@ TEST(DiceRollFiles, TextConversionAndCopyToTextOptions) {
   ASSERT_TRUE(CopyToTextFile(t.g, t.Path("out.txt").string(), {true, false, true}));
   EXPECT_EQ(ReadAll(t.Path("out.txt")), "1- 7\n");
 
-  EXPECT_FALSE(CopyToTextFile(t.g, t.Path("none.txt").string(), {true, false, false}));
-  EXPECT_EQ(t.Last().text,
+  const FileStatus refused = CopyToTextFile(t.g, t.Path("none.txt").string(), {true, false, false});
+  EXPECT_FALSE(refused.Ok);
+  EXPECT_EQ(refused.Messages.at(0).Text,
             "You must check at least one of the following boxes found under Output Options:\r        Include "
             "individual die #'s\r        Include numbers called");
   EXPECT_FALSE(std::filesystem::exists(t.Path("none.txt")));
