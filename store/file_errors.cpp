@@ -6,8 +6,6 @@ std::string FileNameErrorText() {
   return std::string("File name error, file not found, or device error.") + kBreak + "Check path and file name.";
 }
 
-void ShowFileNameError(Game& g) { ShowFileStatus(g, FileNameErrorStatus()); }
-
 FileStatus FileNameErrorStatus() { return FileStatus::Failed("Error", FileNameErrorText()); }
 
 namespace {
@@ -44,10 +42,6 @@ std::string PrintableName(const std::filesystem::path& path) {
 
 std::string FileErrorText(const std::filesystem::path& path, const std::string& reason) {
   return PrintableName(path) + " " + reason + "." + kBreak + FileNameErrorText();
-}
-
-void ShowFileError(Game& g, const std::filesystem::path& path, const std::string& reason) {
-  ShowFileStatus(g, FileErrorStatus(path, reason));
 }
 
 FileStatus FileErrorStatus(const std::filesystem::path& path, const std::string& reason) {

@@ -250,8 +250,6 @@ TEST(GameFile, ADamagedFileIsRefusedWhole) {
   damaged.back()[bytes.size() - 1] = 'x';  // even the spare bytes of the check record
   damaged.push_back(unsealed + std::string(kGameRecordBytes, 'x'));  // a record too many
   damaged.push_back(unsealed.substr(0, continuation + kGameRecordBytes));  // a continuation cut short
-  for (const char* kept : {"conc-kill-round11-0bytes.crp", "conc-kill-round57-65536bytes-opens.crp"})
-    damaged.push_back(ReadBytes(fs::path(DICEMILL_SOURCE_DIR "/tests/reliability") / kept));
   for (const std::string& d : damaged) {
     WriteBytes(path, d);
     SavedTable t(folder.path());
