@@ -3,21 +3,11 @@
 #include "script/condition_parts.h"
 #include "script/values.h"
 #include "stats/roll_counters.h"
+#include "script/subject_codes.h"
 
 namespace {
 
-// Subjects that are not bets or dice events.
-constexpr int kInitializing = 9999;
-constexpr int kEachRoll = 1300;
-constexpr int kNextComeOut = 1301, kNextNotComeOut = 1309;
-constexpr int kLastComeOut = 1302, kLastNotComeOut = 1310;
-constexpr int kPointOn = 1303, kPointNotOn = 1306;
-constexpr int kDecidedFor = 1304, kDecidedAgainst = 1305, kDecided = 1322;
-constexpr int kAnswerYes = 1307, kAnswerNo = 1308;
-constexpr int kEachPass = 1313, kEachMiss = 1316;
-constexpr int kAvailableBankroll = 1410;
-constexpr int kSimulatedHours = 1405;
-constexpr int kFlag = 1500, kAnyFlag = 1501, kAllFlags = 1502, kTrueFlags = 1503, kFalseFlags = 1504;
+using namespace subject;
 
 void Set(PassState& pass, bool now, bool justNow) {
   pass.BlockTrue = now;
@@ -110,15 +100,15 @@ struct Counter {
 Counter CounterOf(const Game& g, int subject) {
   const auto& h = g.HandStats;
   switch (subject) {
-    case 1311: return {g.RollCounts[event::kAllRolls], CounterKind::Game};
-    case 1312: return {h[hand::kRolls], CounterKind::Shooter};
-    case 1323: return {h[hand::kLastHandRolls], CounterKind::LastShooter};
-    case 1314: return {h[hand::kAllWins], CounterKind::Game, true};
-    case 1315: return {h[hand::kWins], CounterKind::Shooter, true};
-    case 1324: return {h[hand::kLastHandWins], CounterKind::LastShooter};
-    case 1317: return {h[hand::kAllLosses], CounterKind::Game, true};
-    case 1318: return {h[hand::kLossesInRow], CounterKind::Shooter, true};
-    case 1325: return {h[hand::kLastHandLossesInRow], CounterKind::LastShooter};
+    case subject::kGameRolls: return {g.RollCounts[event::kAllRolls], CounterKind::Game};
+    case subject::kShooterRolls: return {h[hand::kRolls], CounterKind::Shooter};
+    case subject::kLastShooterRolls: return {h[hand::kLastHandRolls], CounterKind::LastShooter};
+    case subject::kGamePasses: return {h[hand::kAllWins], CounterKind::Game, true};
+    case subject::kShooterPasses: return {h[hand::kWins], CounterKind::Shooter, true};
+    case subject::kLastShooterPasses: return {h[hand::kLastHandWins], CounterKind::LastShooter};
+    case subject::kGameMisses: return {h[hand::kAllLosses], CounterKind::Game, true};
+    case subject::kShooterMisses: return {h[hand::kLossesInRow], CounterKind::Shooter, true};
+    case subject::kLastShooterMisses: return {h[hand::kLastHandLossesInRow], CounterKind::LastShooter};
     default: return {};
   }
 }

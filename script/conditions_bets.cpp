@@ -3,6 +3,7 @@
 #include "script/condition_parts.h"
 #include "script/values.h"
 #include "stats/rounded_quotient.h"
+#include "script/subject_codes.h"
 
 namespace {
 
@@ -33,7 +34,7 @@ SlotRange Slot(int slot) { return {slot, slot}; }
 // Families of the bet groups: Any 1000+, All 1100+, Total 1200+.
 SlotRange GroupRange(int code) {
   const int family = code % 100;
-  const Walk walk = code < 1100 ? Walk::Any : code < 1200 ? Walk::All : Walk::Total;
+  const Walk walk = code < subject::kAllGroup ? Walk::Any : code < subject::kTotalGroup ? Walk::All : Walk::Total;
   switch (family) {
     case 1: return {1, 83, walk};
     case 2: return {1, 6, walk};
@@ -50,21 +51,21 @@ SlotRange GroupRange(int code) {
 
 SlotRange RangeOf(const Game& g, int code, int num) {
   if (bet::IsTableBet(code)) return Slot(code);
-  if (code >= 1000 && code <= 1299) return GroupRange(code);
+  if (code >= subject::kAnyGroup && code <= subject::kLastGroup) return GroupRange(code);
   switch (code) {
-    case 1400: return Slot(bet::kBankroll);
-    case 1401: return {bet::kBankroll, bet::kBankroll, Walk::Single, true};
-    case 1600:
+    case subject::kBankroll: return Slot(bet::kBankroll);
+    case subject::kAverageBankroll: return {bet::kBankroll, bet::kBankroll, Walk::Single, true};
+    case subject::kChipStack:
       return num >= 0 && num + bet::kFirstStack < bet::kSlots ? Slot(num + bet::kFirstStack) : SlotRange{};
-    case 1601: {
+    case subject::kChipStackRef: {
       const int ref = ChipStackReference(g, num);
       return ref < 0 ? SlotRange{} : Slot(ref + bet::kFirstStack);
     }
-    case 1800:
-    case 1803:
-    case 1804:
-    case 1805:
-    case 1806: {
+    case subject::kPointLay:
+    case subject::kPointCome:
+    case subject::kPointComeOdds:
+    case subject::kPointPlace:
+    case subject::kPointBuy: {
       const int id = ShootersPointBet(g, code);
       return id == 0 ? SlotRange{} : Slot(id);
     }
@@ -194,7 +195,7 @@ class BetWalk {
     if (t.now) {
       pass_.BlockTrue = true;
       const bool exists = g_.BetAmount[i] != 0 || i == bet::kBankroll;
-      if (line_.Subject < 1100 && exists && IsWhileKind(pass_.LastStart)) return false;
+      if (line_.Subject < subject::kAllGroup && exists && IsWhileKind(pass_.LastStart)) return false;
     }
     if (subject_.walk == Walk::All && !t.now) {
       pass_.BlockTrue = false;
@@ -297,9 +298,9 @@ void EvaluateTotal(const Game& g, PassState& pass, const ScriptLine& line, Curre
 
 bool IsBetSubject(int subject) {
   if (bet::IsTableBet(subject)) return true;
-  if (subject >= 1000 && subject <= 1299) return !GroupRange(subject).Empty();
+  if (subject >= subject::kAnyGroup && subject <= subject::kLastGroup) return !GroupRange(subject).Empty();
   switch (subject) {
-    case 1400: case 1401: case 1600: case 1601: case 1800: case 1803: case 1804: case 1805: case 1806: return true;
+    case subject::kBankroll: case subject::kAverageBankroll: case subject::kChipStack: case subject::kChipStackRef: case subject::kPointLay: case subject::kPointCome: case subject::kPointComeOdds: case subject::kPointPlace: case subject::kPointBuy: return true;
     default: return false;
   }
 }

@@ -1,12 +1,13 @@
 #include "script/line_text.h"
 
 #include "script/catalogue.h"
+#include "script/subject_codes.h"
 
 namespace {
 
 using namespace script_list;
 
-constexpr int kChipStack = 1600, kChipStackRef = 1601;
+using subject::kChipStack, subject::kChipStackRef;
 
 std::string Amount(Currency a) { return FormatNumberWithCommas(a); }
 
@@ -21,18 +22,18 @@ std::string ConditionText(const ScriptLine& l) {
   std::string text = Named(ConditionSubjects(), l.Subject, l.SubjectNum);
   const bool isTrue = l.LineAmount != Currency(0);
   switch (l.Subject) {
-    case 9999: case 1300: case 1301: case 1302: case 1307: case 1308:
-    case 1309: case 1310: case 1313: case 1316:
+    case subject::kInitializing: case subject::kEachRoll: case subject::kNextComeOut: case subject::kLastComeOut: case subject::kAnswerYes: case subject::kAnswerNo:
+    case subject::kNextNotComeOut: case subject::kLastNotComeOut: case subject::kEachPass: case subject::kEachMiss:
       return text;
-    case 1303: case 1306:
+    case subject::kPointOn: case subject::kPointNotOn:
       return text + " " + WordsOf(PointChoices(), l.Code);
-    case 1304: case 1305: case 1321: case 1322:
+    case subject::kDecidedFor: case subject::kDecidedAgainst: case subject::kDecidedUnlisted: case subject::kDecided:
       return text + " " + WordsOf(DecidedChoices(), l.Code);
-    case 1500:
+    case subject::kFlag:
       return text + " " + l.Name + (isTrue ? " is True" : " is False");
-    case 1501:
+    case subject::kAnyFlag:
       return text + (isTrue ? " is True" : " is False");
-    case 1502:
+    case subject::kAllFlags:
       return text + (isTrue ? " are True" : " are False");
     default:
       break;

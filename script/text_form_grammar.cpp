@@ -1,23 +1,24 @@
 #include "script/text_form_grammar.h"
 
 #include "script/line_text.h"
+#include "script/subject_codes.h"
 
 namespace text_form {
 
 SubjectKind SubjectKindOf(int subject) {
   switch (subject) {
-    case 9999: case 1300: case 1301: case 1302: case 1307: case 1308:
-    case 1309: case 1310: case 1313: case 1316:
+    case subject::kInitializing: case subject::kEachRoll: case subject::kNextComeOut: case subject::kLastComeOut: case subject::kAnswerYes: case subject::kAnswerNo:
+    case subject::kNextNotComeOut: case subject::kLastNotComeOut: case subject::kEachPass: case subject::kEachMiss:
       return SubjectKind::Bare;
-    case 1303: case 1306:
+    case subject::kPointOn: case subject::kPointNotOn:
       return SubjectKind::Point;
-    case 1304: case 1305: case 1321: case 1322:
+    case subject::kDecidedFor: case subject::kDecidedAgainst: case subject::kDecidedUnlisted: case subject::kDecided:
       return SubjectKind::Decided;
-    case 1500:
+    case subject::kFlag:
       return SubjectKind::Flag;
-    case 1501:
+    case subject::kAnyFlag:
       return SubjectKind::AnyFlag;
-    case 1502:
+    case subject::kAllFlags:
       return SubjectKind::AllFlags;
     default:
       return SubjectKind::Compared;
