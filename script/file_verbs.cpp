@@ -7,18 +7,11 @@
 #include "store/prob_file.h"
 #include "script/values.h"
 #include "script/verb_families.h"
+#include "script/verb_codes.h"
 
 namespace {
 
-constexpr int kActivateProbFile = 97;
-constexpr int kDeactivateProbFile = 98;
-constexpr int kOpenAppend = 99;
-constexpr int kOutputMessage = 100;
-constexpr int kOutputValue = 101;
-constexpr int kOutputNewLine = 102;
-constexpr int kOutputLastValue = 108;
-constexpr int kOpenClear = 113;
-constexpr int kCloseFile = 114;
+using namespace verb;
 
 void OpenOutput(Game& g, const ScriptLine& line, std::ios::openmode mode) {
   if (g.ScriptOutput.is_open()) g.ScriptOutput.close();

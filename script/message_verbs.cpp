@@ -5,13 +5,11 @@
 #include "script/values.h"
 #include "script/verb_families.h"
 #include "script/verb_math.h"
+#include "script/verb_codes.h"
 
 namespace {
 
-constexpr int kShowMessage = 79;
-constexpr int kQuestion = 82;
-constexpr int kShowValue = 84;
-constexpr int kQuestionValue = 85;
+using namespace verb;
 
 bool IsMessageVerb(int code) {
   return code == kShowMessage || code == kQuestion || code == kShowValue || code == kQuestionValue;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "script/script_line.h"
+#include "script/verb_codes.h"
 
 struct Flag {
   std::string FlagName;      // trimmed
@@ -30,7 +31,7 @@ struct Script {
 
 // Flag condition subject and "Set flag" verb: the lines that name a flag.
 constexpr int kSubjectFlag = 1500;
-constexpr int kVerbSetFlag = 77;
+constexpr int kVerbSetFlag = verb::kSetFlag;
 
 // Trailing and leading blanks off.
 std::string Trimmed(const std::string& s);
