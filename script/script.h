@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "script/script_line.h"
+#include "script/subject_codes.h"
 #include "script/verb_codes.h"
 
 struct Flag {
@@ -30,7 +31,7 @@ struct Script {
 };
 
 // Flag condition subject and "Set flag" verb: the lines that name a flag.
-constexpr int kSubjectFlag = 1500;
+constexpr int kSubjectFlag = subject::kFlag;
 constexpr int kVerbSetFlag = verb::kSetFlag;
 
 // Trailing and leading blanks off.
