@@ -33,7 +33,8 @@ TEST_F(RollTest, PointComesAndGoesWithItsHandCounters) {
   Roll(4, 1);  // point 5
   Roll(6, 6);
   Roll(3, 4);  // seven-out
-  ExpectHandStats({{kRolls, 0}, {kWins, 0}, {kHands, 1}, {kMostRolls, 7}, {kRollsOfHands, 7}, {kSevenOuts, 1}, {kLastHandRolls, 7}, {kLastHandWins, 2}});
+  ExpectHandStats({{kRolls, 0}, {kWins, 0}, {kHands, 1}, {kMostRolls, 7}, {kRollsOfHands, 7}, {kSevenOuts, 1},
+                   {kLastHandRolls, 7}, {kLastHandWins, 2}});
   EXPECT_EQ(g.RollCounts[0], 7);
 
   // Barred craps count as line losses on the come-out; a come-out 7 wins the

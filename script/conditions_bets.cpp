@@ -300,7 +300,10 @@ bool IsBetSubject(int subject) {
   if (bet::IsTableBet(subject)) return true;
   if (subject >= subject::kAnyGroup && subject <= subject::kLastGroup) return !GroupRange(subject).Empty();
   switch (subject) {
-    case subject::kBankroll: case subject::kAverageBankroll: case subject::kChipStack: case subject::kChipStackRef: case subject::kPointLay: case subject::kPointCome: case subject::kPointComeOdds: case subject::kPointPlace: case subject::kPointBuy: return true;
+    case subject::kBankroll: case subject::kAverageBankroll: case subject::kChipStack: case subject::kChipStackRef:
+    case subject::kPointLay: case subject::kPointCome: case subject::kPointComeOdds: case subject::kPointPlace:
+    case subject::kPointBuy:
+      return true;
     default: return false;
   }
 }

@@ -15,7 +15,9 @@ constexpr int kNotRolledInLast = 10;
 
 }  // namespace
 
-bool IsDiceEvent(int subject) { return subject > subject::kDiceEvents && subject < subject::kDiceEvents + event::kCount; }
+bool IsDiceEvent(int subject) {
+  return subject > subject::kDiceEvents && subject < subject::kDiceEvents + event::kCount;
+}
 
 void EvaluateDiceEvent(const Game& g, PassState& pass, const ScriptLine& line) {
   const int i = line.Subject - subject::kDiceEvents;

@@ -67,7 +67,8 @@ TEST(FileStatus, EveryReaderTellsWhyItRefusedAFile) {
   // beside it.
   for (const char* name :
        {"conc-kill-round11-0bytes.crp", "conc-kill-round30-0bytes.crp", "conc-kill-round57-65536bytes-opens.crp"})
-    cases.push_back({name, OpenGame, kept / name, {"Unable to Open Dicemill Game File", (kept / name).string() + kGameRefusal}});
+    cases.push_back(
+        {name, OpenGame, kept / name, {"Unable to Open Dicemill Game File", (kept / name).string() + kGameRefusal}});
   int absurd = 0;
   for (const auto& entry : fs::directory_iterator(kept)) {
     if (!entry.path().filename().string().ends_with("-absurd.glg")) continue;
