@@ -4,6 +4,7 @@
 #include "script/values.h"
 #include "stats/roll_counters.h"
 #include "script/subject_codes.h"
+#include "script/comparison_codes.h"
 
 namespace {
 
@@ -173,7 +174,7 @@ void EvaluateFlagWalk(const Game& g, PassState& pass, const ScriptLine& line) {
 
 void EvaluateCondition(Game& g, PassState& pass, const ScriptLine& line) {
   if (EvaluateTiming(g, pass, line)) return;
-  const bool againstValue = line.Code >= 17 && line.Code <= 22;
+  const bool againstValue = comparison::AgainstTarget(line.Code);
   const Currency amount = againstValue ? GetValue(g, line.Target, line.TargetNum) : line.LineAmount;
   if (EvaluateCounter(g, pass, line, amount)) return;
   if (IsDiceEvent(line.Subject)) {

@@ -4,17 +4,18 @@
 #include "script/values.h"
 #include "stats/rounded_quotient.h"
 #include "script/subject_codes.h"
+#include "script/comparison_codes.h"
 
 namespace {
 
 // Comparison codes of the bet rule.
 constexpr int kHasWon = 1, kWonMoreThan = 2, kHasLost = 3, kLostMoreThan = 4;
 constexpr int kHasNotWon = 60, kWonLessThan = 61, kHasNotLost = 62, kLostLessThan = 63;
-constexpr int kIsNamed = 26, kIsNotNamed = 27;
-constexpr int kNumber = 23, kNumberMoreThan = 24, kNumberLessThan = 25;
+using comparison::kIsNamed, comparison::kIsNotNamed;
+using comparison::kNumber, comparison::kNumberMoreThan, comparison::kNumberLessThan;
 
-bool IsAmountCode(int code) { return code >= 11 && code <= 16; }
-bool IsSecondRangeCode(int code) { return code >= 17 && code <= 22; }
+bool IsAmountCode(int code) { return comparison::AgainstAmount(code); }
+bool IsSecondRangeCode(int code) { return comparison::AgainstTarget(code); }
 bool IsWhileKind(int kind) { return kind == 2 || kind == 4 || kind == 6 || kind == 8; }
 
 enum class Walk { Single, Any, All, Total };

@@ -3,6 +3,7 @@
 #include "script/catalogue.h"
 #include "script/subject_codes.h"
 #include "script/verb_codes.h"
+#include "script/comparison_codes.h"
 
 namespace {
 
@@ -41,11 +42,11 @@ std::string ConditionText(const ScriptLine& l) {
       break;
   }
   std::string words = ComparisonWords(l.Code, IsPluralSubject(l.Subject));
-  if (l.Code >= 11 && l.Code <= 16 && IsCountSubject(l.Subject) && !words.empty()) words.pop_back();
+  if (comparison::AgainstAmount(l.Code) && IsCountSubject(l.Subject) && !words.empty()) words.pop_back();
   text += " " + words;
-  if (l.Code >= 11 && l.Code <= 16) return text + Amount(l.LineAmount);
-  if (l.Code >= 17 && l.Code <= 22) return text + " " + Named(CompareTargets(), l.Target, l.TargetNum);
-  if (l.Code == 26 || l.Code == 27) return text + " \"" + l.Name + "\"";
+  if (comparison::AgainstAmount(l.Code)) return text + Amount(l.LineAmount);
+  if (comparison::AgainstTarget(l.Code)) return text + " " + Named(CompareTargets(), l.Target, l.TargetNum);
+  if (comparison::OfName(l.Code)) return text + " \"" + l.Name + "\"";
   if (l.LineAmount != Currency(0)) text += " " + Amount(l.LineAmount);
   return text;
 }

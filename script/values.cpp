@@ -4,6 +4,7 @@
 
 #include "stats/rounded_quotient.h"
 #include "script/subject_codes.h"
+#include "script/comparison_codes.h"
 
 namespace {
 
@@ -114,13 +115,15 @@ Currency GetValue(const Game& g, int code, int num) { return ValueOf(g, code, nu
 Currency GetLastValue(const Game& g, int code, int num) { return ValueOf(g, code, num, true); }
 
 bool CompareValues(Currency left, int code, Currency right) {
+  // A comparison with a target's value works as the one with an amount.
+  if (comparison::AgainstTarget(code)) code -= comparison::kTargetOffset;
   switch (code) {
-    case 11: case 17: return left == right;
-    case 12: case 18: return left != right;
-    case 13: case 19: return left > right;
-    case 14: case 20: return !(left > right);
-    case 15: case 21: return left < right;
-    case 16: case 22: return !(left < right);
+    case comparison::kEqual: return left == right;
+    case comparison::kNotEqual: return left != right;
+    case comparison::kMore: return left > right;
+    case comparison::kNotMore: return !(left > right);
+    case comparison::kLess: return left < right;
+    case comparison::kNotLess: return !(left < right);
     default: return false;
   }
 }
