@@ -15,23 +15,23 @@ TEST(Atm, LimitsAndNotices) {
     Currency moved;
     std::string said;  // empty: no notice
   } cases[] = {
-      {kAtmWithdraw, 500, 0, 9'999'499, true, false, 15, 9'999'499, ""},  // lands exactly on the limit
-      {kAtmWithdraw, 500, 0, 9'999'500, true, false, 15, 9'999'499,
+      {kAtmWithdraw, 500, 0, 9'999'499, true, false, kNoticeDefault, 9'999'499, ""},  // lands exactly on the limit
+      {kAtmWithdraw, 500, 0, 9'999'500, true, false, kNoticeDefault, 9'999'499,
        "Requested amount:  $9,999,500\rAllowed amount:  $9,999,499\r\r" + cut +
            "caused the current bankroll to exceed the bank limit of $9,999,999"},
-      {kAtmDeposit, 100, 60, 50, false, false, 15, 40,
+      {kAtmDeposit, 100, 60, 50, false, false, kNoticeDefault, 40,
        "Requested amount:  $50\rAllowed amount:  $40\r\r" + cut +
            "caused your current bankroll to drop below the amount of your current bets.\r\r" + more +
            " on the Configuration screen, and/or by reducing the amount of your current bets."},
       {kAtmDeposit, 100, 0, 150, false, true, 0, 100,
        "Requested amount:  $150\rAllowed amount:  $100\r\r" + cut + "resulted in a negative current bankroll.\r\r" +
            more + "."},
-      {kAtmDeposit, 100, 60, 50, false, false, 14, 40, ""},  // cut silently
-      {kAtmDeposit, 100, 60, 50, true, false, 15, 50, ""},
-      {kAtmDeposit, -9'999'000, 0, 1'000, true, false, 15, 999,
+      {kAtmDeposit, 100, 60, 50, false, false, kNoticeDefault & ~kNoticeRefusals, 40, ""},  // cut silently
+      {kAtmDeposit, 100, 60, 50, true, false, kNoticeDefault, 50, ""},
+      {kAtmDeposit, -9'999'000, 0, 1'000, true, false, kNoticeDefault, 999,
        "Requested amount:  $1,000\rAllowed amount:  $999\r\r" + cut +
            "caused your current bankroll to exceed the bank limit of $-9,999,999"},
-      {kAtmDeposit, 100, 0, -5, true, false, 15, 0, ""},
+      {kAtmDeposit, 100, 0, -5, true, false, kNoticeDefault, 0, ""},
   };
   for (const auto& c : cases) {
     Table t;

@@ -64,10 +64,10 @@ TEST(AutoOdds, TakeFullOddsEdges) {
   t.SetPoint(6);
   t.g.AllowNegativeBankroll = false;
   t.g.Bankroll() = 10;
-  t.g.NoticeMask = 11;
+  t.g.NoticeMask = kNoticeDefault & ~kNoticeCharges;
   TakeFullOdds(t.g, bet::kPassOdds);
   EXPECT_EQ(t.g.BetAmount[bet::kPassOdds], 0);
-  EXPECT_EQ(t.g.NoticeMask, 11);
+  EXPECT_EQ(t.g.NoticeMask, kNoticeDefault & ~kNoticeCharges);
   EXPECT_TRUE(t.ui.messages.empty());
 }
 

@@ -96,7 +96,7 @@ Currency ModifyUnit(const Game& g, int entry, int betId, Currency base) {
   const int32_t units = g.ModifyUnits[entry];
   if (units == 0) return MulRatio(base, 0.01);
   if (units < 0) return 1;
-  const int slot = 93 + units;
+  const int slot = bet::ChipSlot(units - 1);  // units 2..6 are the colours 1..5
   if (slot < bet::kFirstChip || slot > bet::kLastChip) return 1;
   return MulRatio(g.BetAmount[slot], g.Payoff[betId].Per.ToDouble());
 }

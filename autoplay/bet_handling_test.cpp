@@ -15,10 +15,10 @@ Currency AfterPlace6Win(int wonBetAction, std::optional<int> button = std::nullo
   t.ui.settleReplies.push_back(button);
   t.Stand(kPlace6, 12);
   t.Dice(2, 4, 5);
-  EXPECT_EQ(t.Settle(1, kPlace6), Currency(14));
+  EXPECT_EQ(t.Settle(Outcome::Win, kPlace6), Currency(14));
   EXPECT_EQ(t.g.TotalOnTable, t.g.BetAmount[kPlace6]);
   EXPECT_EQ(t.ui.notices.size(), wonBetAction == 0 ? 1u : 0u);
-  EXPECT_EQ(t.g.NoticeMask, 15);
+  EXPECT_EQ(t.g.NoticeMask, kNoticeDefault);
   return t.g.BetAmount[kPlace6];
 }
 
@@ -30,9 +30,9 @@ Currency AfterFieldLoss(int handleLosingBets, int per, std::optional<int> button
   t.ui.settleReplies.push_back(button);
   t.Stand(bet::kField, 10);
   t.Dice(1, 4, 0);
-  SettleBet(t.g, 1, bet::kField);
+  SettleBet(t.g, Outcome::Win, bet::kField);
   EXPECT_EQ(t.g.TotalOnTable, t.g.BetAmount[bet::kField]);
-  EXPECT_EQ(t.g.NoticeMask, 15);
+  EXPECT_EQ(t.g.NoticeMask, kNoticeDefault);
   return t.g.BetAmount[bet::kField];
 }
 
@@ -63,19 +63,19 @@ TEST(WonBetHandling, ModifiedFormsAndResultNotices) {
     t.g.ModifyUnits[c.entry] = c.units;
     t.Stand(kPlace6, 12);
     t.Dice(2, 4, 5);
-    t.Settle(1, kPlace6);
+    t.Settle(Outcome::Win, kPlace6);
     EXPECT_EQ(t.g.BetAmount[kPlace6], Currency(c.left)) << c.option << " entry " << c.entry << " op " << c.op;
     EXPECT_EQ(t.g.TotalOnTable, Currency(c.left));
   }
 
   // Press, double and parlay tell the result against the bet before the roll.
   const struct { int option; int32_t mask; bool hyper; std::vector<RecordedMessage> said; } told[] = {
-      {3, 15, false, {{"Press 1 Unit Place 6", "Bet increased by: $6"}}},
-      {4, 15, false, {{"Press Double Place 6", "Bet increased by: $12"}}},
-      {5, 15, false, {{"Parlay Place 6", "Bet increased by: $14"}}},
-      {5, 11, false, {}},
-      {5, 15, true, {}},
-      {2, 15, false, {}}};
+      {3, kNoticeDefault, false, {{"Press 1 Unit Place 6", "Bet increased by: $6"}}},
+      {4, kNoticeDefault, false, {{"Press Double Place 6", "Bet increased by: $12"}}},
+      {5, kNoticeDefault, false, {{"Parlay Place 6", "Bet increased by: $14"}}},
+      {5, kNoticeDefault & ~kNoticeCharges, false, {}},
+      {5, kNoticeDefault, true, {}},
+      {2, kNoticeDefault, false, {}}};
   for (const auto& c : told) {
     Table t;
     t.g.WonBetAction = c.option;
@@ -84,7 +84,7 @@ TEST(WonBetHandling, ModifiedFormsAndResultNotices) {
     t.g.PlaceBias = 1;
     t.Stand(kPlace6, 12);
     t.Dice(2, 4, 5);
-    t.Settle(1, kPlace6);
+    t.Settle(Outcome::Win, kPlace6);
     EXPECT_EQ(t.ui.messages, c.said) << c.option;
     EXPECT_EQ(t.g.BetAmount[kPlace6], Currency(c.option == 2 ? 12 : c.option == 3 ? 18 : c.option == 4 ? 24 : 26));
     EXPECT_EQ(t.g.NoticeMask, c.mask);
@@ -96,7 +96,7 @@ TEST(WonBetHandling, ModifiedFormsAndResultNotices) {
   m.g.TableMaximum = 20;
   m.Stand(kPlace6, 12);
   m.Dice(2, 4, 5);
-  m.Settle(1, kPlace6);
+  m.Settle(Outcome::Win, kPlace6);
   EXPECT_EQ(m.g.BetAmount[kPlace6], Currency(20));
   EXPECT_EQ(m.ui.messages, (std::vector<RecordedMessage>{{"Press Double Place 6", "Bet increased by: $8"}}));
 
@@ -106,7 +106,7 @@ TEST(WonBetHandling, ModifiedFormsAndResultNotices) {
   u.Stand(kPlace6, 6);
   u.g.BetAmount[kPlace6] = u.g.TotalOnTable = 12;
   u.Dice(2, 4, 5);
-  u.Settle(1, kPlace6);
+  u.Settle(Outcome::Win, kPlace6);
   EXPECT_EQ(u.ui.messages, (std::vector<RecordedMessage>{{"Press 1 Unit Place 6", "Bet increased by: $12"}}));
 }
 
@@ -116,7 +116,7 @@ TEST(WonBetHandling, SameBetIsTheAmountBeforeTheRollAndBuysPayTheirVigAnew) {
   t.Stand(kPlace6, 12);
   t.g.BetAmount[kPlace6] = t.g.TotalOnTable = 18;  // raised after the dice went out
   t.Dice(2, 4, 5);
-  EXPECT_EQ(t.Settle(1, kPlace6), Currency(21));
+  EXPECT_EQ(t.Settle(Outcome::Win, kPlace6), Currency(21));
   EXPECT_EQ(t.g.BetAmount[kPlace6], Currency(12));
   EXPECT_EQ(t.g.TotalOnTable, Currency(12));
   EXPECT_FALSE(t.ui.redrawn.empty());
@@ -127,7 +127,7 @@ TEST(WonBetHandling, SameBetIsTheAmountBeforeTheRollAndBuysPayTheirVigAnew) {
   u.g.BuyVigOnBet[0] = 1;
   u.g.TotalOnTable += 1;
   u.Dice(1, 3, 6);
-  EXPECT_EQ(u.Settle(1, bet::Buy(4)), Currency(39));
+  EXPECT_EQ(u.Settle(Outcome::Win, bet::Buy(4)), Currency(39));
   EXPECT_EQ(u.g.NetPayoff, Currency(40));  // the winnings before the vig
   EXPECT_EQ(u.g.BetAmount[bet::Buy(4)], Currency(20));
   EXPECT_EQ(u.g.BuyVigOnBet[0], Currency(1));
@@ -151,7 +151,7 @@ TEST(LostBetHandling, TheNotice) {
   t.g.FieldPayoff[5] = {-1, -1, 2};
   t.Stand(bet::kField, 10);
   t.Dice(1, 4, 0);
-  SettleBet(t.g, 1, bet::kField);
+  SettleBet(t.g, Outcome::Win, bet::kField);
   ASSERT_EQ(t.ui.notices.size(), 1u);
   const SettleNotice& n = t.ui.notices[0];
   EXPECT_EQ(n.title, "Bet Lost");
@@ -169,7 +169,7 @@ TEST(LostBetHandling, TheNotice) {
   u.g.LayVigOnBet[0] = 1;
   u.g.TotalOnTable += 1;
   u.Dice(2, 2, 6);
-  EXPECT_EQ(u.Settle(-1, bet::Lay(4)), Currency(-41));
+  EXPECT_EQ(u.Settle(Outcome::Loss, bet::Lay(4)), Currency(-41));
   EXPECT_EQ(u.ui.notices.at(0).rows, (Rows{{"Lay 4 bet:", "$40"}, {"Loss at -1 to 1:", "$-40"}, {"-5& vig:", "$-1"},
                                            {"Net loss: ", "$-41"}}));
   EXPECT_EQ(u.g.NetPayoff, Currency(-40));
@@ -184,7 +184,7 @@ TEST(LostBetHandling, TheNotice) {
     w.Stand(kPlace6, 6);
     if (!hyper) w.g.BetAtRollStart[kPlace6] = 0;
     w.Dice(3, 4, 5);
-    SettleBet(w.g, -1, kPlace6);
+    SettleBet(w.g, Outcome::Loss, kPlace6);
     EXPECT_TRUE(w.ui.notices.empty());
     EXPECT_EQ(w.g.BetAmount[kPlace6], Currency(0));
   }
@@ -251,22 +251,21 @@ TEST(BetHandling, ParlayNeverAddsMoreThanWasWon) {
     t.g.WonBetAction = 5;  // " Parlay"
     t.Stand(c.id, c.amount);
     t.Dice(c.die1, c.die2, c.point);
-    t.Settle(1, c.id);
+    t.Settle(Outcome::Win, c.id);
     EXPECT_EQ(t.g.BetAmount[c.id], c.left) << t.g.BetName[c.id];
   }
 }
 
 // Keeping a won bet is bookkeeping: a call ON stays, Buy and Lay alike.
 TEST(BetHandling, SameBetKeepsACall) {
-  const struct { int id; int outcome, die1, die2; } cases[] = {
-      {bet::Place(6), 1, 2, 4}, {bet::Buy(6), 1, 2, 4}, {bet::Lay(4), 1, 3, 4}};
+  const struct { int id, die1, die2; } cases[] = {{bet::Place(6), 2, 4}, {bet::Buy(6), 2, 4}, {bet::Lay(4), 3, 4}};
   for (const auto& c : cases) {
     Table t;
     t.g.WonBetAction = 2;  // " Same Bet - Take Winnings"
     t.Stand(c.id, 20);
     t.g.BetStatus[c.id] = 2;
     t.Dice(c.die1, c.die2, 5);
-    t.Settle(c.outcome, c.id);
+    t.Settle(Outcome::Win, c.id);
     EXPECT_EQ(t.g.BetAmount[c.id], Currency(20)) << t.g.BetName[c.id];
     EXPECT_EQ(t.g.BetStatus[c.id], 2) << t.g.BetName[c.id];
   }

@@ -46,7 +46,7 @@ void BM_HyperDriveDiceSource(benchmark::State& state) {
   StartGame(g);
   if (mode != 0) {
     // A file long enough for every timed run of playback.
-    OpenRollFile(g, path);
+    (void)OpenRollFile(g, path);
     SetRecorderStatus(g, kRecorderRecord);
     Run(g);
     SetRecorderStatus(g, mode);

@@ -6,6 +6,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -31,8 +32,8 @@ void SetUp(Game& g, int64_t layout) {
   FillDefaults(g);
   g.BankrollInitAmount = 1'000'000;
   if (layout == 1) {
-    std::string error;
-    LoadScriptFile(std::string(DICEMILL_SOURCE_DIR) + "/samples/place-6-8-press.txt", g.AutoBet, error);
+    if (!LoadScriptFile(std::string(DICEMILL_SOURCE_DIR) + "/samples/place-6-8-press.txt", g.AutoBet))
+      throw std::runtime_error("the Place 6 and 8 sample cannot be read");
     g.AutoBetActivated = true;
   }
   g.SeedRequest = 20261121;

@@ -27,7 +27,7 @@ const char* const kSamples[] = {"pass-line-full-odds", "three-point-molly", "iro
 Script LoadSample(int index) {
   Script s;
   std::string error;
-  LoadScriptFile(std::string(DICEMILL_SOURCE_DIR) + "/samples/" + kSamples[index] + ".txt", s, error);
+  (void)LoadScriptFile(std::string(DICEMILL_SOURCE_DIR) + "/samples/" + kSamples[index] + ".txt", s);
   return s;
 }
 

@@ -38,8 +38,7 @@ std::FILE* BankrollCsvWriter::MakeHiddenFile() {
   return file;
 }
 
-bool BankrollCsvWriter::Open(const std::string& path, int64_t firstSeed, int64_t firstGame, int games,
-                             std::string& error) {
+FileStatus BankrollCsvWriter::Open(const std::string& path, int64_t firstSeed, int64_t firstGame, int games) {
   path_ = path;
   firstSeed_ = firstSeed;
   firstGame_ = firstGame;
@@ -53,13 +52,13 @@ bool BankrollCsvWriter::Open(const std::string& path, int64_t firstSeed, int64_t
     out_ = fdopen(fd, "wb");
   }
   if (!out_) {
-    error = path + ": cannot be written: " + std::strerror(errno);
+    FileStatus failed = FileStatus::Failed("Error", path + ": cannot be written: " + std::strerror(errno));
     if (fd >= 0) close(fd), std::remove(tempPath_.c_str());
-    return false;
+    return failed;
   }
   parts_.resize(static_cast<size_t>(games));
   std::fputs("game,seed,roll,bankroll\n", out_);
-  return true;
+  return {};
 }
 
 void BankrollCsvWriter::Add(int64_t gameIndex, Currency bankroll) {
@@ -98,7 +97,7 @@ void BankrollCsvWriter::JoinFinishedParts() {
   }
 }
 
-bool BankrollCsvWriter::Finish(std::string& error) {
+FileStatus BankrollCsvWriter::Finish() {
   std::lock_guard<std::mutex> hold(lock_);
   for (Part& p : parts_) p.ended = p.ended || p.file;  // an interrupted batch keeps what it played
   JoinFinishedParts();
@@ -106,8 +105,9 @@ bool BankrollCsvWriter::Finish(std::string& error) {
   const int cause = failure_ != 0 ? failure_.load() : errno;
   const bool closed = std::fclose(out_) == 0;
   out_ = nullptr;
-  if (written && closed && std::rename(tempPath_.c_str(), path_.c_str()) == 0) return true;
-  error = path_ + ": could not be written: " + std::strerror(written && closed ? errno : cause);
+  if (written && closed && std::rename(tempPath_.c_str(), path_.c_str()) == 0) return {};
+  FileStatus failed =
+      FileStatus::Failed("Error", path_ + ": could not be written: " + std::strerror(written && closed ? errno : cause));
   std::remove(tempPath_.c_str());
-  return false;
+  return failed;
 }

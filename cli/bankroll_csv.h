@@ -15,17 +15,18 @@
 #include <vector>
 
 #include "sim/game_run.h"
+#include "engine/file_status.h"
 
 class BankrollCsvWriter : public BankrollSeriesOut {
  public:
   ~BankrollCsvWriter() override;
-  // Starts the output beside `path`; false, with `error` set, when the
-  // folder cannot take it.
-  bool Open(const std::string& path, int64_t firstSeed, int64_t firstGame, int games, std::string& error);
+  // Starts the output beside `path`; a failure, one line naming the path,
+  // when the folder cannot take it.
+  FileStatus Open(const std::string& path, int64_t firstSeed, int64_t firstGame, int games);
   void Add(int64_t gameIndex, Currency bankroll) override;
   void EndGame(int64_t gameIndex) override;
   // Joins what is left and renames the output over the target.
-  bool Finish(std::string& error);
+  FileStatus Finish();
 
  private:
   struct Part {

@@ -159,8 +159,8 @@ int RunGamesTool(const GamesToolOptions& o, std::ostream& out, std::ostream& err
   GamesView view;
   if (!ReadView(o, view, err)) return kExitUsage;
   std::vector<GameLogRecord> games;
-  GamesFileError failure;
-  if (!ReadGamesFile(o.file, games, failure)) {
+  if (const FileStatus read = ReadGamesFile(o.file, games); !read) {
+    const FileMessage& failure = read.Messages.front();
     const std::string text = TerminalText(failure.Text);
     err << "dicemill-cli games: " << (text.find(o.file) == std::string::npos ? o.file + ": " : "") << failure.Title
         << ": " << text << "\n";

@@ -24,14 +24,14 @@ class HeadlessFrontEnd : public FrontEnd {
   size_t PendingAnswers() const { return answers_.size(); }
 
   // The reason the last roll reported through RollFinished.
-  const std::string& StopReason() const { return stopReason_; }
-  void ClearStopReason() { stopReason_.clear(); }
+  ::StopReason LastStop() const { return stopReason_; }
+  void ClearStopReason() { stopReason_ = ::StopReason::None; }
 
   Reply ShowMessage(const std::string& title, const std::string& text, Buttons buttons) override;
   std::optional<Currency> AskNumber(const std::string& title, const std::string& text, Currency offered) override;
   std::optional<int> ShowSettleNotice(const SettleNotice& notice) override;
   void ShowThrow(int die1, int die2, int pointAfter) override;
-  void RollFinished(const std::string& stopReason) override { stopReason_ = stopReason; }
+  void RollFinished(::StopReason reason) override { stopReason_ = reason; }
   // Steps are printed and go straight on: a script's trace, not a wait.
   void ShowStepsBanner(const std::string& word) override;
   void ShowStep(int lineNumber, const std::string& text, const std::string& status) override;
@@ -52,7 +52,7 @@ class HeadlessFrontEnd : public FrontEnd {
 
   std::ostream& out_;
   std::deque<std::string> answers_;
-  std::string stopReason_;
+  ::StopReason stopReason_ = ::StopReason::None;
   Table* table_ = nullptr;
   bool (*stop_)() = nullptr;
 };

@@ -85,8 +85,8 @@ TEST(HeadlessFrontEnd, ThrowsStopReasonsAndAnswerWords) {
   Screen s;
   s.ui.ShowThrow(2, 4, 6);
   EXPECT_EQ(s.Printed(), Json::parse(R"({"rolled":{"die1":2,"die2":4,"total":6,"point":6}})"));
-  s.ui.RollFinished("Stopped by roll count on Auto-Play screen.");
-  EXPECT_EQ(s.ui.StopReason(), "Stopped by roll count on Auto-Play screen.");
+  s.ui.RollFinished(StopReason::RollCount);
+  EXPECT_EQ(s.ui.LastStop(), StopReason::RollCount);
   EXPECT_TRUE(s.out.str().empty());
   for (const char* ok : {"cancel", "samebet", "remainder", "-3", "1,000"})
     EXPECT_TRUE(HeadlessFrontEnd::IsAnswerWord(ok));

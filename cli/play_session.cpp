@@ -193,7 +193,7 @@ void PlaySession::AutoRoll(const Args& a) {
 
 void PlaySession::ReportRun(const RunResult& run) {
   Require(run);
-  WriteJsonLine(out_, {{"stopped", {{"reason", run.reason}, {"rolls", run.rolls}}}});
+  WriteJsonLine(out_, {{"stopped", {{"reason", StopReasonText(run.reason)}, {"rolls", run.rolls}}}});
 }
 
 // --- Settings ----------------------------------------------------------------
@@ -205,7 +205,7 @@ void PlaySession::Get(const Args& a) {
 }
 
 void PlaySession::Chip(const Args& a) {
-  const int n = static_cast<int>(ReadInteger(a[0], 1, 5, "N"));
+  const int n = static_cast<int>(ReadInteger(a[0], 1, bet::kChipColours, "N"));
   const Currency value = ReadAmount(a[1], "VALUE");
   if (value < kLeastUnit || value > kMostChip) throw CommandError("VALUE " + a[1] + " must be from .01 to 100,000");
   Require(table_->SetChip(n, value));

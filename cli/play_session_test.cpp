@@ -102,7 +102,7 @@ TEST(PlaySession, TableAndConfigurationCommandsReachTheGame) {
   Session s;
   const Game& g = s.play.game();
   EXPECT_TRUE(s.Run("chip 1 0.25\nchip 5 1000").empty());
-  EXPECT_EQ(g.BetAmount[95].raw, 2500);
+  EXPECT_EQ(g.BetAmount[bet::kFirstChip].raw, 2500);
   // WIN is the record's own net amount in either form; the word sets only Form.
   s.Run("payoff 62 15 2 for\nfield 21 -1 1 to");
   EXPECT_EQ(g.Payoff[62].Win, Currency(15));

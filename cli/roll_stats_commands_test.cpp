@@ -77,8 +77,7 @@ TEST(RollStatsCommands, GamesLogTakesEachFinishedGame) {
   EXPECT_EQ(s.Only("gameslog \"" + log + "\"", "gameslog"), log);
   s.Run("roll 3 4\nroll 5 5\nanswer no\nnew\nroll 1 1\nanswer no\nnew");
   std::vector<GameLogRecord> games;
-  GamesFileError error;
-  ASSERT_TRUE(ReadGamesFile(log, games, error));
+  ASSERT_TRUE(ReadGamesFile(log, games));
   ASSERT_EQ(games.size(), 2u);
   EXPECT_EQ(games[0][0], 2);
   EXPECT_EQ(games[1][0], 1);

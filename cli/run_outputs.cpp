@@ -10,7 +10,8 @@
 
 namespace {
 
-std::string OneLine(const std::string& path, const GamesFileError& failure) {
+std::string OneLine(const std::string& path, const FileStatus& status) {
+  const FileMessage& failure = status.Messages.front();
   std::string text = TerminalText(failure.Text);
   for (char& c : text)
     if (c == '\n') c = ' ';
@@ -42,9 +43,9 @@ bool CheckGamesLog(const std::string& path, std::string& error) {
   std::error_code ec;
   if (!std::filesystem::exists(path, ec)) return true;
   std::vector<GameLogRecord> games;
-  GamesFileError failure;
-  if (ReadGamesFile(path, games, failure)) return true;
-  error = OneLine(path, failure);
+  const FileStatus read = ReadGamesFile(path, games);
+  if (read) return true;
+  error = OneLine(path, read);
   return false;
 }
 
@@ -52,8 +53,8 @@ bool AppendBatchToLog(const std::string& path, const BatchResult& batch, std::st
   std::vector<GameLogRecord> records;
   records.reserve(batch.Games.size());
   for (const GameResult& r : batch.Games) records.push_back(r.LogRecord);
-  GamesFileError failure;
-  if (AppendGamesToLog(path, records, failure)) return true;
-  error = OneLine(path, failure);
+  const FileStatus appended = AppendGamesToLog(path, records);
+  if (appended) return true;
+  error = OneLine(path, appended);
   return false;
 }

@@ -231,8 +231,8 @@ int RunRunTool(const RunToolOptions& options, std::ostream& out, std::ostream& e
   RunControl control;
   std::string error;
   if (!options.bankrollCsv.empty()) {
-    if (!csv.Open(options.bankrollCsv, run.Seed, run.FirstGame, run.Games, error)) {
-      err << "dicemill-cli run: --bankroll-csv " << error << "\n";
+    if (const FileStatus opened = csv.Open(options.bankrollCsv, run.Seed, run.FirstGame, run.Games); !opened) {
+      err << "dicemill-cli run: --bankroll-csv " << opened.Messages.front().Text << "\n";
       return kExitUsage;
     }
     control.Series = &csv;
@@ -263,8 +263,10 @@ int RunRunTool(const RunToolOptions& options, std::ostream& out, std::ostream& e
     else if (!WriteJsonFile(options.jsonFile, text, error))
       err << "dicemill-cli run: " << error << "\n", written = false;
   }
-  if (!options.bankrollCsv.empty() && !csv.Finish(error))
-    err << "dicemill-cli run: --bankroll-csv " << error << "\n", written = false;
+  if (!options.bankrollCsv.empty()) {
+    if (const FileStatus finished = csv.Finish(); !finished)
+      err << "dicemill-cli run: --bankroll-csv " << finished.Messages.front().Text << "\n", written = false;
+  }
   if (!options.gamesLog.empty() && !AppendBatchToLog(options.gamesLog, batch, error))
     err << "dicemill-cli run: " << error << "\n", written = false;
   if (batch.Interrupted) return kExitInterrupted;

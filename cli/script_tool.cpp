@@ -74,9 +74,8 @@ int RunScriptTool(const CLI::App& command, const ScriptToolOptions& o, std::ostr
     return kExitFailed;
   }
   Script script;
-  std::string error;
-  if (!LoadScriptFile(o.from, script, error)) {
-    err << TerminalText(error) << "\n";
+  if (const FileStatus loaded = LoadScriptFile(o.from, script); !loaded) {
+    err << TerminalText(loaded.Messages.front().Text) << "\n";
     return kUnreadable;
   }
   if (command.got_subcommand("check")) return Check(o.from, script, out);
@@ -86,8 +85,8 @@ int RunScriptTool(const CLI::App& command, const ScriptToolOptions& o, std::ostr
     err << o.to << ": the file to write must end in .bet or .txt\n";
     return kExitUsage;
   }
-  if (!SaveScriptFile(o.to, script, error)) {
-    err << TerminalText(error) << "\n";
+  if (const FileStatus saved = SaveScriptFile(o.to, script); !saved) {
+    err << TerminalText(saved.Messages.front().Text) << "\n";
     return kExitFailed;
   }
   out << "Wrote " << script.NumLines() << " lines to " << o.to << "\n";

@@ -49,7 +49,7 @@ Json TableStateJson(const Game& g) {
       {"handStats", g.HandStats},
       {"buyVig", MoneyArray(g.BuyVigOnBet)},
       {"layVig", MoneyArray(g.LayVigOnBet)},
-      {"stopReason", g.StopReason},
+      {"stopReason", StopReasonText(g.StopReason)},
       {"rail", MoneyJson(g.Bankroll() - g.TotalOnTable)},
       {"highBankroll", MoneyJson(g.HighBankroll)},
       {"lowBankroll", MoneyJson(g.LowBankroll)},

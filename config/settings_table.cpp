@@ -8,6 +8,7 @@
 #include "dice/rng.h"
 #include "engine/catalogue.h"
 #include "engine/game.h"
+#include "engine/table_commands.h"
 
 namespace {
 
@@ -94,7 +95,7 @@ std::vector<SettingRow> BuildTable() {
       Row<&G::BankrollInitAmount>("BankrollInitAmount", -kBank, kBank, 500),
       Row<&G::AtmAmount>("AtmAmount", 0, kBank, 500),
       Row<&G::AmountInvested>("AmountInvested", -kMostBankroll, kMostBankroll, 0),
-      Row<&G::NoticeMask>("NoticeMask", 0, 31, 15),
+      Row<&G::NoticeMask>("NoticeMask", 0, kNoticeAll, kNoticeDefault),
       // Auto-Play
       Row<&G::AutoAdjustMode>("AutoAdjustMode", 0, 2, 2),
       Flag<&G::AutoTakeFullOdds>("AutoTakeFullOdds", false),
@@ -128,7 +129,7 @@ std::vector<SettingRow> BuildTable() {
       Row<&G::SimRollRate>("SimRollRate", Currency::FromRaw(1), kMostRollRate, 100),
       Row<&G::SpeedUnit>("SpeedUnit", 0, kInt32Max, 0, false),  // measured at start-up
       // The table's click tool: 1..5 checks, 7..10 tray Chip-Stacks, 89 buy, 90/91 call
-      Row<&G::ClickTool>("ClickTool", 1, 91, 1),
+      Row<&G::ClickTool>("ClickTool", kToolFirstChip, kToolCallOn, kToolFirstChip),
       // Auto-Bet
       Flag<&G::AutoBetActivated>("AutoBetActivated", false),
       Flag<&G::ShowingSteps>("ShowingSteps", false, false),

@@ -89,7 +89,7 @@ TEST(AdjustBet, TurningAModeOnAdjustsTheTable) {
   EXPECT_EQ(t.g.AutoAdjustMode, 1);
   EXPECT_EQ(t.g.BetAmount[bet::Place(6)], 12);  // place bias goes up
   EXPECT_EQ(t.g.BetAmount[bet::Lay(10)], 2);
-  EXPECT_EQ(t.g.NoticeMask, 15);
+  EXPECT_EQ(t.g.NoticeMask, kNoticeDefault);
 }
 
 }  // namespace

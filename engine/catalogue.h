@@ -14,6 +14,9 @@ constexpr int kLastTableBet = 83;
 constexpr int kRail = 93;
 constexpr int kFirstChip = 95;   // also the smallest check, the rounding unit
 constexpr int kLastChip = 99;
+// The five check colours, 1 the smallest, are the chip slots in order.
+constexpr int kChipColours = kLastChip - kFirstChip + 1;
+constexpr int ChipSlot(int colour) { return kFirstChip - 1 + colour; }
 constexpr int kFirstStack = 100;
 constexpr int kLastStack = 199;
 constexpr int kSlots = 201;      // 0..200
@@ -45,6 +48,8 @@ constexpr int kComeNumberBase = 19;
 constexpr int kComeOddsBase = 25;
 constexpr int kPlaceBase = 31;
 constexpr int kBuyBase = 37;
+// The odds of a Come or Don't Come number stand one group above it.
+constexpr int kOddsAboveNumber = kComeOddsBase - kComeNumberBase;
 
 constexpr std::array<int, 6> kNumbers = {4, 5, 6, 8, 9, 10};
 
@@ -60,6 +65,11 @@ constexpr int Come(int n) { return kComeNumberBase + NumberIndex(n); }
 constexpr int ComeOdds(int n) { return kComeOddsBase + NumberIndex(n); }
 constexpr int Place(int n) { return kPlaceBase + NumberIndex(n); }
 constexpr int Buy(int n) { return kBuyBase + NumberIndex(n); }
+// The odds of a Come or Don't Come number bet.
+constexpr int OddsOf(int numberId) { return numberId + kOddsAboveNumber; }
+// The Place and Buy bets of the number a Come number bet stands on.
+constexpr int PlaceOfCome(int comeId) { return comeId - kComeNumberBase + kPlaceBase; }
+constexpr int BuyOfCome(int comeId) { return comeId - kComeNumberBase + kBuyBase; }
 
 constexpr bool InRange(int id, int lo, int hi) { return id >= lo && id <= hi; }
 constexpr bool IsTableBet(int id) { return InRange(id, kFirstTableBet, kLastTableBet); }
@@ -78,7 +88,7 @@ constexpr bool IsOneRoll(int id) { return id == kField || InRange(id, 56, 83); }
 constexpr bool IsOdds(int id) { return id == kPassOdds || id == kDontPassOdds || IsComeOdds(id) || IsDontComeOdds(id); }
 // The flat bet beneath an odds bet.
 constexpr int ParentOf(int oddsId) {
-  return oddsId == kPassOdds ? kPassLine : oddsId == kDontPassOdds ? kDontPass : oddsId - 6;
+  return oddsId == kPassOdds ? kPassLine : oddsId == kDontPassOdds ? kDontPass : oddsId - kOddsAboveNumber;
 }
 
 // The two totals of Hop bet id (67..83), lower face first.

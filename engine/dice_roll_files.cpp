@@ -197,19 +197,16 @@ void OfferRewind(Game& g) {
   if (reply == Reply::Yes || reply == Reply::No) g.Ui->RefreshTable();
 }
 
-bool OpenRollFile(Game& g, const std::string& path) {
+FileStatus OpenRollFile(Game& g, const std::string& path) {
   DiceRollFile probe;
-  if (path.empty() || !probe.Open(path, true)) {
-    ShowFileNameError(g);
-    return false;
-  }
+  if (path.empty() || !probe.Open(path, true)) return FileNameErrorStatus();
   probe.Close();
   DiceFileState& d = g.DiceFile;
   d.File.Open(path, false);
   d.RollFileName = path;
   d.NextRollNum = d.SelectAnchor = d.TopRollNum = 1;
   d.LastRollNum = 0;
-  return true;
+  return {};
 }
 
 void CloseRollFile(Game& g) {
@@ -315,42 +312,40 @@ bool PasteClipboard(Game& g) {
   return PasteAtCaret(g, clip, FileLength(clip));
 }
 
-bool CopyToRollFile(Game& g, const std::string& path) {
-  if (!g.DiceFile.File.IsOpen()) return false;
+namespace {
+// A step that failed with nothing to tell.
+FileStatus Untold(bool done) { return {done, {}}; }
+}  // namespace
+
+FileStatus CopyToRollFile(Game& g, const std::string& path) {
+  if (!g.DiceFile.File.IsOpen()) return Untold(false);
   std::error_code ec;
   if (fs::exists(path, ec)) {
     const Reply reply = ShowMessage(g, "Copy To Dice Roll File",
                                     path + " is already on file." + kBreak + "Do you want to copy over it?",
                                     Buttons::YesNo);
-    if (reply != Reply::Yes) return false;
+    if (reply != Reply::Yes) return Untold(false);
   }
-  if (CopyRange(g, path)) return true;
-  ShowFileNameError(g);
-  return false;
+  if (CopyRange(g, path)) return {};
+  return FileNameErrorStatus();
 }
 
-bool PasteFromRollFile(Game& g, const std::string& path) {
-  if (!g.DiceFile.File.IsOpen()) return false;
+FileStatus PasteFromRollFile(Game& g, const std::string& path) {
+  if (!g.DiceFile.File.IsOpen()) return Untold(false);
   const int64_t count = FileLength(path);
-  if (count < 0) {
-    ShowFileNameError(g);
-    return false;
-  }
-  return PasteAtCaret(g, path, count);
+  if (count < 0) return FileNameErrorStatus();
+  return Untold(PasteAtCaret(g, path, count));
 }
 
-bool PasteFromTextFile(Game& g, const std::string& path) {
-  if (!g.DiceFile.File.IsOpen()) return false;
+FileStatus PasteFromTextFile(Game& g, const std::string& path) {
+  if (!g.DiceFile.File.IsOpen()) return Untold(false);
   const std::string temp = EditFilePath(g, kTextConvertName);
   const int64_t count = ConvertTextToRolls(path, temp);
-  if (count < 0) {
-    ShowFileNameError(g);
-    return false;
-  }
+  if (count < 0) return FileNameErrorStatus();
   const bool pasted = PasteAtCaret(g, temp, count);
   std::error_code ec;
   fs::remove(temp, ec);
-  return pasted;
+  return Untold(pasted);
 }
 
 std::string RollTextLine(int64_t number, int die1, int die2, const RollTextOptions& options) {
@@ -368,13 +363,13 @@ std::string RollTextLine(int64_t number, int die1, int die2, const RollTextOptio
   return line;
 }
 
-bool CopyToTextFile(Game& g, const std::string& path, const RollTextOptions& options) {
-  if (!g.DiceFile.File.IsOpen()) return false;
+FileStatus CopyToTextFile(Game& g, const std::string& path, const RollTextOptions& options) {
+  if (!g.DiceFile.File.IsOpen()) return Untold(false);
   if (!options.dieNums && !options.numbersCalled) {
-    ShowMessage(g, "Copy Dice Rolls To Text File",
-                std::string("You must check at least one of the following boxes found under Output Options:") +
-                    kBreak + "        Include individual die #'s" + kBreak + "        Include numbers called");
-    return false;
+    return FileStatus::Failed(
+        "Copy Dice Rolls To Text File",
+        std::string("You must check at least one of the following boxes found under Output Options:") + kBreak +
+            "        Include individual die #'s" + kBreak + "        Include numbers called");
   }
   const RollRange r = Selection(g);
   int64_t firstNumber = r.first;
@@ -385,9 +380,8 @@ bool CopyToTextFile(Game& g, const std::string& path, const RollTextOptions& opt
                   Buttons::YesNo) == Reply::Yes)
     firstNumber = 1;
   g.DiceFile.File.Flush();
-  if (WriteRollsAsText(g.DiceFile.RollFileName, r.first, r.count, firstNumber, options, path) >= 0) return true;
-  ShowFileNameError(g);
-  return false;
+  if (WriteRollsAsText(g.DiceFile.RollFileName, r.first, r.count, firstNumber, options, path) >= 0) return {};
+  return FileNameErrorStatus();
 }
 
 int64_t ConvertTextToRolls(const std::string& textPath, const std::string& rolPath) {

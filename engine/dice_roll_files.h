@@ -7,13 +7,13 @@
 #include <cstdint>
 #include <string>
 
+#include "engine/file_status.h"
+
 struct Game;
 
 constexpr size_t kBlockBytes = 30000;
 constexpr int kRecorderOff = 0, kRecorderRecord = 1, kRecorderPlayback = 2;
 
-inline constexpr const char* kEndOfRollFileReason = "Stopped due to end of Dice Roll File reached.";
-inline constexpr const char* kOutOfLimitsReason = "Stopped due to Dice Roll File value out of limits.";
 inline constexpr const char* kClipboardName = "copyfile.rll";
 inline constexpr const char* kTextConvertName = "cnvrtasc.xx~";
 
@@ -38,9 +38,9 @@ bool SetRecorderStatus(Game& g, int status);
 // The question when recording or playback stops.
 void OfferRewind(Game& g);
 
-// Opens a Dice Roll File, creating an empty one when the name is new; shows
-// the file-name error and changes nothing when it cannot.
-bool OpenRollFile(Game& g, const std::string& path);
+// Opens a Dice Roll File, creating an empty one when the name is new; the
+// file-name error, and nothing changed, when it cannot.
+FileStatus OpenRollFile(Game& g, const std::string& path);
 void CloseRollFile(Game& g);
 int64_t TotalRolls(Game& g);
 // The selection: rolls [first, first + count).
@@ -69,9 +69,11 @@ bool CutSelection(Game& g);
 bool DeleteSelection(Game& g);
 bool ClipboardHasRolls(const Game& g);
 bool PasteClipboard(Game& g);
-bool CopyToRollFile(Game& g, const std::string& path);
-bool PasteFromRollFile(Game& g, const std::string& path);
-bool PasteFromTextFile(Game& g, const std::string& path);
+// Copies and pastes to and from other files. A failure with no message is
+// the player's own No, or no file open; a file that cannot be used is told.
+FileStatus CopyToRollFile(Game& g, const std::string& path);
+FileStatus PasteFromRollFile(Game& g, const std::string& path);
+FileStatus PasteFromTextFile(Game& g, const std::string& path);
 
 struct RollTextOptions {
   bool rollNums = true;        // chkRollNums
@@ -80,7 +82,7 @@ struct RollTextOptions {
 };
 // Writes the selection as text, one line per roll; refuses when neither the
 // dice nor the numbers called are wanted.
-bool CopyToTextFile(Game& g, const std::string& path, const RollTextOptions& options);
+FileStatus CopyToTextFile(Game& g, const std::string& path, const RollTextOptions& options);
 
 // File-to-file conversions, with no game: every "1".."6" of the text counts,
 // paired as Die1 then Die2; an unpaired last digit is dropped. The target is

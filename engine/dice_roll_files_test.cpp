@@ -130,7 +130,7 @@ TEST(DiceRollFiles, RecordedRunPlaysBackTheSameDiceAndBankroll) {
   play.answers.replies = {Reply::Yes};
   play.RollOnce();
   EXPECT_EQ(play.g.RollCounts[0], kRolls);
-  EXPECT_EQ(play.answers.stopReason, kEndOfRollFileReason);
+  EXPECT_EQ(play.answers.stopReason, StopReason::EndOfRollFile);
   EXPECT_EQ(play.answers.messages.back(), (RecordedMessage{"Dice Roll File", "Playback stopped.\rRewind for playback?"}));
   EXPECT_EQ(play.g.DiceFile.NextRollNum, 1);
   EXPECT_EQ(play.g.DiceFileMode, kRecorderPlayback);
@@ -142,7 +142,7 @@ TEST(DiceRollFiles, RecordedRunPlaysBackTheSameDiceAndBankroll) {
   EXPECT_LE(play.g.DiceFile.File.Seeks() - seeksBefore, 2);  // one byte read per roll, no seek
   EXPECT_FALSE(play.g.HyperDriveOn);
   const auto& m = play.answers.messages;
-  EXPECT_EQ(m[m.size() - 2], (RecordedMessage{"Hyper-Drive Stopped", kEndOfRollFileReason}));
+  EXPECT_EQ(m[m.size() - 2], (RecordedMessage{"Hyper-Drive Stopped", "Stopped due to end of Dice Roll File reached."}));
   EXPECT_EQ(m.back().title, "Dice Roll File");
   EXPECT_EQ(play.g.DiceFileMode, kRecorderPlayback);  // Cancel changes nothing
 }
@@ -157,7 +157,7 @@ TEST(DiceRollFiles, OutOfLimitsAndEmptyFileStopWithoutRolling) {
   EXPECT_EQ(t.g.Die2, 1);
   t.RollOnce();
   EXPECT_EQ(t.g.RollCounts[0], 1);
-  EXPECT_EQ(t.answers.stopReason, kOutOfLimitsReason);
+  EXPECT_EQ(t.answers.stopReason, StopReason::RollFileOutOfLimits);
   EXPECT_EQ(t.g.DiceFileMode, kRecorderOff);
   EXPECT_EQ(t.g.DiceFile.NextRollNum, 2);  // the position stays on the bad byte
   EXPECT_EQ(t.answers.messages.back(),
@@ -179,8 +179,11 @@ TEST(DiceRollFiles, OutOfLimitsAndEmptyFileStopWithoutRolling) {
   FileTable none;
   EXPECT_FALSE(SetRecorderStatus(none.g, kRecorderRecord));
   EXPECT_EQ(none.Last(), (RecordedMessage{"Record Dice Rolls During Game Play", "You need to open a file first."}));
-  EXPECT_FALSE(OpenRollFile(none.g, (none.Path("no-such-dir") / "x.rol").string()));
-  EXPECT_EQ(none.Last(), (RecordedMessage{"Error", "File name error, file not found, or device error.\rCheck path and file name."}));
+  const FileStatus missing = OpenRollFile(none.g, (none.Path("no-such-dir") / "x.rol").string());
+  EXPECT_FALSE(missing.Ok);
+  const std::vector<FileMessage> nameError{
+      {"Error", "File name error, file not found, or device error.\rCheck path and file name."}};
+  EXPECT_EQ(missing.Messages, nameError);
 }
 
 TEST(DiceRollFiles, RecordingTypesOverAndHandEntryInserts) {
@@ -262,8 +265,9 @@ TEST(DiceRollFiles, TextConversionAndCopyToTextOptions) {
   ASSERT_TRUE(CopyToTextFile(t.g, t.Path("out.txt").string(), {true, false, true}));
   EXPECT_EQ(ReadAll(t.Path("out.txt")), "1- 7\n");
 
-  EXPECT_FALSE(CopyToTextFile(t.g, t.Path("none.txt").string(), {true, false, false}));
-  EXPECT_EQ(t.Last().text,
+  const FileStatus refused = CopyToTextFile(t.g, t.Path("none.txt").string(), {true, false, false});
+  EXPECT_FALSE(refused.Ok);
+  EXPECT_EQ(refused.Messages.at(0).Text,
             "You must check at least one of the following boxes found under Output Options:\r        Include "
             "individual die #'s\r        Include numbers called");
   EXPECT_FALSE(std::filesystem::exists(t.Path("none.txt")));

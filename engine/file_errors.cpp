@@ -6,7 +6,7 @@ std::string FileNameErrorText() {
   return std::string("File name error, file not found, or device error.") + kBreak + "Check path and file name.";
 }
 
-void ShowFileNameError(Game& g) { ShowMessage(g, "Error", FileNameErrorText()); }
+FileStatus FileNameErrorStatus() { return FileStatus::Failed("Error", FileNameErrorText()); }
 
 namespace {
 
@@ -44,6 +44,6 @@ std::string FileErrorText(const std::filesystem::path& path, const std::string& 
   return PrintableName(path) + " " + reason + "." + kBreak + FileNameErrorText();
 }
 
-void ShowFileError(Game& g, const std::filesystem::path& path, const std::string& reason) {
-  ShowMessage(g, "Error", FileErrorText(path, reason));
+FileStatus FileErrorStatus(const std::filesystem::path& path, const std::string& reason) {
+  return FileStatus::Failed("Error", FileErrorText(path, reason));
 }

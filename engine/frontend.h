@@ -2,14 +2,20 @@
 // What the engine needs of a screen. The engine never calls a GUI toolkit; a
 // desktop window, the headless `play` front end and tests all implement this.
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "dice/money.h"
+#include "engine/stop_reason.h"
 
 enum class Buttons { Ok, YesNo, YesNoCancel };
 enum class Reply { Ok, Yes, No, Cancel };
+
+// An answer the table keeps: the last save prompt's (MsgReply) and the
+// script's last Yes/No question (LastAnswer). Game files keep the numbers.
+enum class Answer : int32_t { None = 1, Cancel = 2, Yes = 6, No = 7 };
 
 // The won and lost notices of settlement: rows of a left label and a right
 // amount, a title and the buttons the player may answer with.
@@ -35,8 +41,8 @@ class FrontEnd {
   // A visible throw has landed: the dice are drawn before anything is settled.
   virtual void ShowThrow(int /*die1*/, int /*die2*/, int /*pointAfter*/) {}
   // The last step of RollDice, before a visible table forgets StopReason:
-  // the reason a run ended, or "" when it simply ran out of rolls to make.
-  virtual void RollFinished(const std::string& /*stopReason*/) {}
+  // the reason a run ended, or a start refused.
+  virtual void RollFinished(StopReason /*reason*/) {}
   virtual void PlaySound(int /*slot*/) {}
   virtual void PlaySoundFile(const std::string& /*name*/) {}
   virtual void RedrawBet(int /*betId*/) {}

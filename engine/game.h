@@ -13,13 +13,16 @@
 #include "dice/dice_state.h"
 #include "dice/money.h"
 #include "engine/catalogue.h"
+#include "engine/hand_counters.h"
 #include "engine/frontend.h"
 #include "engine/game_file_extras.h"
 #include "engine/game_hooks.h"
 #include "engine/hot_key_binding.h"
+#include "engine/notices.h"
 #include "engine/script.h"
 #include "engine/settlement_log.h"
 #include "engine/sound_sets.h"
+#include "engine/stop_reason.h"
 
 // A payoff: a winner nets Win for each Per bet. Form -1 shows it as "Win to
 // Per", 0 as "Win+Per for Per"; it never changes the money.
@@ -69,21 +72,20 @@ struct Game : DiceState {
   bool KeepRolling = false;
   bool HyperDriveOn = false;
   bool DiceAlreadySet = false;
-  std::string StopReason;
-  int32_t NoticeMask = 15;  // 1 refusals, 2 limits, 4 vig and change, 8/16 script
+  ::StopReason StopReason = ::StopReason::None;
+  int32_t NoticeMask = kNoticeDefault;  // bits kNotice*
   bool MovingBet = false;
   bool TableDirty = false;
   bool TableUsed = false;
   bool GameChanged = false;
   Currency BetChange;          // input of PlaceBet
   Currency BetChangeAllowed;   // output of PlaceBet
-  std::array<int32_t, 20> HandStats{};
+  std::array<int32_t, hand::kCount> HandStats{};
   SettlementLog Settlements;  // this roll's decisions, cleared as the dice go out
   std::string MsgText, MsgTitle;  // the pending message
   std::string ErrorText;          // pending run-time error text, shown by the roll
 
-  // What a click on a bet does: 1..5 add check 95..99, 7..10 add the
-  // Chip-Stack TrayStack[tool - 6] holds, 89 buy, 90 call OFF, 91 call ON.
+  // What a click on a bet does: a kTool* of engine/table_commands.h.
   int32_t ClickTool = 1;
   std::array<int32_t, 5> TrayStack{0, 101, 102, 103, 104};
 
@@ -224,7 +226,7 @@ struct Game : DiceState {
   bool ShowingSteps = false;      // every step of a pass waits on the steps viewer
   bool HotKeyRun = false;         // this pass was started by a Hot-Key
   bool InitPending = false;       // the script changed: its first cycle is due
-  int32_t LastAnswer = 1;         // 6 Yes, 7 No to the script's last question
+  Answer LastAnswer = Answer::None;  // to the script's last question
   int32_t RollCountAfterPass = 0; // the roll count as the last pass ended
   std::string MessageBuffer;      // a run of message lines being built
   std::ofstream ScriptOutput;     // the script's output file, kept between passes
@@ -241,7 +243,7 @@ struct Game : DiceState {
   bool ScriptDirty = false;
   std::string GameFileName;       // the game's own file; empty for the default game
   std::string TableCaption = "Dicemill";
-  int32_t MsgReply = 1;           // the last save prompt's answer: 6 Yes, 7 No, 2 Cancel, 1 nothing asked
+  Answer MsgReply = Answer::None;  // the last save prompt's answer; None: nothing asked
   std::vector<HotKeyBinding> HotKeys;
   SoundSets Sounds;
   GameFileExtras FileExtras;      // what a game file holds that this program does not use

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "dice/money.h"
+#include "engine/file_status.h"
 
 struct Game;
 struct SettleNotice;
@@ -40,8 +41,8 @@ struct GameHooks {
   void (*BankrollSet)(Game& g) = nullptr;
 
   // --- Files ---------------------------------------------------------------------
-  // Opens a script file into the game, as the script's own open does. False
-  // with `error` set when the file can't be used; with no hook a game file's
-  // script link opens nothing.
-  bool (*OpenScriptFile)(Game& g, const std::string& path, std::string& error) = nullptr;
+  // Opens a script file into the game, as the script's own open does,
+  // handing back what to tell; with no hook a game file's script link opens
+  // nothing.
+  FileStatus (*OpenScriptFile)(Game& g, const std::string& path) = nullptr;
 };

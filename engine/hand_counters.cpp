@@ -19,39 +19,40 @@ void Sound(Game& g, int slot) {
 
 void LineWin(Game& g) {
   auto& h = g.HandStats;
-  ++h[1];
-  ++h[10];
-  ++h[g.PointBeforeRoll > 0 ? 8 : 9];
+  ++h[hand::kWins];
+  ++h[hand::kAllWins];
+  ++h[g.PointBeforeRoll > 0 ? hand::kPointsMade : hand::kComeOutWins];
   Sound(g, kSoundLineWin);
 }
 
 void LineLoss(Game& g) {
+  using namespace hand;
   auto& h = g.HandStats;
-  ++h[15];
-  ++h[13];
+  ++h[kLossesInRow];
+  ++h[kAllLosses];
   if (g.PointBeforeRoll > 0) {  // a seven-out ends the hand
-    ++h[11];
-    ++h[2];
-    h[3] = std::max(h[3], h[0]);
-    h[4] = std::max(h[4], h[1]);
-    h[5] += h[0];
-    h[6] += h[1];
-    h[16] = std::max(h[16], h[15]);
-    h[17] = h[0];
-    h[0] = 0;
-    h[18] = h[1];
-    h[1] = 0;
-    h[19] = h[15];
-    h[15] = 0;
+    ++h[kSevenOuts];
+    ++h[kHands];
+    h[kMostRolls] = std::max(h[kMostRolls], h[kRolls]);
+    h[kMostWins] = std::max(h[kMostWins], h[kWins]);
+    h[kRollsOfHands] += h[kRolls];
+    h[kWinsOfHands] += h[kWins];
+    h[kMostLossesInRow] = std::max(h[kMostLossesInRow], h[kLossesInRow]);
+    h[kLastHandRolls] = h[kRolls];
+    h[kRolls] = 0;
+    h[kLastHandWins] = h[kWins];
+    h[kWins] = 0;
+    h[kLastHandLossesInRow] = h[kLossesInRow];
+    h[kLossesInRow] = 0;
   } else {
-    ++h[12];
+    ++h[kComeOutLosses];
   }
   Sound(g, kSoundLineLoss);
 }
 
 void LineBarred(Game& g) {
-  ++g.HandStats[15];
-  ++g.HandStats[13];
-  ++g.HandStats[12];
+  ++g.HandStats[hand::kLossesInRow];
+  ++g.HandStats[hand::kAllLosses];
+  ++g.HandStats[hand::kComeOutLosses];
   Sound(g, kSoundBarred);
 }

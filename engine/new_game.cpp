@@ -76,7 +76,7 @@ void NewGame(Game& g, bool keepChipStacks) {
   g.HighBankroll = g.LowBankroll = bankroll;
   g.BankrollSum = 0;
   g.RollCountLeft = g.RollCountStop;
-  g.StopReason.clear();
+  g.StopReason = StopReason::None;
   g.Point = g.PointBeforeRoll = g.PointTwoRollsAgo = 0;
   g.TotalOnTable = 0;
   g.TableUsed = false;

@@ -11,13 +11,13 @@ TEST(NewGame, ClearsTheTableAndKeepsTheSettings) {
   g.BetAmount[bet::kField] = g.TotalOnTable = 5;
   g.BetAmount[101] = 7;
   g.BetName[101] = "Press fund";
-  g.RollCounts[0] = g.HandStats[0] = 3;
+  g.RollCounts[0] = g.HandStats[hand::kRolls] = 3;
   g.RollCountStop = 4;
   g.Point = 6;
   g.WorkOnComeOut[bet::Place(6)] = 1;
   g.Payoff[bet::Place(6)].Win = 8;
   NewGame(g, true);
-  EXPECT_EQ(g.BetAmount[bet::kField] + g.TotalOnTable + g.RollCounts[0] + g.HandStats[0], 0);
+  EXPECT_EQ(g.BetAmount[bet::kField] + g.TotalOnTable + g.RollCounts[0] + g.HandStats[hand::kRolls], 0);
   EXPECT_EQ(g.Point, 0);
   EXPECT_EQ(g.BetAmount[101], Currency(7));  // kept stacks keep money and name
   EXPECT_EQ(g.BetName[101], "Press fund");

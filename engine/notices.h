@@ -13,6 +13,9 @@ constexpr int kNoticeLimits = 2;    // " Betting limits reached"
 constexpr int kNoticeCharges = 4;   // " Charges and/or change"
 constexpr int kNoticeScript = 8;    // " Auto-Bet messages normal play"
 constexpr int kNoticeScriptHyper = 16;
+// A new table shows everything but script messages under Hyper-Drive.
+constexpr int kNoticeDefault = kNoticeRefusals | kNoticeLimits | kNoticeCharges | kNoticeScript;
+constexpr int kNoticeAll = kNoticeDefault | kNoticeScriptHyper;
 
 // Line breaks inside a message are carriage returns.
 inline constexpr const char* kBreak = "\r";

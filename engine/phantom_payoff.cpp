@@ -41,8 +41,8 @@ PhantomFigure WithVig(Currency raw, Currency vig, bool chargeAll) {
 
 }  // namespace
 
-PhantomFigure FigurePhantomInFull(const Game& g, int betId, int outcome) {
-  const bool won = outcome > 0;
+PhantomFigure FigurePhantomInFull(const Game& g, int betId, Outcome outcome) {
+  const bool won = IsWin(outcome);
   if (bet::IsLay(betId)) {
     const Currency share = UnitShare(g.Payoff[betId]);
     return WithVig(won ? share : -kUnit, MulRatio(share, g.LayVigRate.ToDouble()), g.ChargeAllLay);

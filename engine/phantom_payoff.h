@@ -8,6 +8,7 @@
 
 #include "engine/game.h"
 #include "engine/result_cells.h"
+#include "engine/settle.h"
 
 struct PhantomFigure {
   Currency Stake;  // 1, plus the vig where it is paid
@@ -22,15 +23,15 @@ inline Currency UnitShare(const PayoffRecord& record) {
 }
 
 // The rarer cases: a Lay or Buy, and a won line or split bet.
-PhantomFigure FigurePhantomInFull(const Game& g, int betId, int outcome);
+PhantomFigure FigurePhantomInFull(const Game& g, int betId, Outcome outcome);
 
-inline PhantomFigure FigurePhantom(const Game& g, int betId, int outcome) {
+inline PhantomFigure FigurePhantom(const Game& g, int betId, Outcome outcome) {
   const Currency unit = 1;
   if (betId == bet::kField) return {unit, UnitShare(g.FieldPayoff[bet::FieldRow(g.Die1, g.Die2)])};
   if (betId <= bet::kBuyBase + 5) {
     if (bet::IsLay(betId) || bet::IsBuy(betId)) return FigurePhantomInFull(g, betId, outcome);
   }
-  if (outcome <= 0) return {unit, -unit};
+  if (!IsWin(outcome)) return {unit, -unit};
   switch (betId) {
     case bet::kPassLine:
     case bet::kPassOdds:
@@ -44,7 +45,7 @@ inline PhantomFigure FigurePhantom(const Game& g, int betId, int outcome) {
 }
 
 // Figures and books the phantom unit of betId, when one stands there.
-inline void BookPhantomResult(Game& g, int betId, int outcome) {
+inline void BookPhantomResult(Game& g, int betId, Outcome outcome) {
   if (!results::PhantomStands(g, betId)) return;
   const PhantomFigure f = FigurePhantom(g, betId, outcome);
   results::BookEntry(g, results::kPhantom, betId, f.Stake, f.Net);

@@ -30,10 +30,10 @@ TEST(PhantomPayoff, FiguresAsTheSettlingAndStakesAsTheBooking) {
         for (int d2 = 1; d2 <= 6; ++d2) {
           t.Dice(d1, d2, point);
           for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id)
-            for (int outcome : {1, 2, -1, -2}) {
+            for (Outcome outcome : {Outcome::Win, Outcome::OddsWin, Outcome::Loss, Outcome::OddsLoss}) {
               const PhantomFigure f = FigurePhantom(t.g, id, outcome);
               FigurePayoff(t.g, 0, id, outcome, 1);
-              ASSERT_EQ(f.Net, t.g.RawPayoff) << "bet " << id << " outcome " << outcome << " dice " << d1 << d2
+              ASSERT_EQ(f.Net, t.g.RawPayoff) << "bet " << id << " outcome " << static_cast<int>(outcome) << " dice " << d1 << d2
                                               << " point " << point << " variant " << variant;
               Game::BetResultTable& wagers = t.g.BetWagers;
               wagers[kPhantom][id][kMark] = 1;  // let a Come or Don't Come unit stand

@@ -262,7 +262,7 @@ TEST(PlaceBetOnTable, AutomaticOddsAndSetBetToMaximum) {
   SetBetToMaximum(u.g, bet::kPassOdds);
   EXPECT_EQ(u.g.BetAmount[bet::kPassOdds], 20);
   EXPECT_EQ(u.g.BetChangeAllowed, 20);
-  EXPECT_EQ(u.g.NoticeMask, 15);
+  EXPECT_EQ(u.g.NoticeMask, kNoticeDefault);
   EXPECT_EQ(u.g.MsgText, refusal);
   u.g.AllowNegativeBankroll = false;
   u.g.Bankroll() = 22;

@@ -24,8 +24,6 @@ constexpr int kSoundNewShooter = 18;
 constexpr int kStopOnWin = 0;
 constexpr int kStopOnLoss = 1;
 
-const std::string kResetTail = "Select \"New\" from the \"Game\" menu to reset the table.";
-
 void Stop(Game& g) { g.KeepRolling = false; }
 
 void Sound(Game& g, int slot) {
@@ -68,9 +66,6 @@ void AfterPointMoved(Game& g) {
   if (passLine && g.AutoRemovePlaceBets) TakeDownBet(g, bet::Place(g.Point));
 }
 
-// The reset tail follows every stop text after two line breaks.
-std::string WithTail(const std::string& text) { return text + kTwoBreaks + kResetTail; }
-
 // Hyper-Drive paces itself by burning a counted loop.
 void BurnPaceLoop(const Game& g) {
   const int64_t passes = int64_t{g.ThrottleValue} * g.ThrottleValue * g.SpeedUnit;
@@ -80,7 +75,7 @@ void BurnPaceLoop(const Game& g) {
 
 void LeaveHyperDrive(Game& g) {
   g.HyperDriveOn = false;
-  if (!g.StopReason.empty()) ShowMessage(g, "Hyper-Drive Stopped", g.StopReason);
+  if (g.StopReason != StopReason::None) ShowMessage(g, "Hyper-Drive Stopped", StopReasonText(g.StopReason));
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) g.Ui->RedrawBet(id);
   for (int id = bet::kFirstStack; id <= bet::kLastStack; ++id) g.Ui->RedrawBet(id);
   g.TableDirty = true;
@@ -96,9 +91,9 @@ void AutoRollWait(Game& g) {
 }
 
 void Finish(Game& g) {
-  if (g.StopReason == kEndOfRollFileReason && !g.Ui->IsMinimised()) OfferRewind(g);
+  if (g.StopReason == StopReason::EndOfRollFile && !g.Ui->IsMinimised()) OfferRewind(g);
   g.Ui->RollFinished(g.StopReason);
-  if (!g.Ui->IsMinimised()) g.StopReason.clear();
+  if (!g.Ui->IsMinimised()) g.StopReason = StopReason::None;
   if (g.Point == 0) PlayComeOutSound(g);
   g.RollInProgress = false;
 }
@@ -128,7 +123,7 @@ bool GetDice(Game& g) {
     const FileRoll got = NextRollFromFile(g);
     if (got == FileRoll::Rolled) return true;
     Stop(g);
-    g.StopReason = got == FileRoll::EndOfFile ? kEndOfRollFileReason : kOutOfLimitsReason;
+    g.StopReason = got == FileRoll::EndOfFile ? StopReason::EndOfRollFile : StopReason::RollFileOutOfLimits;
     return false;
   }
   DrawDice(g, g.RollCounts[0], g.ErrorText);
@@ -141,7 +136,7 @@ bool GetDice(Game& g) {
 
 void MovePoint(Game& g) {
   const int next = NextPoint(g.Point, g.DiceTotal);
-  if (g.Point == 0 && next != 0) ++g.HandStats[7];
+  if (g.Point == 0 && next != 0) ++g.HandStats[hand::kPointsEstablished];
   g.Point = next;
 }
 
@@ -158,8 +153,8 @@ void Throw(Game& g) {
 
   if (g.Hooks.DiceCounted) g.Hooks.DiceCounted(g);
   g.GameChanged = true;
-  ++g.HandStats[0];
-  if (g.PointBeforeRoll == 0) ++g.HandStats[14];
+  ++g.HandStats[hand::kRolls];
+  if (g.PointBeforeRoll == 0) ++g.HandStats[hand::kComeOutRolls];
 
   TestStopOnRoll(g, SettleTheThrow(g));
 
@@ -178,7 +173,7 @@ void Throw(Game& g) {
 
   if (g.RollCountLeft > 0 && --g.RollCountLeft == 0) {
     Stop(g);
-    if (g.HyperDriveOn && g.StopReason.empty()) g.StopReason = "Stopped by roll count on Auto-Play screen.";
+    if (g.HyperDriveOn && g.StopReason == StopReason::None) g.StopReason = StopReason::RollCount;
     g.RollCountLeft = g.RollCountStop;
   }
 }
@@ -187,23 +182,21 @@ void Throw(Game& g) {
 bool BelowMaxRolls(Game& g) {
   if (g.RollCounts[0] < MaxRolls) return true;
   Stop(g);
-  const std::string limit = FormatWithCommas(MaxRolls);
   if (g.HyperDriveOn)
-    g.StopReason = WithTail("Stopped due to reaching the maximum limit of " + limit + " rolls.");
+    g.StopReason = StopReason::MaxRolls;
   else
     ShowMessage(g, "Reached Maximum Roll Limit",
-                WithTail("Sorry ... you've reached the maximum limit of " + limit + " rolls."));
+                WithResetTail("Sorry ... you've reached the maximum limit of " + FormatWithCommas(MaxRolls) + " rolls."));
   return false;
 }
 
-// The dialog of the bank limit; returns its text.
-std::string ShowBankLimit(Game& g) {
+// The dialog of the bank limit; returns the refusal whose text it shows.
+StopReason ShowBankLimit(Game& g) {
   const bool won = g.Bankroll() > 0;
-  const std::string text =
-      WithTail((won ? "You broke the bank limit of " : "You've exceeded the max loss limit of ") + Dollars(BankLimit));
+  const StopReason refusal = won ? StopReason::StartRefusedBankLimit : StopReason::StartRefusedMaxLoss;
   g.Ui->PlaySoundFile("Chips.wav");
-  ShowMessage(g, won ? "Congratulations!" : "Sorry ... this wasn't your lucky day.", text);
-  return text;
+  ShowMessage(g, won ? "Congratulations!" : "Sorry ... this wasn't your lucky day.", StopReasonText(refusal));
+  return refusal;
 }
 
 // A start beyond the bank limit is refused alike however it was asked for:
@@ -211,9 +204,8 @@ std::string ShowBankLimit(Game& g) {
 void RefuseStart(Game& g) {
   Stop(g);
   g.HyperDriveOn = false;
-  const std::string text = ShowBankLimit(g);
-  g.Ui->RollFinished(text);
-  g.StopReason.clear();
+  g.Ui->RollFinished(ShowBankLimit(g));
+  g.StopReason = StopReason::None;
 }
 
 }  // namespace
@@ -233,7 +225,7 @@ void RollDice(Game& g) {
   }
   g.TableUsed = true;
   g.RollInProgress = true;
-  g.StopReason.clear();
+  g.StopReason = StopReason::None;
 
   for (;;) {
     if (BelowMaxRolls(g)) Throw(g);
@@ -269,8 +261,8 @@ void MoveBet(Game& g, int fromBet, int toBet) {
   g.MovingBet = false;
   g.BetCommitted[toBet] = amount;  // at once a contract bet on its number
   if (bet::IsComeNumber(toBet) && g.AutoRemovePlaceBets) {
-    TakeDownBet(g, toBet + 12);  // the Place bet of the number
-    TakeDownBet(g, toBet + 18);  // and its Buy bet
+    TakeDownBet(g, bet::PlaceOfCome(toBet));
+    TakeDownBet(g, bet::BuyOfCome(toBet));
   }
   g.DisableAllSound = soundWasOff;
 }
@@ -280,9 +272,7 @@ void CheckBankLimit(Game& g) {
   // it stops, a visible table says so at once if this roll crossed the line.
   Stop(g);
   if (g.HyperDriveOn) {
-    const bool won = g.Bankroll() > 0;
-    g.StopReason = WithTail((won ? "Stopped by breaking the bank limit of " : "Stopped by exceeding the max loss limit of ") +
-                            Dollars(BankLimit));
+    g.StopReason = g.Bankroll() > 0 ? StopReason::BankLimit : StopReason::MaxLoss;
   } else if (g.Bankroll() != g.BetAfterRoll[bet::kBankroll]) {
     ShowBankLimit(g);
   }
@@ -295,6 +285,6 @@ void TakeScriptSnapshots(Game& g) {
 }
 
 void PlayComeOutSound(Game& g) {
-  if (g.HandStats[0] == 0) Sound(g, kSoundNewShooter);
+  if (g.HandStats[hand::kRolls] == 0) Sound(g, kSoundNewShooter);
   Sound(g, kSoundComeOut);
 }

@@ -11,39 +11,41 @@ struct RollTest : ::testing::Test, Table {
     g.BetChange = amount;
     PlaceBetOnTable(g, id);
   }
-  void ExpectHandStats(std::initializer_list<std::pair<int, int>> counts) {
+  void ExpectHandStats(std::initializer_list<std::pair<hand::Stat, int>> counts) {
     for (const auto& [index, count] : counts) EXPECT_EQ(g.HandStats[index], count) << "HandStats " << index;
   }
 };
 
 TEST_F(RollTest, PointComesAndGoesWithItsHandCounters) {
+  using namespace hand;
   Roll(2, 2);  // point 4
   EXPECT_EQ(g.Point, 4);
   EXPECT_EQ(g.PointBeforeRoll, 0);  // still the come-out for this roll's decisions
-  ExpectHandStats({{7, 1}, {14, 1}});
+  ExpectHandStats({{kPointsEstablished, 1}, {kComeOutRolls, 1}});
   Roll(3, 1);  // point made
   EXPECT_EQ(g.Point, 0);
   EXPECT_EQ(g.PointBeforeRoll, 4);
-  ExpectHandStats({{1, 1}, {8, 1}});
+  ExpectHandStats({{kWins, 1}, {kPointsMade, 1}});
   Roll(5, 6);  // come-out 11: a line win on the come-out
-  ExpectHandStats({{9, 1}, {10, 2}});
+  ExpectHandStats({{kComeOutWins, 1}, {kAllWins, 2}});
   Roll(1, 1);  // come-out 2, bar 12: a come-out line loss, not a hand's end
-  ExpectHandStats({{12, 1}, {2, 0}});
+  ExpectHandStats({{kComeOutLosses, 1}, {kHands, 0}});
   Roll(4, 1);  // point 5
   Roll(6, 6);
   Roll(3, 4);  // seven-out
-  ExpectHandStats({{0, 0}, {1, 0}, {2, 1}, {3, 7}, {5, 7}, {11, 1}, {17, 7}, {18, 2}});
+  ExpectHandStats({{kRolls, 0}, {kWins, 0}, {kHands, 1}, {kMostRolls, 7}, {kRollsOfHands, 7}, {kSevenOuts, 1},
+                   {kLastHandRolls, 7}, {kLastHandWins, 2}});
   EXPECT_EQ(g.RollCounts[0], 7);
 
   // Barred craps count as line losses on the come-out; a come-out 7 wins the
   // line and the hand goes on.
   Roll(6, 6);
-  ExpectHandStats({{12, 2}, {13, 3}, {15, 1}});
+  ExpectHandStats({{kComeOutLosses, 2}, {kAllLosses, 3}, {kLossesInRow, 1}});
   g.BarNumber = 2;
   Roll(1, 1);
-  ExpectHandStats({{12, 3}});
+  ExpectHandStats({{kComeOutLosses, 3}});
   Roll(3, 4);
-  ExpectHandStats({{2, 1}, {9, 2}});
+  ExpectHandStats({{kHands, 1}, {kComeOutWins, 2}});
 }
 
 TEST_F(RollTest, StatusesAndSnapshotsFollowThePoint) {
@@ -100,11 +102,11 @@ TEST_F(RollTest, RunsStopByRollCountOrMarkedTotal) {
   EXPECT_EQ(g.RollCounts[0], 3);
   EXPECT_FALSE(g.HyperDriveOn);
   EXPECT_EQ(g.RollCountLeft, 3);  // reloaded for the next run
-  EXPECT_EQ(ui.stopReason, "Stopped by roll count on Auto-Play screen.");
+  EXPECT_EQ(ui.stopReason, StopReason::RollCount);
   ASSERT_EQ(ui.messages.size(), 1u);
   EXPECT_EQ(ui.messages[0].title, "Hyper-Drive Stopped");
   EXPECT_EQ(ui.throws, 0);  // nothing is drawn under Hyper-Drive
-  EXPECT_TRUE(g.StopReason.empty());
+  EXPECT_EQ(g.StopReason, StopReason::None);
   // Auto-Roll stops on a marked total and says nothing.
   g.AutoRollOn = g.KeepRolling = true;
   g.StopOnRoll[9] = true;  // any 7
@@ -113,7 +115,7 @@ TEST_F(RollTest, RunsStopByRollCountOrMarkedTotal) {
   EXPECT_EQ(g.DiceTotal, 7);
   EXPECT_FALSE(g.KeepRolling);
   EXPECT_EQ(ui.throws, g.RollCounts[0] - 3);
-  EXPECT_TRUE(ui.stopReason.empty());
+  EXPECT_EQ(ui.stopReason, StopReason::None);
 }
 
 TEST_F(RollTest, NoRollAtTheCeilingOrBeyondTheBankLimit) {
@@ -125,7 +127,7 @@ TEST_F(RollTest, NoRollAtTheCeilingOrBeyondTheBankLimit) {
                                      "Sorry ... you've reached the maximum limit of 100,000,000 rolls." + newGame}));
   g.HyperDriveOn = g.KeepRolling = true;
   RollDice(g);
-  EXPECT_EQ(ui.stopReason, "Stopped due to reaching the maximum limit of 100,000,000 rolls." + newGame);
+  EXPECT_EQ(StopReasonText(ui.stopReason), "Stopped due to reaching the maximum limit of 100,000,000 rolls." + newGame);
 
   g.RollCounts[0] = 0;
   g.Bankroll() = 10'000'000;
@@ -138,7 +140,8 @@ TEST_F(RollTest, NoRollAtTheCeilingOrBeyondTheBankLimit) {
   EXPECT_FALSE(g.HyperDriveOn);
   EXPECT_EQ(Last(), (RecordedMessage{"Sorry ... this wasn't your lucky day.",
                                      "You've exceeded the max loss limit of $9,999,999" + newGame}));
-  EXPECT_EQ(ui.stopReason, Last().text);
+  EXPECT_EQ(ui.stopReason, StopReason::StartRefusedMaxLoss);
+  EXPECT_EQ(StopReasonText(ui.stopReason), Last().text);
 }
 
 TEST_F(RollTest, SoundsFollowTheThrow) {

@@ -141,7 +141,7 @@ TEST(Rules, ValidateConfigurationStopsAtTheFirstFault) {
       {{5, 5, 25}, 10, 10, "", "", "", "", -1},  // equal is fine
   };
   for (const auto& c : cases) {
-    for (int i = 0; i < 3; ++i) t.g.BetAmount[95 + i] = Money(c.chips[i]);
+    for (int i = 0; i < 3; ++i) t.g.BetAmount[bet::ChipSlot(i + 1)] = Money(c.chips[i]);
     t.g.TableMinimum = Money(c.minimum);
     t.g.TableMaximum = Money(c.maximum);
     t.ui.messages.clear();

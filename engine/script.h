@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "engine/script_line.h"
+#include "engine/subject_codes.h"
+#include "engine/verb_codes.h"
 
 struct Flag {
   std::string FlagName;      // trimmed
@@ -29,8 +31,8 @@ struct Script {
 };
 
 // Flag condition subject and "Set flag" verb: the lines that name a flag.
-constexpr int kSubjectFlag = 1500;
-constexpr int kVerbSetFlag = 77;
+constexpr int kSubjectFlag = subject::kFlag;
+constexpr int kVerbSetFlag = verb::kSetFlag;
 
 // Trailing and leading blanks off.
 std::string Trimmed(const std::string& s);

@@ -82,7 +82,7 @@ void KeepStreak(Game& g, int betId) {
   if (g.NetPayoff < 0) streak = streak > 0 ? -1 : streak - 1;
 }
 
-[[gnu::noinline]] void SettleWorkingBet(Game& g, int outcome, int betId) {
+[[gnu::noinline]] void SettleWorkingBet(Game& g, Outcome outcome, int betId) {
   const Currency amount = g.BetAmount[betId];
   FigurePayoff(g, 1, betId, outcome, amount);
   if (g.Hooks.BetDecided) g.Hooks.BetDecided(g, betId, amount, g.NetPayoff);
@@ -111,8 +111,8 @@ void KeepStreak(Game& g, int betId) {
 // player on their parent's decision, and their spot works again.
 // Kept out of line so that the call for an empty spot, the commonest by far,
 // stays a few instructions.
-[[gnu::noinline]] void ReturnIdleOdds(Game& g, int outcome, int betId) {
-  if (g.BetAmount[betId] == 0 || outcome == 1 || outcome == -1) return;
+[[gnu::noinline]] void ReturnIdleOdds(Game& g, Outcome outcome, int betId) {
+  if (g.BetAmount[betId] == 0 || !IsOddsDecision(outcome)) return;
   g.NetPayoff = 0;
   g.Settlements.Add(betId, outcome, g.BetAmount[betId], Currency{});
   g.BetComesDown = g.BetAmount[bet::ParentOf(betId)] == 0 || !g.AllowPutBets;
@@ -128,7 +128,7 @@ void KeepStreak(Game& g, int betId) {
 
 }  // namespace
 
-void SettleBet(Game& g, int outcome, int betId) {
+void SettleBet(Game& g, Outcome outcome, int betId) {
   g.SettlingBetId = betId;
   if (!bet::IsTableBet(betId)) return;
   // The phantom unit of a working bet, FigurePayoff (0, BetId, Outcome, 1),
@@ -143,14 +143,14 @@ void SettleBet(Game& g, int outcome, int betId) {
     ReturnIdleOdds(g, outcome, betId);
 }
 
-void FigurePayoff(Game& g, int realBet, int betId, int outcome, Currency amount) {
+void FigurePayoff(Game& g, int realBet, int betId, Outcome outcome, Currency amount) {
   PayoffRecord& row0 = g.Payoff[0];
   const PayoffRecord& own = g.Payoff[betId];
-  row0 = outcome > 0 ? own : PayoffRecord{-1, own.Form, 1};
+  row0 = IsWin(outcome) ? own : PayoffRecord{-1, own.Form, 1};
   g.RawPayoff = Share(amount, row0.Win, row0.Per);
   if (ChargesVig(g, betId, g.RawPayoff > 0)) g.RawPayoff -= VigOf(g, realBet, betId, amount);
 
-  if (outcome > 0) {
+  if (IsWin(outcome)) {
     int record = WinningRecord(g, betId);
     if (record != betId) {
       row0 = g.Payoff[record];

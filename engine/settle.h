@@ -1,17 +1,20 @@
 #pragma once
 // What one bet does on this roll: payoff, rounding, money, streak, notice.
 
+#include <cstdint>
+
 #include "dice/money.h"
+#include "engine/outcome.h"
 
 struct Game;
 
-// Outcome: 1 flat win, 2 odds win, -1 flat loss, -2 odds loss. Settles betId
-// if it is working (and gives back odds that are off), then hands a decided
-// bet to the won or lost handling.
-void SettleBet(Game& g, int outcome, int betId);
+
+// Settles betId if it is working (and gives back odds that are off), then
+// hands a decided bet to the won or lost handling.
+void SettleBet(Game& g, Outcome outcome, int betId);
 // Sets g.RawPayoff, g.NetPayoff and row 0 of g.Payoff. realBet 0 figures the
 // phantom one-unit wager with the rate's vig; 1 the real bet with its own vig.
-void FigurePayoff(Game& g, int realBet, int betId, int outcome, Currency amount);
+void FigurePayoff(Game& g, int realBet, int betId, Outcome outcome, Currency amount);
 // The press of one unit for the bet being settled, in g.UnitAmount: the
 // largest check times Per of row 0 that divides the bet into whole units.
 void FigureUnit(Game& g, int betId);

@@ -30,7 +30,7 @@ TEST(SettleBet, WonNoticesAndRounding) {
     t.Stand(c.id, Currency::FromDouble(c.amount));
     RefigureVigs(t.g);
     t.Dice(c.die1, c.die2, c.point);
-    EXPECT_EQ(t.Settle(1, c.id), Currency::FromDouble(c.net)) << c.rows[0].first;
+    EXPECT_EQ(t.Settle(Outcome::Win, c.id), Currency::FromDouble(c.net)) << c.rows[0].first;
     EXPECT_EQ(t.g.BetStreak[1][c.id], c.net > 0 ? 1 : -3);  // a push keeps its streak
     ASSERT_EQ(t.ui.notices.size(), 1u);
     EXPECT_EQ(t.ui.notices[0].title, c.title);
@@ -40,7 +40,7 @@ TEST(SettleBet, WonNoticesAndRounding) {
   t.Stand(bet::Place(6), 12);
   t.g.Payoff[bet::Place(6)].Form = 0;  // the "for" form pays the same and says so
   t.Dice(2, 4, 5);
-  EXPECT_EQ(t.Settle(1, bet::Place(6)), Currency(14));
+  EXPECT_EQ(t.Settle(Outcome::Win, bet::Place(6)), Currency(14));
   EXPECT_EQ(t.ui.notices.at(0).rows.at(1), (Rows::value_type{"Payoff at 13 for 6:", "$14"}));
   EXPECT_EQ(t.ui.notices[0].buttons,
             (std::vector<std::string>{"&Take Bet and Winnings", "&Same Bet - Take Winnings",
@@ -52,11 +52,11 @@ TEST(SettleBet, WonNoticesAndRounding) {
   t.g.FieldPayoff[5] = {-1, -1, 2};
   t.Stand(bet::kField, 3);
   t.Dice(1, 4, 0);
-  EXPECT_EQ(t.Settle(1, bet::kField), Currency(-2));
+  EXPECT_EQ(t.Settle(Outcome::Win, bet::kField), Currency(-2));
   EXPECT_EQ(t.g.RawPayoff, Currency::FromDouble(-1.5));
   t.g.BetAmount[bet::kFirstChip] = Currency::FromDouble(0.25);
   t.Stand(bet::kField, 3);
-  EXPECT_EQ(t.Settle(1, bet::kField), Currency::FromDouble(-1.5));
+  EXPECT_EQ(t.Settle(Outcome::Win, bet::kField), Currency::FromDouble(-1.5));
 }
 
 TEST(SettleBet, NoDecisionsStreaksAndSilentTables) {
@@ -66,8 +66,8 @@ TEST(SettleBet, NoDecisionsStreaksAndSilentTables) {
   t.Stand(bet::kField, 5);
   t.g.BetStatus[bet::Place(6)] = 1;
   t.Dice(3, 3, 0);
-  EXPECT_EQ(t.Settle(1, bet::kField), Currency(0));
-  EXPECT_EQ(t.Settle(1, bet::Place(6)), Currency(0));
+  EXPECT_EQ(t.Settle(Outcome::Win, bet::kField), Currency(0));
+  EXPECT_EQ(t.Settle(Outcome::Win, bet::Place(6)), Currency(0));
   EXPECT_TRUE(t.ui.notices.empty());
   EXPECT_EQ(t.g.BetAmount[bet::kField], Currency(5));
   EXPECT_EQ(t.g.BetStreak[1][bet::kField] + t.g.BetStreak[1][bet::Place(6)], 0);
@@ -78,9 +78,10 @@ TEST(SettleBet, NoDecisionsStreaksAndSilentTables) {
   t.g.HyperDriveOn = true;
   t.Stand(bet::Place(8), 6);
   t.Dice(4, 4, 5);
-  const struct { int outcome, streak; } steps[] = {{1, 1}, {1, 2}, {-1, -1}, {-1, -2}, {1, 1}};
+  constexpr Outcome kWin = Outcome::Win, kLoss = Outcome::Loss;
+  const struct { Outcome outcome; int streak; } steps[] = {{kWin, 1}, {kWin, 2}, {kLoss, -1}, {kLoss, -2}, {kWin, 1}};
   for (const auto& s : steps) {
-    EXPECT_EQ(t.Settle(s.outcome, bet::Place(8)), Currency(s.outcome > 0 ? 7 : -6));
+    EXPECT_EQ(t.Settle(s.outcome, bet::Place(8)), Currency(IsWin(s.outcome) ? 7 : -6));
     EXPECT_EQ(t.g.BetStreak[1][bet::Place(8)], s.streak);
     t.g.HyperDriveOn = false;
   }
@@ -93,8 +94,8 @@ TEST(SettleBet, OffBetsStandAndOffOddsComeBack) {
   t.Stand(bet::Place(6), 6);
   t.g.BetStatus[bet::Place(6)] = 0;
   t.Dice(3, 4, 0);
-  EXPECT_EQ(t.Settle(-1, bet::Place(6)), Currency(0));
-  EXPECT_EQ(t.Settle(1, bet::Place(6)), Currency(0));
+  EXPECT_EQ(t.Settle(Outcome::Loss, bet::Place(6)), Currency(0));
+  EXPECT_EQ(t.Settle(Outcome::Win, bet::Place(6)), Currency(0));
   EXPECT_EQ(t.g.BetAmount[bet::Place(6)], Currency(6));
   EXPECT_EQ(t.g.BetStatus[bet::Place(6)], 0);
   EXPECT_TRUE(t.ui.notices.empty());
@@ -104,7 +105,7 @@ TEST(SettleBet, OffBetsStandAndOffOddsComeBack) {
   t.Stand(bet::Come(4), 10);
   t.Stand(bet::ComeOdds(4), 10);
   t.g.BetStatus[bet::ComeOdds(4)] = 0;
-  EXPECT_EQ(t.Settle(-2, bet::ComeOdds(4)), Currency(0));
+  EXPECT_EQ(t.Settle(Outcome::OddsLoss, bet::ComeOdds(4)), Currency(0));
   ASSERT_EQ(t.ui.notices.size(), 1u);
   EXPECT_EQ(t.ui.notices[0].title, "Odds Bet Returned");
   EXPECT_EQ(t.ui.notices[0].rows, (Rows{{"Come 4 Odds bet:", "$10"}, {"wasn't working!", ""}}));
@@ -119,7 +120,7 @@ TEST(SettleBet, OffBetsStandAndOffOddsComeBack) {
   t.Stand(bet::Come(6), 10);
   t.Stand(bet::ComeOdds(6), 10);
   t.g.BetStatus[bet::ComeOdds(6)] = -1;
-  t.Settle(-2, bet::ComeOdds(6));
+  t.Settle(Outcome::OddsLoss, bet::ComeOdds(6));
   EXPECT_FALSE(t.g.BetComesDown);
   EXPECT_EQ(t.g.UnitAmount, Currency(5));
   EXPECT_EQ(t.ui.notices.at(1).buttons.at(2), "Press 1 &Unit - Add $5 to Bet");
@@ -130,29 +131,30 @@ TEST(SettleBet, OffBetsStandAndOffOddsComeBack) {
 TEST(SettleBet, BuyAndLayVig) {
   // Buy 4 of $20 at 5%: lost, up front it costs 21, on a win only 20; a win
   // pays 39 at 2 to 1 either way.
-  const struct { bool upFront; int outcome, net; } cases[] = {
-      {true, -1, -21}, {false, -1, -20}, {true, 1, 39}, {false, 1, 39}};
+  constexpr Outcome kWin = Outcome::Win, kLoss = Outcome::Loss;
+  const struct { bool upFront; Outcome outcome; int net; } cases[] = {
+      {true, kLoss, -21}, {false, kLoss, -20}, {true, kWin, 39}, {false, kWin, 39}};
   for (const auto& c : cases) {
     Table t;
     t.g.ChargeAllBuy = c.upFront;
     t.g.WonBetAction = 1;
     t.Stand(bet::Buy(4), 20);
     RefigureVigs(t.g);
-    t.Dice(c.outcome > 0 ? 1 : 3, c.outcome > 0 ? 3 : 4, 6);
-    EXPECT_EQ(t.Settle(c.outcome, bet::Buy(4)), Currency(c.net)) << c.upFront << c.outcome;
+    t.Dice(IsWin(c.outcome) ? 1 : 3, IsWin(c.outcome) ? 3 : 4, 6);
+    EXPECT_EQ(t.Settle(c.outcome, bet::Buy(4)), Currency(c.net)) << c.upFront << IsWin(c.outcome);
     EXPECT_EQ(t.g.TotalOnTable, Currency(0));
     EXPECT_EQ(t.g.BuyVigOnBet[0], Currency(0));
   }
   // The phantom unit pays the rate: on the unit for a Buy, on what the Lay
   // would win for a Lay.
   Table t;
-  const struct { int id, outcome; bool upFront; double raw; } phantom[] = {
-      {bet::Buy(4), 1, true, 1.95}, {bet::Lay(4), 1, true, 0.475}, {bet::Lay(4), -1, true, -1.025},
-      {bet::Lay(4), -1, false, -1}};
+  const struct { int id; Outcome outcome; bool upFront; double raw; } phantom[] = {
+      {bet::Buy(4), kWin, true, 1.95}, {bet::Lay(4), kWin, true, 0.475}, {bet::Lay(4), kLoss, true, -1.025},
+      {bet::Lay(4), kLoss, false, -1}};
   for (const auto& p : phantom) {
     t.g.ChargeAllLay = p.upFront;
     FigurePayoff(t.g, 0, p.id, p.outcome, 1);
-    EXPECT_EQ(t.g.RawPayoff, Currency::FromDouble(p.raw)) << p.id << " " << p.outcome;
+    EXPECT_EQ(t.g.RawPayoff, Currency::FromDouble(p.raw)) << p.id << " " << IsWin(p.outcome);
   }
 }
 
@@ -161,7 +163,7 @@ TEST(SettleBet, WhatComesDownAfterAWin) {
   Table t;
   t.Stand(bet::DontCome(4), 10);
   t.Dice(3, 4, 6);
-  t.Settle(1, bet::DontCome(4));
+  t.Settle(Outcome::Win, bet::DontCome(4));
   EXPECT_EQ(t.g.BetCommitted[bet::DontCome(4)], Currency(0));
   EXPECT_TRUE(t.g.BetComesDown);
   EXPECT_EQ(t.g.BetAmount[bet::DontCome(4)], Currency(0));
@@ -169,25 +171,25 @@ TEST(SettleBet, WhatComesDownAfterAWin) {
   // The Come box stays on an 11, and comes down on a 7.
   t.Stand(bet::kCome, 10);
   t.Dice(5, 6, 6);
-  t.Settle(1, bet::kCome);
+  t.Settle(Outcome::Win, bet::kCome);
   EXPECT_FALSE(t.g.BetComesDown);
   t.Dice(3, 4, 6);
-  t.Settle(1, bet::kCome);
+  t.Settle(Outcome::Win, bet::kCome);
   EXPECT_TRUE(t.g.BetComesDown);
 
   // A flat line bet stays up; a Come number stays only with Put bets.
   t.Stand(bet::kPassLine, 10);
   t.Stand(bet::Come(5), 10);
   t.Dice(2, 3, 5);
-  t.Settle(1, bet::kPassLine);
+  t.Settle(Outcome::Win, bet::kPassLine);
   EXPECT_FALSE(t.g.BetComesDown);
   EXPECT_EQ(t.g.BetAmount[bet::kPassLine], Currency(10));
   EXPECT_EQ(t.g.BetCommitted[bet::kPassLine], Currency(0));
-  t.Settle(1, bet::Come(5));
+  t.Settle(Outcome::Win, bet::Come(5));
   EXPECT_TRUE(t.g.BetComesDown);
   t.g.AllowPutBets = true;
   t.Stand(bet::Come(5), 10);
-  t.Settle(1, bet::Come(5));
+  t.Settle(Outcome::Win, bet::Come(5));
   EXPECT_FALSE(t.g.BetComesDown);
 }
 

@@ -6,10 +6,11 @@
 #include <cstdint>
 
 #include "dice/money.h"
+#include "engine/outcome.h"
 
 struct Settlement {
   int32_t BetId = 0;
-  int32_t Outcome = 0;  // 1 flat win, 2 odds win, -1 flat loss, -2 odds loss
+  ::Outcome Outcome = ::Outcome::Win;
   Currency Amount;      // the bet as it was settled
   Currency Net;         // what the bankroll gained or lost; 0 for a push or odds handed back
 };
@@ -21,7 +22,7 @@ struct SettlementLog {
   int32_t Count = 0;
 
   void Clear() { Count = 0; }
-  void Add(int betId, int outcome, Currency amount, Currency net) {
+  void Add(int betId, ::Outcome outcome, Currency amount, Currency net) {
     if (Count < kCapacity) Entries[Count++] = {betId, outcome, amount, net};
   }
 };

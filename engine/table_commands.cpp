@@ -112,8 +112,10 @@ void ClickBet(Game& g, int betId, bool shiftHeld) {
   if (tool == kToolBuy) return BuyPlaceBet(g, betId);
   if (tool == kToolCallOff || tool == kToolCallOn) return CallBet(g, betId, tool);
   Currency chips;
-  if (tool >= 1 && tool <= 5) chips = g.BetAmount[bet::kFirstChip - 1 + tool];
-  else if (tool >= 7 && tool <= 10) chips = g.BetAmount[g.TrayStack[tool - 6]];
+  if (tool >= kToolFirstChip && tool <= kToolLastChip)
+    chips = g.BetAmount[bet::ChipSlot(tool - kToolFirstChip + 1)];
+  else if (tool >= kToolFirstStack && tool <= kToolLastStack)
+    chips = g.BetAmount[g.TrayStack[tool - kToolFirstStack + 1]];
   else return;
   g.BetChange = chips;
   PlaceBetOnTable(g, betId);

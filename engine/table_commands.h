@@ -14,6 +14,10 @@ struct Game;
 constexpr int kToolBuy = 89;
 constexpr int kToolCallOff = 90;
 constexpr int kToolCallOn = 91;
+// The tools that add chips: check colours 1..5, and the Chip-Stacks of
+// TrayStack[1..4].
+constexpr int kToolFirstChip = 1, kToolLastChip = 5;
+constexpr int kToolFirstStack = 7, kToolLastStack = 10;
 
 // Takes a bet down through the placement rules, so a contract bet stays.
 void RemoveBet(Game& g, int betId);

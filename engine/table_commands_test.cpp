@@ -45,9 +45,9 @@ TEST(CallBet, RefusesWithItsOwnWordsAndOnlyWhereAllowed) {
   // An empty spot is ignored without a word; a silenced or Hyper-Drive table
   // refuses without one.
   CallBet(t.g, bet::kPassLine, kToolCallOff);
-  t.g.NoticeMask = 14;
+  t.g.NoticeMask = kNoticeDefault & ~kNoticeRefusals;
   CallBet(t.g, bet::Come(6), kToolCallOff);
-  t.g.NoticeMask = 15;
+  t.g.NoticeMask = kNoticeDefault;
   t.g.HyperDriveOn = true;
   CallBet(t.g, bet::Come(6), kToolCallOff);
   EXPECT_EQ(t.ui.messages.size(), shown.size());
@@ -79,9 +79,9 @@ TEST(CallBet, OffOutlivesComeOutAndPointUntilCalledOnOrRemoved) {
   // Calling all bets skips the uncallable silently and puts the mask back;
   // calling all ON withdraws the OFF calls.
   for (int id : {bet::kPassLine, bet::Place(8), bet::kHard4}) t.Put(id, 10);
-  t.g.NoticeMask = 7;
+  t.g.NoticeMask = kNoticeRefusals | kNoticeLimits | kNoticeCharges;
   CallAllBets(t.g, false);
-  EXPECT_EQ(t.g.NoticeMask, 7);
+  EXPECT_EQ(t.g.NoticeMask, kNoticeRefusals | kNoticeLimits | kNoticeCharges);
   EXPECT_TRUE(t.ui.messages.empty());
   const std::pair<int, int> off[] = {{bet::kPassLine, 1}, {bet::Place(8), -1}, {bet::kHard4, -1}, {bet::Place(4), 0}};
   for (const auto& [id, status] : off) EXPECT_EQ(t.g.BetStatus[id], status) << id;

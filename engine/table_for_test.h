@@ -42,7 +42,7 @@ class RecordingFrontEnd : public FrontEnd {
   std::vector<SettleNotice> notices;
   std::vector<int> redrawn, sounds;
   int throws = 0;
-  std::string stopReason;
+  StopReason stopReason = StopReason::None;
   std::deque<std::optional<int>> settleReplies;
   std::deque<std::optional<Currency>> numberReplies;
 
@@ -60,7 +60,7 @@ class RecordingFrontEnd : public FrontEnd {
     return settleReplies.empty() ? std::nullopt : Pop(settleReplies);
   }
   void ShowThrow(int, int, int) override { ++throws; }
-  void RollFinished(const std::string& reason) override { stopReason = reason; }
+  void RollFinished(StopReason reason) override { stopReason = reason; }
   void PlaySound(int slot) override { sounds.push_back(slot); }
   void RedrawBet(int betId) override { redrawn.push_back(betId); }
 
@@ -115,7 +115,7 @@ struct Table {
     return g.BetChangeAllowed;
   }
   // What the bankroll gained.
-  Currency Settle(int outcome, int id) {
+  Currency Settle(Outcome outcome, int id) {
     const Currency before = g.Bankroll();
     SettleBet(g, outcome, id);
     return g.Bankroll() - before;

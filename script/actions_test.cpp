@@ -220,7 +220,7 @@ TEST(Actions, TableVerbsAndResets) {
   t.g.AutoRollOn = t.g.KeepRolling = t.g.HyperDriveOn = true;
   t.Run(Action(75));
   EXPECT_FALSE(t.g.AutoRollOn || t.g.KeepRolling);
-  EXPECT_EQ(t.g.StopReason, "Stopped by Auto-Bet command.");
+  EXPECT_EQ(t.g.StopReason, StopReason::ScriptCommand);
 }
 
 TEST(Actions, MessagesAndQuestions) {
@@ -232,14 +232,14 @@ TEST(Actions, MessagesAndQuestions) {
   // A ";" runs on; a value is followed by " ;"; a question stores its answer.
   t.Run({Action(79, 0, 0, 0, 0, "Bankroll: ;"), Action(85, 0, 0, 1400)});
   EXPECT_EQ(t.Last(), (RecordedMessage{"Auto-Bet", "Bankroll: 500 "}));
-  EXPECT_EQ(t.g.LastAnswer, 7);
+  EXPECT_EQ(t.g.LastAnswer, Answer::No);
 
   // Show message obeys its notice bit; under Hyper-Drive a shown one stops auto-roll.
-  t.g.NoticeMask = 15 - 8;
+  t.g.NoticeMask = kNoticeDefault & ~kNoticeScript;
   t.Run(Action(79, 0, 0, 0, 0, "quiet"));
   EXPECT_EQ(t.ui.messages.size(), 2u);
   t.g.HyperDriveOn = t.g.AutoRollOn = true;
-  t.g.NoticeMask = 16;
+  t.g.NoticeMask = kNoticeScriptHyper;
   t.Run(Action(79, 0, 0, 0, 0, "loud"));
   EXPECT_EQ(t.Last().text, "loud");
   EXPECT_FALSE(t.g.AutoRollOn);

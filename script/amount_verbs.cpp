@@ -8,20 +8,20 @@
 #include "script/values.h"
 #include "script/verb_families.h"
 #include "script/verb_math.h"
+#include "engine/verb_codes.h"
 
 namespace {
 
 enum Operator { kBet = 1, kAdd = 2, kSubtract = 3, kMultiply = 4, kDivide = 5 };
 
-constexpr int kRound = 109;
-constexpr int kGetInput = 83;
+using verb::kGetInput, verb::kRound;
 constexpr int kRoundUp = 1100;
 constexpr int kRoundNearest = 1101;
 constexpr int kRoundDown = 1102;
 
 // Form of an operator verb: 0 literal, 1/2 percent of, 3/4 highest, 5/6
 // lowest, 7/8 average; the even forms read "the last" values.
-bool IsOperatorVerb(int code) { return code >= 10 && code <= 58 && code % 10 <= 8; }
+bool IsOperatorVerb(int code) { return verb::IsOperator(code); }
 bool IsRunForm(int form) { return form >= 3; }
 bool IsAverage(int form) { return form >= 7; }
 

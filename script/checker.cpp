@@ -5,13 +5,13 @@
 
 #include "engine/game.h"
 #include "engine/notices.h"
+#include "engine/verb_codes.h"
 
 namespace {
 
 using namespace line_kind;
 
-constexpr int kVerbGoTo = 117;
-constexpr int kVerbGosub = 76;
+using verb::kGoTo, verb::kGoSub;
 
 const char* const kNotAllowed =
     "This is not allowed and must be resolved before you can run this auto-betting script.";
@@ -52,13 +52,13 @@ std::optional<ScriptFault> CheckLabels(const Script& s) {
   }
   for (int i = 1; i <= n; ++i) {
     const ScriptLine& line = s.Line(i);
-    if (line.Kind != kAction || (line.Code != kVerbGoTo && line.Code != kVerbGosub)) continue;
+    if (line.Kind != kAction || (line.Code != kGoTo && line.Code != kGoSub)) continue;
     bool found = false;
     for (int j = 1; j <= n && !found; ++j)
       found = s.Line(j).Kind == kLabel && LabelKey(s.Line(j).Name) == LabelKey(line.Name);
     if (!found)
       return Fault(i, "Missing Label",
-                   std::string("The ") + (line.Code == kVerbGoTo ? "Go to" : "Gosub") +
+                   std::string("The ") + (line.Code == kGoTo ? "Go to" : "Gosub") +
                        " statement shown at the top of the screen references a Label that does not appear in your list.");
   }
   for (int i = 1; i < n; ++i) {

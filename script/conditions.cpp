@@ -3,23 +3,12 @@
 #include "script/condition_parts.h"
 #include "script/values.h"
 #include "stats/roll_counters.h"
+#include "engine/subject_codes.h"
+#include "script/comparison_codes.h"
 
 namespace {
 
-// Subjects that are not bets or dice events.
-constexpr int kInitializing = 9999;
-constexpr int kEachRoll = 1300;
-constexpr int kNextComeOut = 1301, kNextNotComeOut = 1309;
-constexpr int kLastComeOut = 1302, kLastNotComeOut = 1310;
-constexpr int kPointOn = 1303, kPointNotOn = 1306;
-constexpr int kDecidedFor = 1304, kDecidedAgainst = 1305, kDecided = 1322;
-constexpr int kAnswerYes = 1307, kAnswerNo = 1308;
-constexpr int kEachPass = 1313, kEachMiss = 1316;
-constexpr int kAvailableBankroll = 1410;
-constexpr int kSimulatedHours = 1405;
-constexpr int kFlag = 1500, kAnyFlag = 1501, kAllFlags = 1502, kTrueFlags = 1503, kFalseFlags = 1504;
-
-constexpr int kReplyYes = 6, kReplyNo = 7;
+using namespace subject;
 
 void Set(PassState& pass, bool now, bool justNow) {
   pass.BlockTrue = now;
@@ -81,8 +70,8 @@ bool EvaluateTiming(const Game& g, PassState& pass, const ScriptLine& line) {
       return true;
     }
     case kDecided: Set(pass, g.Point == 0 && InPointSet(before, line.Code), before > 0); return true;
-    case kAnswerYes: Set(pass, g.LastAnswer == kReplyYes, true); return true;
-    case kAnswerNo: Set(pass, g.LastAnswer == kReplyNo, true); return true;
+    case kAnswerYes: Set(pass, g.LastAnswer == Answer::Yes, true); return true;
+    case kAnswerNo: Set(pass, g.LastAnswer == Answer::No, true); return true;
     case kEachPass: {
       const bool craps = CameThisRoll(g, 2) || CameThisRoll(g, 3) || CameThisRoll(g, 12);
       const bool sevenOut = CameThisRoll(g, 7) && before > 0;
@@ -112,15 +101,15 @@ struct Counter {
 Counter CounterOf(const Game& g, int subject) {
   const auto& h = g.HandStats;
   switch (subject) {
-    case 1311: return {g.RollCounts[event::kAllRolls], CounterKind::Game};
-    case 1312: return {h[0], CounterKind::Shooter};
-    case 1323: return {h[17], CounterKind::LastShooter};
-    case 1314: return {h[10], CounterKind::Game, true};
-    case 1315: return {h[1], CounterKind::Shooter, true};
-    case 1324: return {h[18], CounterKind::LastShooter};
-    case 1317: return {h[13], CounterKind::Game, true};
-    case 1318: return {h[15], CounterKind::Shooter, true};
-    case 1325: return {h[19], CounterKind::LastShooter};
+    case subject::kGameRolls: return {g.RollCounts[event::kAllRolls], CounterKind::Game};
+    case subject::kShooterRolls: return {h[hand::kRolls], CounterKind::Shooter};
+    case subject::kLastShooterRolls: return {h[hand::kLastHandRolls], CounterKind::LastShooter};
+    case subject::kGamePasses: return {h[hand::kAllWins], CounterKind::Game, true};
+    case subject::kShooterPasses: return {h[hand::kWins], CounterKind::Shooter, true};
+    case subject::kLastShooterPasses: return {h[hand::kLastHandWins], CounterKind::LastShooter};
+    case subject::kGameMisses: return {h[hand::kAllLosses], CounterKind::Game, true};
+    case subject::kShooterMisses: return {h[hand::kLossesInRow], CounterKind::Shooter, true};
+    case subject::kLastShooterMisses: return {h[hand::kLastHandLossesInRow], CounterKind::LastShooter};
     default: return {};
   }
 }
@@ -131,7 +120,8 @@ bool EvaluateCounter(const Game& g, PassState& pass, const ScriptLine& line, Cur
   pass.BlockTrue = CompareValues(Currency(c.value), line.Code, amount);
   if (c.kind == CounterKind::LastShooter) {
     // Fresh when a new shooter has just come out after a finished hand.
-    pass.LineJustNow = g.HandStats[0] == 0 && g.HandStats[18] + g.HandStats[19] > 0;
+    const auto& h = g.HandStats;
+    pass.LineJustNow = h[hand::kRolls] == 0 && h[hand::kLastHandWins] + h[hand::kLastHandLossesInRow] > 0;
   } else {
     pass.LineJustNow = !CompareValues(Currency(c.value - 1), line.Code, amount) && (!c.decidedOnly || g.Point == 0);
   }
@@ -184,7 +174,7 @@ void EvaluateFlagWalk(const Game& g, PassState& pass, const ScriptLine& line) {
 
 void EvaluateCondition(Game& g, PassState& pass, const ScriptLine& line) {
   if (EvaluateTiming(g, pass, line)) return;
-  const bool againstValue = line.Code >= 17 && line.Code <= 22;
+  const bool againstValue = comparison::AgainstTarget(line.Code);
   const Currency amount = againstValue ? GetValue(g, line.Target, line.TargetNum) : line.LineAmount;
   if (EvaluateCounter(g, pass, line, amount)) return;
   if (IsDiceEvent(line.Subject)) {

@@ -3,17 +3,19 @@
 #include "script/condition_parts.h"
 #include "script/values.h"
 #include "stats/rounded_quotient.h"
+#include "engine/subject_codes.h"
+#include "script/comparison_codes.h"
 
 namespace {
 
 // Comparison codes of the bet rule.
 constexpr int kHasWon = 1, kWonMoreThan = 2, kHasLost = 3, kLostMoreThan = 4;
 constexpr int kHasNotWon = 60, kWonLessThan = 61, kHasNotLost = 62, kLostLessThan = 63;
-constexpr int kIsNamed = 26, kIsNotNamed = 27;
-constexpr int kNumber = 23, kNumberMoreThan = 24, kNumberLessThan = 25;
+using comparison::kIsNamed, comparison::kIsNotNamed;
+using comparison::kNumber, comparison::kNumberMoreThan, comparison::kNumberLessThan;
 
-bool IsAmountCode(int code) { return code >= 11 && code <= 16; }
-bool IsSecondRangeCode(int code) { return code >= 17 && code <= 22; }
+bool IsAmountCode(int code) { return comparison::AgainstAmount(code); }
+bool IsSecondRangeCode(int code) { return comparison::AgainstTarget(code); }
 bool IsWhileKind(int kind) { return kind == 2 || kind == 4 || kind == 6 || kind == 8; }
 
 enum class Walk { Single, Any, All, Total };
@@ -33,7 +35,7 @@ SlotRange Slot(int slot) { return {slot, slot}; }
 // Families of the bet groups: Any 1000+, All 1100+, Total 1200+.
 SlotRange GroupRange(int code) {
   const int family = code % 100;
-  const Walk walk = code < 1100 ? Walk::Any : code < 1200 ? Walk::All : Walk::Total;
+  const Walk walk = code < subject::kAllGroup ? Walk::Any : code < subject::kTotalGroup ? Walk::All : Walk::Total;
   switch (family) {
     case 1: return {1, 83, walk};
     case 2: return {1, 6, walk};
@@ -50,21 +52,21 @@ SlotRange GroupRange(int code) {
 
 SlotRange RangeOf(const Game& g, int code, int num) {
   if (bet::IsTableBet(code)) return Slot(code);
-  if (code >= 1000 && code <= 1299) return GroupRange(code);
+  if (code >= subject::kAnyGroup && code <= subject::kLastGroup) return GroupRange(code);
   switch (code) {
-    case 1400: return Slot(bet::kBankroll);
-    case 1401: return {bet::kBankroll, bet::kBankroll, Walk::Single, true};
-    case 1600:
+    case subject::kBankroll: return Slot(bet::kBankroll);
+    case subject::kAverageBankroll: return {bet::kBankroll, bet::kBankroll, Walk::Single, true};
+    case subject::kChipStack:
       return num >= 0 && num + bet::kFirstStack < bet::kSlots ? Slot(num + bet::kFirstStack) : SlotRange{};
-    case 1601: {
+    case subject::kChipStackRef: {
       const int ref = ChipStackReference(g, num);
       return ref < 0 ? SlotRange{} : Slot(ref + bet::kFirstStack);
     }
-    case 1800:
-    case 1803:
-    case 1804:
-    case 1805:
-    case 1806: {
+    case subject::kPointLay:
+    case subject::kPointCome:
+    case subject::kPointComeOdds:
+    case subject::kPointPlace:
+    case subject::kPointBuy: {
       const int id = ShootersPointBet(g, code);
       return id == 0 ? SlotRange{} : Slot(id);
     }
@@ -194,7 +196,7 @@ class BetWalk {
     if (t.now) {
       pass_.BlockTrue = true;
       const bool exists = g_.BetAmount[i] != 0 || i == bet::kBankroll;
-      if (line_.Subject < 1100 && exists && IsWhileKind(pass_.LastStart)) return false;
+      if (line_.Subject < subject::kAllGroup && exists && IsWhileKind(pass_.LastStart)) return false;
     }
     if (subject_.walk == Walk::All && !t.now) {
       pass_.BlockTrue = false;
@@ -297,9 +299,12 @@ void EvaluateTotal(const Game& g, PassState& pass, const ScriptLine& line, Curre
 
 bool IsBetSubject(int subject) {
   if (bet::IsTableBet(subject)) return true;
-  if (subject >= 1000 && subject <= 1299) return !GroupRange(subject).Empty();
+  if (subject >= subject::kAnyGroup && subject <= subject::kLastGroup) return !GroupRange(subject).Empty();
   switch (subject) {
-    case 1400: case 1401: case 1600: case 1601: case 1800: case 1803: case 1804: case 1805: case 1806: return true;
+    case subject::kBankroll: case subject::kAverageBankroll: case subject::kChipStack: case subject::kChipStackRef:
+    case subject::kPointLay: case subject::kPointCome: case subject::kPointComeOdds: case subject::kPointPlace:
+    case subject::kPointBuy:
+      return true;
     default: return false;
   }
 }

@@ -1,6 +1,7 @@
 #include "script/condition_parts.h"
 
 #include "stats/roll_counters.h"
+#include "engine/subject_codes.h"
 
 namespace {
 
@@ -14,10 +15,12 @@ constexpr int kNotRolledInLast = 10;
 
 }  // namespace
 
-bool IsDiceEvent(int subject) { return subject >= 2000 + 1 && subject < 2000 + event::kCount; }
+bool IsDiceEvent(int subject) {
+  return subject > subject::kDiceEvents && subject < subject::kDiceEvents + event::kCount;
+}
 
 void EvaluateDiceEvent(const Game& g, PassState& pass, const ScriptLine& line) {
-  const int i = line.Subject - 2000;
+  const int i = line.Subject - subject::kDiceEvents;
   const Currency count(g.RollCounts[i]);
   const Currency countBefore(g.PreviousRollCounts[i]);
   const Currency since(g.RollsSinceLast[i]);

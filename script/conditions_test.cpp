@@ -84,7 +84,7 @@ TEST(Conditions, TimingSubjects) {
   }
 
   Scene s;
-  s.g.LastAnswer = 6;
+  s.g.LastAnswer = Answer::Yes;
   EXPECT_EQ(Evaluate(s.g, Condition(1307, 0)), kTrueNew);
   EXPECT_EQ(Evaluate(s.g, Condition(1308, 0)), kFalseNew);
   EXPECT_EQ(Evaluate(s.g, Condition(9999, 0)), kFalse);
@@ -100,24 +100,26 @@ TEST(Conditions, CountersAreFreshOnlyAsTheyCrossTheLine) {
   // shooter's hand has ended.
   struct Case {
     const char* name;
-    int rolls, stat, value, shooterRolls, point;
+    int rolls;
+    hand::Stat stat;
+    int value, shooterRolls, point;
     int subject, code, amount;
     Outcome want;
   };
   const Case cases[] = {
-      {"rolls > 10 at 10: fresh but false", 10, 10, 0, 0, 0, 1311, 13, 10, kFalseNew},
-      {"rolls > 10 at 11", 11, 10, 0, 0, 0, 1311, 13, 10, kTrueNew},
-      {"rolls > 10 at 12", 12, 10, 0, 0, 0, 1311, 13, 10, kTrueOld},
-      {"game passes = 2 on the come-out", 5, 10, 2, 0, 0, 1314, 11, 2, kTrueNew},
-      {"game passes = 2 with a point up", 5, 10, 2, 0, 6, 1314, 11, 2, kTrueOld},
-      {"last shooter rolls > 3, new shooter", 5, 17, 5, 0, 0, 1323, 13, 3, kTrueNew},
-      {"last shooter rolls > 3, shooter rolling", 5, 17, 5, 1, 0, 1323, 13, 3, kTrueOld},
+      {"rolls > 10 at 10: fresh but false", 10, hand::kAllWins, 0, 0, 0, 1311, 13, 10, kFalseNew},
+      {"rolls > 10 at 11", 11, hand::kAllWins, 0, 0, 0, 1311, 13, 10, kTrueNew},
+      {"rolls > 10 at 12", 12, hand::kAllWins, 0, 0, 0, 1311, 13, 10, kTrueOld},
+      {"game passes = 2 on the come-out", 5, hand::kAllWins, 2, 0, 0, 1314, 11, 2, kTrueNew},
+      {"game passes = 2 with a point up", 5, hand::kAllWins, 2, 0, 6, 1314, 11, 2, kTrueOld},
+      {"last shooter rolls > 3, new shooter", 5, hand::kLastHandRolls, 5, 0, 0, 1323, 13, 3, kTrueNew},
+      {"last shooter rolls > 3, shooter rolling", 5, hand::kLastHandRolls, 5, 1, 0, 1323, 13, 3, kTrueOld},
   };
   for (const Case& c : cases) {
     Scene s(c.rolls);
-    s.g.HandStats[19] = 1;
+    s.g.HandStats[hand::kLastHandLossesInRow] = 1;
     s.g.HandStats[c.stat] = c.value;
-    s.g.HandStats[0] = c.shooterRolls;
+    s.g.HandStats[hand::kRolls] = c.shooterRolls;
     s.g.Point = c.point;
     EXPECT_EQ(Evaluate(s.g, Condition(c.subject, c.code, c.amount)), c.want) << c.name;
   }

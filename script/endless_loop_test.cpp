@@ -33,8 +33,8 @@ TEST(EndlessLoop, APassThatLoopsIsAbortedNamingItsLines) {
       continue;
     ++files;
     Table t;
-    std::string error;
-    ASSERT_TRUE(LoadScriptFile(entry.path().string(), t.g.AutoBet, error)) << error;
+    const FileStatus loaded = LoadScriptFile(entry.path().string(), t.g.AutoBet);
+    ASSERT_TRUE(loaded) << loaded.FirstMessage();
     t.g.HyperDriveOn = true;
     t.g.KeepRolling = true;
     t.g.AutoBetActivated = true;
@@ -59,7 +59,7 @@ TEST(EndlessLoop, APassThatLoopsIsAbortedNamingItsLines) {
   EXPECT_EQ(t.ui.messages[0].text,
             "The following error has caused Auto-Betting to abort at line #5:\r\rThis pass ran more than 1,000,000 "
             "lines without ending: it keeps running lines 1 to 5.\r\rPress help for more information.");
-  EXPECT_EQ(t.g.StopReason, "Auto-Bet error.");
+  EXPECT_EQ(t.g.StopReason, StopReason::ScriptError);
 }
 
 TEST(EndlessLoop, LineListsReadAsPhrases) {

@@ -7,18 +7,11 @@
 #include "store/prob_file.h"
 #include "script/values.h"
 #include "script/verb_families.h"
+#include "engine/verb_codes.h"
 
 namespace {
 
-constexpr int kActivateProbFile = 97;
-constexpr int kDeactivateProbFile = 98;
-constexpr int kOpenAppend = 99;
-constexpr int kOutputMessage = 100;
-constexpr int kOutputValue = 101;
-constexpr int kOutputNewLine = 102;
-constexpr int kOutputLastValue = 108;
-constexpr int kOpenClear = 113;
-constexpr int kCloseFile = 114;
+using namespace verb;
 
 void OpenOutput(Game& g, const ScriptLine& line, std::ios::openmode mode) {
   if (g.ScriptOutput.is_open()) g.ScriptOutput.close();
@@ -58,7 +51,7 @@ void ActivateProbabilityFile(Game& g, const ScriptLine& line) {
   std::error_code ec;
   if (!std::filesystem::is_regular_file(name, ec)) throw script_error::FileNotFound();
   // A file of the wrong kind is refused with its own message and changes nothing.
-  if (OpenProbabilityFile(g, name)) g.UseSkewedProbability = true;
+  if (ShowFileStatus(g, OpenProbabilityFile(g, name))) g.UseSkewedProbability = true;
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ HotKeyOutcome RunHotKey(Game& g, char key) {
   const Script before = g.AutoBet;
   const bool dirty = g.ScriptDirty, initPending = g.InitPending;
   const bool copied = WriteActiveScript(g);
-  if (!OpenAutoBetFile(g, BoundPath(g, binding->File))) return HotKeyOutcome::NotOpened;
+  if (!ShowFileStatus(g, OpenAutoBetFile(g, BoundPath(g, binding->File)))) return HotKeyOutcome::NotOpened;
 
   g.HotKeyRun = true;
   RunAutoBet(g);

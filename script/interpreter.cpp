@@ -64,7 +64,7 @@ class Pass {
         g_.Ui->ShowStepsBanner("Auto-Betting");
       s_.PassStart = SecondsOfDay();
     }
-    g_.LastAnswer = 1;
+    g_.LastAnswer = Answer::None;
     try {
       RunLines();
     } catch (const ScriptError& e) {
@@ -325,7 +325,7 @@ class Pass {
                              std::to_string(s_.CurrentLine) + ":" + kTwoBreaks +
                              RunTimeErrorText(description, number, "Run Auto-Bet") + kTwoBreaks +
                              "Press help for more information.";
-    if (g_.HyperDriveOn) g_.StopReason = "Auto-Bet error.";
+    if (g_.HyperDriveOn) g_.StopReason = StopReason::ScriptError;
     ShowMessage(g_, "Auto-Bet Abort", text);
     g_.KeepRolling = false;
   }
@@ -344,7 +344,7 @@ class Pass {
                              std::to_string(s_.CurrentLine) + ":" + kTwoBreaks + "This pass ran more than " +
                              FormatWithCommas(kMostLinesPerPass) + " lines without ending: it keeps running " +
                              LineListText(lines) + "." + kTwoBreaks + "Press help for more information.";
-    if (g_.HyperDriveOn) g_.StopReason = "Auto-Bet error.";
+    if (g_.HyperDriveOn) g_.StopReason = StopReason::ScriptError;
     ShowMessage(g_, "Auto-Bet Abort", text);
     g_.KeepRolling = false;
     g_.AutoBetRunning = false;

@@ -103,11 +103,11 @@ using Lines = std::vector<int>;
 
 TEST(Interpreter, AnEmptyScriptIsNeverRun) {
   Pass p({});
-  p.t.g.LastAnswer = 6;
+  p.t.g.LastAnswer = Answer::Yes;
   p.Run();
   EXPECT_TRUE(p.ui.banners.empty());
   EXPECT_TRUE(p.ui.waits.empty());
-  EXPECT_EQ(p.t.g.LastAnswer, 6);
+  EXPECT_EQ(p.t.g.LastAnswer, Answer::Yes);
   EXPECT_FALSE(p.t.g.AutoBetRunning);
 }
 
@@ -227,12 +227,12 @@ TEST(Interpreter, HyperDriveShowsAndWaitsForNothing) {
   Pass p({Line(kDoThis), Act()});
   p.t.g.HyperDriveOn = true;
   p.t.g.HotKeyRun = true;
-  p.t.g.LastAnswer = 7;
+  p.t.g.LastAnswer = Answer::No;
   p.Run();
   EXPECT_TRUE(p.ui.banners.empty());
   EXPECT_TRUE(p.ui.steps.empty());
   EXPECT_TRUE(p.ui.waits.empty());
-  EXPECT_EQ(p.t.g.LastAnswer, 1);
+  EXPECT_EQ(p.t.g.LastAnswer, Answer::None);
 
   p.t.g.HyperDriveOn = false;
   p.t.g.ShowingSteps = false;
@@ -257,7 +257,7 @@ TEST(Interpreter, AnErrorAbortsThePassWithItsLine) {
               "Press help for more information.");
     EXPECT_FALSE(p.t.g.KeepRolling);
     EXPECT_TRUE(p.t.g.AutoBetRunning) << "left as it was";
-    EXPECT_EQ(p.t.g.StopReason, hyper ? "Auto-Bet error." : "");
+    EXPECT_EQ(p.t.g.StopReason, hyper ? StopReason::ScriptError : StopReason::None);
   }
 }
 

@@ -4,12 +4,8 @@
 
 #include "script/pass_state.h"
 #include "engine/script_line.h"
+#include "engine/verb_codes.h"
 
-namespace verb {
-constexpr int kGoTo = 117;
-constexpr int kGoSub = 76;
-constexpr int kReturn = 86;
-}  // namespace verb
 
 // Carries out a jump verb and returns true; false for any other verb.
 bool CarryOutJump(PassState& pass, const ScriptLine& line);

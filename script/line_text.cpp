@@ -1,12 +1,15 @@
 #include "script/line_text.h"
 
 #include "script/catalogue.h"
+#include "engine/subject_codes.h"
+#include "engine/verb_codes.h"
+#include "script/comparison_codes.h"
 
 namespace {
 
 using namespace script_list;
 
-constexpr int kChipStack = 1600, kChipStackRef = 1601;
+using subject::kChipStack, subject::kChipStackRef;
 
 std::string Amount(Currency a) { return FormatNumberWithCommas(a); }
 
@@ -21,28 +24,29 @@ std::string ConditionText(const ScriptLine& l) {
   std::string text = Named(ConditionSubjects(), l.Subject, l.SubjectNum);
   const bool isTrue = l.LineAmount != Currency(0);
   switch (l.Subject) {
-    case 9999: case 1300: case 1301: case 1302: case 1307: case 1308:
-    case 1309: case 1310: case 1313: case 1316:
+    case subject::kInitializing: case subject::kEachRoll: case subject::kNextComeOut: case subject::kLastComeOut:
+    case subject::kAnswerYes: case subject::kAnswerNo:
+    case subject::kNextNotComeOut: case subject::kLastNotComeOut: case subject::kEachPass: case subject::kEachMiss:
       return text;
-    case 1303: case 1306:
+    case subject::kPointOn: case subject::kPointNotOn:
       return text + " " + WordsOf(PointChoices(), l.Code);
-    case 1304: case 1305: case 1321: case 1322:
+    case subject::kDecidedFor: case subject::kDecidedAgainst: case subject::kDecidedUnlisted: case subject::kDecided:
       return text + " " + WordsOf(DecidedChoices(), l.Code);
-    case 1500:
+    case subject::kFlag:
       return text + " " + l.Name + (isTrue ? " is True" : " is False");
-    case 1501:
+    case subject::kAnyFlag:
       return text + (isTrue ? " is True" : " is False");
-    case 1502:
+    case subject::kAllFlags:
       return text + (isTrue ? " are True" : " are False");
     default:
       break;
   }
   std::string words = ComparisonWords(l.Code, IsPluralSubject(l.Subject));
-  if (l.Code >= 11 && l.Code <= 16 && IsCountSubject(l.Subject) && !words.empty()) words.pop_back();
+  if (comparison::AgainstAmount(l.Code) && IsCountSubject(l.Subject) && !words.empty()) words.pop_back();
   text += " " + words;
-  if (l.Code >= 11 && l.Code <= 16) return text + Amount(l.LineAmount);
-  if (l.Code >= 17 && l.Code <= 22) return text + " " + Named(CompareTargets(), l.Target, l.TargetNum);
-  if (l.Code == 26 || l.Code == 27) return text + " \"" + l.Name + "\"";
+  if (comparison::AgainstAmount(l.Code)) return text + Amount(l.LineAmount);
+  if (comparison::AgainstTarget(l.Code)) return text + " " + Named(CompareTargets(), l.Target, l.TargetNum);
+  if (comparison::OfName(l.Code)) return text + " \"" + l.Name + "\"";
   if (l.LineAmount != Currency(0)) text += " " + Amount(l.LineAmount);
   return text;
 }
@@ -66,37 +70,40 @@ std::string OperatorText(const ScriptLine& l, const std::string& verb) {
 }
 
 std::string ActionText(const ScriptLine& l) {
-  const std::string verb = WordsOf(ActionVerbs(), l.Code);
-  if (l.Code >= 10 && l.Code <= 58) return OperatorText(l, verb);
+  const std::string words = WordsOf(ActionVerbs(), l.Code);
+  if (l.Code >= verb::kFirstOperator && l.Code <= verb::kLastOperator) return OperatorText(l, words);
   const std::string source = Named(ActionSources(), l.Subject, l.SubjectNum);
   const std::string target = Named(ActionTargets(), l.Target, l.TargetNum);
   switch (l.Code) {
-    case 82: case 79: case 80: case 97: case 113: case 99: case 100: case 117: case 76: case 77:
-    case 87: case 89:
-      return verb + " " + l.Name;
-    case 85: case 84: case 101: case 108: case 104: case 111: case 107: case 112:
-      return verb + " " + source;
-    case 83: case 70: case 71: case 72: case 73:
-      return verb + " " + target;
-    case 74:
-      return verb + " " + WordsOf(DiceEventTargets(), l.Target);
-    case 109:
-      return verb + " " + target + " " + WordsOf(RoundChoices(), l.Subject) + Amount(l.LineAmount);
-    case 90:
-      return verb + " " + WordsOf(AutoHandleWinning(), l.Target);
-    case 110:
-      return verb + " " + WordsOf(AutoHandleLosing(), l.Target);
-    case 93: case 95:
-      return verb + Amount(l.LineAmount);
-    case 94: case 96: {
-      std::string text = verb;
+    case verb::kQuestion: case verb::kShowMessage: case verb::kPlaySound: case verb::kActivateProbFile:
+    case verb::kOpenClear: case verb::kOpenAppend: case verb::kOutputMessage: case verb::kGoTo: case verb::kGoSub:
+    case verb::kSetFlag:
+    case verb::kNameChipStack: case verb::kNameChipStackRef:
+      return words + " " + l.Name;
+    case verb::kQuestionValue: case verb::kShowValue: case verb::kOutputValue: case verb::kOutputLastValue:
+    case verb::kSelectRngValue: case verb::kSelectRngLast: case verb::kSeedValue: case verb::kSeedLast:
+      return words + " " + source;
+    case verb::kGetInput: case verb::kBuy: case verb::kCallOff: case verb::kCallOn: case verb::kResetWinsLosses:
+      return words + " " + target;
+    case verb::kResetRolls:
+      return words + " " + WordsOf(DiceEventTargets(), l.Target);
+    case verb::kRound:
+      return words + " " + target + " " + WordsOf(RoundChoices(), l.Subject) + Amount(l.LineAmount);
+    case verb::kHandleWinning:
+      return words + " " + WordsOf(AutoHandleWinning(), l.Target);
+    case verb::kHandleLosing:
+      return words + " " + WordsOf(AutoHandleLosing(), l.Target);
+    case verb::kWithdraw: case verb::kDeposit:
+      return words + Amount(l.LineAmount);
+    case verb::kWithdrawPercent: case verb::kDepositPercent: {
+      std::string text = words;
       text.replace(text.find('%'), 1, Amount(l.LineAmount) + "%");
       return text + " " + source;
     }
-    case 103: case 106:
-      return verb + Amount(l.LineAmount);
+    case verb::kSelectRng: case verb::kSeedAmount:
+      return words + Amount(l.LineAmount);
     default:
-      return verb;
+      return words;
   }
 }
 

@@ -5,16 +5,11 @@
 #include "script/values.h"
 #include "script/verb_families.h"
 #include "script/verb_math.h"
+#include "engine/verb_codes.h"
 
 namespace {
 
-constexpr int kShowMessage = 79;
-constexpr int kQuestion = 82;
-constexpr int kShowValue = 84;
-constexpr int kQuestionValue = 85;
-
-constexpr int kAnswerYes = 6;
-constexpr int kAnswerNo = 7;
+using namespace verb;
 
 bool IsMessageVerb(int code) {
   return code == kShowMessage || code == kQuestion || code == kShowValue || code == kQuestionValue;
@@ -54,7 +49,7 @@ void ShowBuffer(Game& g, const ScriptLine& line) {
   g.MessageBuffer.clear();
   if (IsQuestion(line.Code)) {
     const Reply reply = ShowMessage(g, "Auto-Bet", text, Buttons::YesNo);
-    g.LastAnswer = reply == Reply::Yes ? kAnswerYes : kAnswerNo;
+    g.LastAnswer = reply == Reply::Yes ? Answer::Yes : Answer::No;
   } else {
     const int bit = g.HyperDriveOn ? kNoticeScriptHyper : kNoticeScript;
     if ((g.NoticeMask & bit) == 0) return;

@@ -64,8 +64,8 @@ void RunSample(const Sample& sample, const std::string& extension) {
       (std::filesystem::path(DICEMILL_SOURCE_DIR) / "samples" / sample.name).string() + extension;
   SCOPED_TRACE(path);
   Table t;
-  std::string error;
-  ASSERT_TRUE(LoadScriptFile(path, t.g.AutoBet, error)) << error;
+  const FileStatus loaded = LoadScriptFile(path, t.g.AutoBet);
+  ASSERT_TRUE(loaded) << loaded.FirstMessage();
   t.g.AutoBetActivated = true;
   t.g.InitPending = true;
   RunAutoBet(t.g);

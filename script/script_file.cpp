@@ -13,11 +13,6 @@
 
 namespace {
 
-std::string Lowered(std::string s) {
-  std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return std::tolower(c); });
-  return s;
-}
-
 bool LooksLikeBetFile(const std::string& bytes) {
   return bytes.rfind("Dicemill AutoBets", 0) == 0 || bytes.rfind("Tumbledice AutoBets", 0) == 0;
 }
@@ -45,35 +40,26 @@ bool ReadBetLines(const std::string& path, const std::string& bytes, std::vector
 
 }  // namespace
 
-bool IsBetFilePath(const std::string& path) {
-  return Lowered(std::filesystem::path(path).extension().string()) == ".bet";
-}
-
-bool LoadScriptFile(const std::string& path, Script& script, std::string& error) {
+FileStatus LoadScriptFile(const std::string& path, Script& script) {
   std::string bytes, reason;
-  if (!ReadRegularFile(path, kMaxScriptFileBytes, bytes, reason)) {
-    error = PrintableName(path) + " " + reason + ".";
-    return false;
-  }
+  if (!ReadRegularFile(path, kMaxScriptFileBytes, bytes, reason))
+    return FileStatus::Failed("Error", PrintableName(path) + " " + reason + ".");
   std::vector<ScriptLine> lines;
+  std::string error;
   if (IsBetFilePath(path) || LooksLikeBetFile(bytes)) {
-    if (!ReadBetLines(path, bytes, lines, error)) return false;
+    if (!ReadBetLines(path, bytes, lines, error)) return FileStatus::Failed("Error", error);
   } else if (!ReadScriptText(bytes, lines, error)) {
-    error = PrintableName(path) + ": " + error;
-    return false;
+    return FileStatus::Failed("Error", PrintableName(path) + ": " + error);
   }
   script.Lines = std::move(lines);
   script.FileName = path;
   RebuildFlags(script);
-  return true;
+  return {};
 }
 
-bool SaveScriptFile(const std::string& path, const Script& script, std::string& error) {
-  if (IsBetFilePath(path)) return SaveBetFile(path, script, error);
+FileStatus SaveScriptFile(const std::string& path, const Script& script) {
+  if (IsBetFilePath(path)) return SaveBetFile(path, script);
   std::string reason;
-  if (!WriteFileAtomically(path, ScriptToText(script), reason)) {
-    error = PrintableName(path) + " " + reason + ".";
-    return false;
-  }
-  return true;
+  if (!WriteFileAtomically(path, ScriptToText(script), reason)) return FileStatus::Failed("Error", PrintableName(path) + " " + reason + ".");
+  return {};
 }

@@ -5,17 +5,17 @@
 
 #include <string>
 
+#include "engine/file_status.h"
 #include "engine/script.h"
+#include "store/bet_file.h"
 
-// True for a path whose extension is ".bet", in any case.
-bool IsBetFilePath(const std::string& path);
 
 // Reads a ".bet" file (by extension, or by its magic whatever the name) or a
 // text file. On success the lines replace the script's, its Flags are
 // rebuilt and FileName becomes the path; on failure the script is untouched
-// and `error` says why, in one line.
-bool LoadScriptFile(const std::string& path, Script& script, std::string& error);
+// and the status says why in one line, titled "Error".
+FileStatus LoadScriptFile(const std::string& path, Script& script);
 
 // Writes the script as ".bet" records when the path ends in ".bet", else as
 // text. The file is replaced whole or not at all.
-bool SaveScriptFile(const std::string& path, const Script& script, std::string& error);
+FileStatus SaveScriptFile(const std::string& path, const Script& script);

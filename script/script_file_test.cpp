@@ -24,9 +24,8 @@ TEST(ScriptFile, SamplesAreCleanAndTheirBetFilesAreTheConvertersOwn) {
     SCOPED_TRACE(name);
     const fs::path base = fs::path(DICEMILL_SOURCE_DIR) / "samples" / name;
     Script fromText, fromBet;
-    std::string error;
-    ASSERT_TRUE(LoadScriptFile(base.string() + ".txt", fromText, error)) << error;
-    ASSERT_TRUE(LoadScriptFile(base.string() + ".bet", fromBet, error)) << error;
+    ASSERT_TRUE(LoadScriptFile(base.string() + ".txt", fromText));
+    ASSERT_TRUE(LoadScriptFile(base.string() + ".bet", fromBet));
     EXPECT_EQ(ScriptToText(fromText), ReadBytes(base.string() + ".txt"));  // written as the writer writes
     EXPECT_EQ(EncodeBetFile(fromText, false), ReadBytes(base.string() + ".bet"));
     EXPECT_EQ(ScriptToText(fromBet), ReadBytes(base.string() + ".txt"));
@@ -42,8 +41,8 @@ TEST(ScriptFile, LoadsEitherFormAndSavesByExtension) {
   ASSERT_TRUE(ReadScriptText("Do this\n  Set flag \"f\" to True\n  Bet $5 on Field {Spare2=9}\n", s, error)) << error;
 
   const std::string bet = (folder.path() / "a.BET").string(), text = (folder.path() / "a.txt").string();
-  ASSERT_TRUE(SaveScriptFile(bet, s, error)) << error;
-  ASSERT_TRUE(SaveScriptFile(text, s, error)) << error;
+  ASSERT_TRUE(SaveScriptFile(bet, s));
+  ASSERT_TRUE(SaveScriptFile(text, s));
   EXPECT_EQ(ReadBytes(bet), EncodeBetFile(s, false));
   EXPECT_EQ(ReadBytes(text), ScriptToText(s));
 
@@ -51,7 +50,7 @@ TEST(ScriptFile, LoadsEitherFormAndSavesByExtension) {
   fs::copy_file(bet, renamed);
   for (const std::string& path : {bet, text, renamed}) {
     Script loaded;
-    ASSERT_TRUE(LoadScriptFile(path, loaded, error)) << error;
+    ASSERT_TRUE(LoadScriptFile(path, loaded));
     EXPECT_EQ(loaded.Lines, s.Lines);
     EXPECT_EQ(loaded.FileName, path);
     ASSERT_EQ(loaded.Flags.size(), 1u);
@@ -91,9 +90,11 @@ TEST(ScriptFile, AnUnreadableFileLeavesTheScriptAsItWas) {
     Script s;
     s.Lines.resize(2);
     s.FileName = "kept";
-    std::string error;
-    EXPECT_FALSE(LoadScriptFile(c.path.string(), s, error));
-    EXPECT_NE(error.find(c.message), std::string::npos) << error;
+    const FileStatus loaded = LoadScriptFile(c.path.string(), s);
+    EXPECT_FALSE(loaded.Ok);
+    ASSERT_EQ(loaded.Messages.size(), 1u);
+    EXPECT_EQ(loaded.Messages[0].Title, "Error");
+    EXPECT_NE(loaded.Messages[0].Text.find(c.message), std::string::npos) << loaded.Messages[0].Text;
     EXPECT_EQ(s.NumLines(), 2);
     EXPECT_EQ(s.FileName, "kept");
   }
@@ -104,9 +105,9 @@ TEST(ScriptFile, ALineARecordCannotHoldIsNotSavedAsBet) {
   Script s;
   s.Lines.resize(2);
   s.Lines[1].Spare1 = 40000;
-  std::string error;
-  EXPECT_FALSE(SaveScriptFile((folder.path() / "x.bet").string(), s, error));
-  EXPECT_NE(error.find("line 2"), std::string::npos) << error;
+  const FileStatus saved = SaveScriptFile((folder.path() / "x.bet").string(), s);
+  EXPECT_FALSE(saved.Ok);
+  EXPECT_NE(saved.FirstMessage().find("line 2"), std::string::npos) << saved.FirstMessage();
   EXPECT_FALSE(fs::exists(folder.path() / "x.bet"));
 }
 

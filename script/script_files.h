@@ -3,9 +3,11 @@
 
 #include <string>
 
+#include "engine/file_status.h"
+
 struct Game;
 
-// Replaces the game's script with the file's lines. False with `error` set
-// when the file can't be used; a refusal the program explains in its own
-// message has already been shown. The script is then untouched.
-bool OpenScriptFile(Game& g, const std::string& path, std::string& error);
+// Replaces the game's script with the file's lines; the script is untouched
+// when the file can't be used. A ".bet" file is refused in the program's own
+// dialog words; a text file's fault is one line, titled "Error".
+FileStatus OpenScriptFile(Game& g, const std::string& path);

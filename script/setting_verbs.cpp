@@ -13,33 +13,11 @@
 #include "script/values.h"
 #include "script/verb_families.h"
 #include "script/verb_math.h"
+#include "engine/verb_codes.h"
 
 namespace {
 
-constexpr int kSetFlag = 77;
-constexpr int kSetAllFlags = 78;
-constexpr int kPlaySound = 80;
-constexpr int kShowSteps = 81;
-constexpr int kNameChipStack = 87;
-constexpr int kClearChipStackNames = 88;
-constexpr int kNameChipStackRef = 89;
-constexpr int kHandleWinning = 90;
-constexpr int kHandleLosing = 110;
-constexpr int kTakeFullOdds = 91;
-constexpr int kLayFullOdds = 92;
-constexpr int kWithdraw = 93;
-constexpr int kWithdrawPercent = 94;
-constexpr int kDeposit = 95;
-constexpr int kDepositPercent = 96;
-constexpr int kSelectRng = 103;
-constexpr int kSelectRngValue = 104;
-constexpr int kSelectRngLast = 111;
-constexpr int kSeedClock = 105;
-constexpr int kSeedAmount = 106;
-constexpr int kSeedValue = 107;
-constexpr int kSeedLast = 112;
-constexpr int kResetTableKeepStacks = 998;
-constexpr int kResetTable = 999;
+using namespace verb;
 
 constexpr int kHandlingOptions = 8;  // option indexes 0..7 of either side
 constexpr int kScriptRngs = 5;       // a script selects #1 to #5

@@ -3,15 +3,11 @@
 
 #include "engine/table_commands.h"
 #include "script/verb_families.h"
+#include "engine/verb_codes.h"
 
 namespace {
 
-constexpr int kBuy = 70;
-constexpr int kCallOff = 71;
-constexpr int kCallOn = 72;
-constexpr int kResetWinsLosses = 73;
-constexpr int kResetRolls = 74;
-constexpr int kStop = 75;
+using namespace verb;
 
 void ResetStreak(Game& g, int slot) {
   if (slot < 0 || slot >= static_cast<int>(g.BetStreak[0].size())) return;
@@ -30,7 +26,7 @@ void ResetEvent(Game& g, int event) {
 void StopRolling(Game& g) {
   g.AutoRollOn = false;
   g.KeepRolling = false;
-  if (g.HyperDriveOn) g.StopReason = "Stopped by Auto-Bet command.";
+  if (g.HyperDriveOn) g.StopReason = StopReason::ScriptCommand;
 }
 
 }  // namespace

@@ -1,16 +1,12 @@
 #include "script/target_range.h"
 
 #include "script/values.h"
+#include "engine/subject_codes.h"
 
 namespace {
 
-constexpr int kAllBets = 1000;
-constexpr int kInsidePlace = 1007;
-constexpr int kOutsidePlace = 1008;
-constexpr int kChipStack = 1600;
-constexpr int kChipStackRef = 1601;
-constexpr int kAllChipStacks = 1602;
-constexpr int kAllTheNumbers = 2001;
+using namespace subject;
+
 constexpr int kFirstEvent = 2;
 constexpr int kLastEvent = 89;
 
@@ -23,14 +19,14 @@ TargetRange Slots(int first, int last) {
 
 // The groups of six, "all Lay bets" 1001 to "all Place bets" 1006.
 TargetRange GroupOfSix(int target) {
-  const int first = 1 + (target - 1001) * 6;
+  const int first = 1 + (target - kLayBets) * 6;
   return Slots(first, first + 5);
 }
 
 // Older scripts stored "all the numbers" under the 4,5,6,8,9,10 group; their
 // text still says which was meant.
 bool MeansAllTheNumbers(const ScriptLine& line) {
-  return line.Target == 2017 && line.Text.find("all the numbers") != std::string::npos;
+  return line.Target == kDiceEvents + 17 && line.Text.find("all the numbers") != std::string::npos;
 }
 
 }  // namespace
@@ -40,14 +36,14 @@ TargetRange FindTargetRange(const Game& g, const ScriptLine& line) {
   TargetRange r;
   if (target == kAllBets) {
     r = Slots(bet::kFirstTableBet, bet::kLastTableBet);
-  } else if (target >= 1001 && target <= 1006) {
+  } else if (target >= kLayBets && target <= kPlaceBets) {
     r = GroupOfSix(target);
   } else if (target == kInsidePlace) {
     r = Slots(bet::Place(5), bet::Place(9));
   } else if (target == kOutsidePlace) {
     r = Slots(bet::Place(4), bet::Place(10));
     r.outsidePlace = true;
-  } else if (target == 1009) {
+  } else if (target == kBuyBets) {
     r = Slots(bet::kBuyBase, bet::kBuyBase + 5);
   } else if (target >= 0 && target < 100) {
     r = Slots(target, target);
@@ -59,15 +55,15 @@ TargetRange FindTargetRange(const Game& g, const ScriptLine& line) {
     if (ref >= 0) r = Slots(ref + bet::kFirstStack, ref + bet::kFirstStack);
   } else if (target == kAllChipStacks) {
     r = Slots(bet::kFirstStack, bet::kSlots - 1);  // one past the last Chip-Stack, as it always was
-  } else if (target == 1800 || (target >= 1803 && target <= 1806)) {
+  } else if (target == kPointLay || (target >= kPointCome && target <= kPointBuy)) {
     const int id = ShootersPointBet(g, target);
     if (id != 0) r = Slots(id, id);
   } else if (target == kAllTheNumbers || MeansAllTheNumbers(line)) {
     r = Slots(kFirstEvent, kLastEvent);
-  } else if (target > 2000 && target - 2000 <= kLastEvent) {
-    r = Slots(target - 2000, target - 2000);
+  } else if (target > kDiceEvents && target - kDiceEvents <= kLastEvent) {
+    r = Slots(target - kDiceEvents, target - kDiceEvents);
   }
-  r.placeGuard = target == 1006 || target == kInsidePlace || target == kOutsidePlace;
+  r.placeGuard = target == kPlaceBets || target == kInsidePlace || target == kOutsidePlace;
   return r;
 }
 

@@ -1,23 +1,26 @@
 #include "script/text_form_grammar.h"
 
 #include "script/line_text.h"
+#include "engine/subject_codes.h"
+#include "engine/verb_codes.h"
 
 namespace text_form {
 
 SubjectKind SubjectKindOf(int subject) {
   switch (subject) {
-    case 9999: case 1300: case 1301: case 1302: case 1307: case 1308:
-    case 1309: case 1310: case 1313: case 1316:
+    case subject::kInitializing: case subject::kEachRoll: case subject::kNextComeOut: case subject::kLastComeOut:
+    case subject::kAnswerYes: case subject::kAnswerNo:
+    case subject::kNextNotComeOut: case subject::kLastNotComeOut: case subject::kEachPass: case subject::kEachMiss:
       return SubjectKind::Bare;
-    case 1303: case 1306:
+    case subject::kPointOn: case subject::kPointNotOn:
       return SubjectKind::Point;
-    case 1304: case 1305: case 1321: case 1322:
+    case subject::kDecidedFor: case subject::kDecidedAgainst: case subject::kDecidedUnlisted: case subject::kDecided:
       return SubjectKind::Decided;
-    case 1500:
+    case subject::kFlag:
       return SubjectKind::Flag;
-    case 1501:
+    case subject::kAnyFlag:
       return SubjectKind::AnyFlag;
-    case 1502:
+    case subject::kAllFlags:
       return SubjectKind::AllFlags;
     default:
       return SubjectKind::Compared;
@@ -25,26 +28,30 @@ SubjectKind SubjectKindOf(int subject) {
 }
 
 VerbKind VerbKindOf(int code) {
-  if (code >= 10 && code <= 58 && code % 10 <= 8) return VerbKind::Operator;
+  if (verb::IsOperator(code)) return VerbKind::Operator;
   switch (code) {
-    case 82: case 79: case 80: case 97: case 113: case 99: case 100: case 117: case 76:
+    case verb::kQuestion: case verb::kShowMessage: case verb::kPlaySound: case verb::kActivateProbFile:
+    case verb::kOpenClear: case verb::kOpenAppend: case verb::kOutputMessage: case verb::kGoTo: case verb::kGoSub:
       return VerbKind::Name;
-    case 77: return VerbKind::SetFlag;
-    case 78: return VerbKind::SetAllFlags;
-    case 87: case 89: return VerbKind::NameStack;
-    case 85: case 84: case 101: case 108: case 104: case 111: case 107: case 112:
+    case verb::kSetFlag: return VerbKind::SetFlag;
+    case verb::kSetAllFlags: return VerbKind::SetAllFlags;
+    case verb::kNameChipStack: case verb::kNameChipStackRef: return VerbKind::NameStack;
+    case verb::kQuestionValue: case verb::kShowValue: case verb::kOutputValue: case verb::kOutputLastValue:
+    case verb::kSelectRngValue: case verb::kSelectRngLast: case verb::kSeedValue: case verb::kSeedLast:
       return VerbKind::Source;
-    case 83: case 70: case 71: case 72: case 73:
+    case verb::kGetInput: case verb::kBuy: case verb::kCallOff: case verb::kCallOn: case verb::kResetWinsLosses:
       return VerbKind::Target;
-    case 74: return VerbKind::ResetRolls;
-    case 109: return VerbKind::Round;
-    case 90: return VerbKind::HandleWins;
-    case 110: return VerbKind::HandleLosses;
-    case 93: case 95: case 103: case 106:
+    case verb::kResetRolls: return VerbKind::ResetRolls;
+    case verb::kRound: return VerbKind::Round;
+    case verb::kHandleWinning: return VerbKind::HandleWins;
+    case verb::kHandleLosing: return VerbKind::HandleLosses;
+    case verb::kWithdraw: case verb::kDeposit: case verb::kSelectRng: case verb::kSeedAmount:
       return VerbKind::Amount;
-    case 94: case 96: return VerbKind::PercentOf;
-    case 91: case 92: return VerbKind::Switch;
-    case 81: case 75: case 86: case 88: case 98: case 102: case 105: case 114: case 999: case 998:
+    case verb::kWithdrawPercent: case verb::kDepositPercent: return VerbKind::PercentOf;
+    case verb::kTakeFullOdds: case verb::kLayFullOdds: return VerbKind::Switch;
+    case verb::kShowSteps: case verb::kStop: case verb::kReturn: case verb::kClearChipStackNames:
+    case verb::kDeactivateProbFile: case verb::kOutputNewLine: case verb::kSeedClock: case verb::kCloseFile:
+    case verb::kResetTable: case verb::kResetTableKeepStacks:
       return VerbKind::Bare;
     default:
       return VerbKind::Unknown;

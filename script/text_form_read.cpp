@@ -7,6 +7,7 @@
 #include "script/text_form.h"
 #include "script/text_form_grammar.h"
 #include "script/text_form_words.h"
+#include "script/comparison_codes.h"
 
 using namespace text_form;
 using namespace script_list;
@@ -33,7 +34,7 @@ Currency TrueOrFalse(LineCursor& c, const char* verb) {
 
 void ReadComparison(LineCursor& c, ScriptLine& l) {
   l.Code = c.ExpectList(ComparisonPhrases()).Code;
-  if (l.Code >= 17 && l.Code <= 22) {
+  if (comparison::AgainstTarget(l.Code)) {
     if (std::optional<ListMatch> target = c.TryList(CompareTargets())) {
       l.Target = target->Code;
       l.TargetNum = NumberAfter(c, l.Target);
@@ -46,9 +47,9 @@ void ReadComparison(LineCursor& c, ScriptLine& l) {
     }
     c.FailWithChoices(CompareTargets());
   }
-  if ((l.Code >= 11 && l.Code <= 16) || (l.Code >= 23 && l.Code <= 25)) {
+  if (comparison::AgainstAmount(l.Code) || comparison::OfCount(l.Code)) {
     l.LineAmount = c.ExpectAmount();
-  } else if (l.Code == 26 || l.Code == 27) {
+  } else if (comparison::OfName(l.Code)) {
     l.Name = c.ExpectQuoted();
   } else if (std::optional<Currency> n = c.TryAmount()) {  // "has won", "has rolled": none is "each"
     l.LineAmount = *n;

@@ -6,6 +6,7 @@
 #include "script/text_form.h"
 #include "script/text_form_grammar.h"
 #include "script/text_form_words.h"
+#include "script/comparison_codes.h"
 
 using namespace text_form;
 using namespace script_list;
@@ -41,13 +42,13 @@ std::string PercentVerb(const std::string& verb, Currency amount) {
 std::string ComparisonBody(const ScriptLine& l) {
   const bool plural = IsPluralSubject(l.Subject);
   const std::string words = ComparisonWords(l.Code, plural);
-  if (l.Code >= 11 && l.Code <= 16) {
+  if (comparison::AgainstAmount(l.Code)) {
     if (IsCountSubject(l.Subject)) return Join({ComparisonWords(l.Code + 6, plural), Amount(l.LineAmount)});
     return words + Amount(l.LineAmount);
   }
-  if (l.Code >= 17 && l.Code <= 22) return Join({words, Named(CompareTargets(), l.Target, l.TargetNum)});
-  if (l.Code >= 23 && l.Code <= 25) return Join({words, Amount(l.LineAmount)});
-  if (l.Code == 26 || l.Code == 27) return Join({words, QuotedName(l.Name)});
+  if (comparison::AgainstTarget(l.Code)) return Join({words, Named(CompareTargets(), l.Target, l.TargetNum)});
+  if (comparison::OfCount(l.Code)) return Join({words, Amount(l.LineAmount)});
+  if (comparison::OfName(l.Code)) return Join({words, QuotedName(l.Name)});
   if (l.LineAmount == Currency(0)) return words;
   return Join({words, Amount(l.LineAmount)});
 }

@@ -2,6 +2,9 @@
 
 #include <cmath>
 
+#include "engine/subject_codes.h"
+#include "script/comparison_codes.h"
+
 namespace {
 
 Currency SumSlots(const std::array<Currency, bet::kSlots>& amounts, int first, int last) {
@@ -14,16 +17,16 @@ Currency SumSlots(const std::array<Currency, bet::kSlots>& amounts, int first, i
 // the condition groups and add the inside and outside Place rows.
 Currency GroupSum(const std::array<Currency, bet::kSlots>& a, int code) {
   switch (code) {
-    case 1000: return SumSlots(a, 1, 83);
-    case 1001: return SumSlots(a, 1, 6);
-    case 1002: return SumSlots(a, 7, 12);
-    case 1003: return SumSlots(a, 13, 18);
-    case 1004: return SumSlots(a, 19, 24);
-    case 1005: return SumSlots(a, 25, 30);
-    case 1006: return SumSlots(a, 31, 36);
-    case 1007: return SumSlots(a, 32, 35);
-    case 1008: return a[31] + a[32] + a[35] + a[36];
-    case 1009: return SumSlots(a, 37, 42);
+    case subject::kAllBets: return SumSlots(a, 1, 83);
+    case subject::kLayBets: return SumSlots(a, 1, 6);
+    case subject::kDontComeBets: return SumSlots(a, 7, 12);
+    case subject::kDontComeOddsBets: return SumSlots(a, 13, 18);
+    case subject::kComeBets: return SumSlots(a, 19, 24);
+    case subject::kComeOddsBets: return SumSlots(a, 25, 30);
+    case subject::kPlaceBets: return SumSlots(a, 31, 36);
+    case subject::kInsidePlace: return SumSlots(a, 32, 35);
+    case subject::kOutsidePlace: return a[31] + a[32] + a[35] + a[36];
+    case subject::kBuyBets: return SumSlots(a, 37, 42);
     default: return Currency();
   }
 }
@@ -40,39 +43,39 @@ Currency ValueOf(const Game& g, int code, int num, bool last) {
   const auto& amounts = last ? g.BetAtRollStart : g.BetAmount;
   const auto& h = g.HandStats;
   if (code >= 0 && code <= bet::kLastTableBet) return amounts[code];
-  if (code >= 1000 && code <= 1009) return GroupSum(amounts, code);
+  if (code >= subject::kAllBets && code <= subject::kBuyBets) return GroupSum(amounts, code);
   switch (code) {
-    case 1311: return Currency(g.RollCounts[0]);
-    case 1312: return Currency(last ? h[17] : h[0]);
-    case 1314: return Currency(h[10]);
-    case 1315: return Currency(last ? h[18] : h[1]);
-    case 1317: return Currency(h[13]);
-    case 1318: return Currency(last ? h[19] : h[15]);
-    case 1400: return g.Bankroll();
-    case 1401: return AverageBankroll(g);
-    case 1402: return last ? g.HighBankroll : Max(g.HighBankroll, g.Bankroll());
-    case 1403: return last ? g.LowBankroll : Min(g.LowBankroll, g.Bankroll());
-    case 1410: return g.Bankroll() - g.TotalOnTable;
-    case 1600:
+    case subject::kGameRolls: return Currency(g.RollCounts[0]);
+    case subject::kShooterRolls: return Currency(last ? h[hand::kLastHandRolls] : h[hand::kRolls]);
+    case subject::kGamePasses: return Currency(h[hand::kAllWins]);
+    case subject::kShooterPasses: return Currency(last ? h[hand::kLastHandWins] : h[hand::kWins]);
+    case subject::kGameMisses: return Currency(h[hand::kAllLosses]);
+    case subject::kShooterMisses: return Currency(last ? h[hand::kLastHandLossesInRow] : h[hand::kLossesInRow]);
+    case subject::kBankroll: return g.Bankroll();
+    case subject::kAverageBankroll: return AverageBankroll(g);
+    case subject::kHighestBankroll: return last ? g.HighBankroll : Max(g.HighBankroll, g.Bankroll());
+    case subject::kLowestBankroll: return last ? g.LowBankroll : Min(g.LowBankroll, g.Bankroll());
+    case subject::kAvailableBankroll: return g.Bankroll() - g.TotalOnTable;
+    case subject::kChipStack:
       return num >= 0 && num + bet::kFirstStack < bet::kSlots ? g.BetAmount[num + bet::kFirstStack] : Currency();
-    case 1601: {
+    case subject::kChipStackRef: {
       const int ref = ChipStackReference(g, num);
       return ref < 0 ? Currency() : amounts[ref + bet::kFirstStack];
     }
-    case 1700:
-    case 1701: {  // actual decided wagers: their count, or their amount
-      const int measure = code == 1700 ? 1 : 2;
+    case subject::kDecidedWagerCount:
+    case subject::kDecidedWagerAmount: {  // actual decided wagers: their count, or their amount
+      const int measure = code == subject::kDecidedWagerCount ? 1 : 2;
       Currency sum;
       for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) sum += g.BetWagers[1][id][measure];
       return sum;
     }
-    case 1702: return Currency(LiveBets(g));
-    case 1703: return g.TotalOnTable;
-    case 1800:
-    case 1803:
-    case 1804:
-    case 1805:
-    case 1806: {
+    case subject::kCurrentWagerCount: return Currency(LiveBets(g));
+    case subject::kCurrentWagerAmount: return g.TotalOnTable;
+    case subject::kPointLay:
+    case subject::kPointCome:
+    case subject::kPointComeOdds:
+    case subject::kPointPlace:
+    case subject::kPointBuy: {
       const int id = ShootersPointBet(g, code);
       return id == 0 ? Currency() : amounts[id];
     }
@@ -91,11 +94,11 @@ int ChipStackReference(const Game& g, int num) {
 int ShootersPointBet(const Game& g, int code) {
   int base = 0;
   switch (code) {
-    case 1800: base = 1; break;
-    case 1803: base = 19; break;
-    case 1804: base = 25; break;
-    case 1805: base = 31; break;
-    case 1806: base = 37; break;
+    case subject::kPointLay: base = 1; break;
+    case subject::kPointCome: base = 19; break;
+    case subject::kPointComeOdds: base = 25; break;
+    case subject::kPointPlace: base = 31; break;
+    case subject::kPointBuy: base = 37; break;
     default: return 0;
   }
   if (g.Point == 0) return 0;
@@ -106,13 +109,15 @@ Currency GetValue(const Game& g, int code, int num) { return ValueOf(g, code, nu
 Currency GetLastValue(const Game& g, int code, int num) { return ValueOf(g, code, num, true); }
 
 bool CompareValues(Currency left, int code, Currency right) {
+  // A comparison with a target's value works as the one with an amount.
+  if (comparison::AgainstTarget(code)) code -= comparison::kTargetOffset;
   switch (code) {
-    case 11: case 17: return left == right;
-    case 12: case 18: return left != right;
-    case 13: case 19: return left > right;
-    case 14: case 20: return !(left > right);
-    case 15: case 21: return left < right;
-    case 16: case 22: return !(left < right);
+    case comparison::kEqual: return left == right;
+    case comparison::kNotEqual: return left != right;
+    case comparison::kMore: return left > right;
+    case comparison::kNotMore: return !(left > right);
+    case comparison::kLess: return left < right;
+    case comparison::kNotLess: return !(left < right);
     default: return false;
   }
 }

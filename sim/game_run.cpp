@@ -24,20 +24,13 @@
 
 namespace {
 
-constexpr const char* kMaxLossReason = "Stopped by exceeding the max loss limit";
-
-// The screen of a headless run: takes every default, remembers the first
-// message (during set-up a message means the set-up failed), and once per
-// roll lets a stop request in, hands on the bankroll and reports progress.
+// The screen of a headless run: takes every default, and once per roll lets
+// a stop request in, hands on the bankroll and reports progress.
 class RunnerFrontEnd : public SilentFrontEnd {
  public:
   RunnerFrontEnd(Game& g, RunControl& control, int64_t index, bool stopAtRuin)
       : game_(g), control_(control), index_(index), stopAtRuin_(stopAtRuin) {}
 
-  Reply ShowMessage(const std::string& title, const std::string& text, Buttons buttons) override {
-    if (firstMessage_.empty()) firstMessage_ = title + ": " + text;
-    return SilentFrontEnd::ShowMessage(title, text, buttons);
-  }
   void LetInputRun() override {
     const int64_t rolls = game_.RollCounts[0];
     if (control_.Series && rolls > lastRoll_) control_.Series->Add(index_, game_.Bankroll());
@@ -54,7 +47,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
       game_.AutoBetRunning = false;  // a script pass that loops stops too
     }
   }
-  void RollFinished(const std::string& reason) override { stopReason_ = reason; }
+  void RollFinished(::StopReason reason) override { stopReason_ = reason; }
 
   // Hands the rolls not yet reported to the shared counter.
   void Publish() {
@@ -64,9 +57,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
   }
   // A saved game comes with rolls of its own, which are not this run's.
   void StartCountingAt(int64_t rolls) { published_ = lastRoll_ = rolls; }
-  const std::string& FirstMessage() const { return firstMessage_; }
-  void ForgetMessages() { firstMessage_.clear(); }
-  const std::string& StopReason() const { return stopReason_; }
+  ::StopReason LastStop() const { return stopReason_; }
   bool Ruined() const { return ruined_; }
   Currency RuinHeld() const { return ruinHeld_; }
   void Watch(TableWatcher* watcher) { watcher_ = watcher; }
@@ -82,22 +73,22 @@ class RunnerFrontEnd : public SilentFrontEnd {
   int64_t lastRoll_ = 0;
   bool ruined_ = false;
   Currency ruinHeld_;
-  std::string firstMessage_;
-  std::string stopReason_;
+  ::StopReason stopReason_ = ::StopReason::None;
   TableWatcher* watcher_ = nullptr;
 };
 
-void FailIfTold(const RunnerFrontEnd& ui, const std::string& what) {
-  if (!ui.FirstMessage().empty()) throw GameSetUpError(what + ": " + ui.FirstMessage());
+// A set-up step that has anything to tell (a refusal, a linked file gone or
+// changed) fails the set-up: a run must not go on from what it was not given.
+void FailIfTold(const FileStatus& status, const std::string& what) {
+  if (!status.Messages.empty()) throw GameSetUpError(what + ": " + status.FirstMessage());
 }
 
-// The saved game as it stood; any message while opening (a refusal, a
-// linked file gone or changed) fails the set-up.
-void OpenSavedGame(Game& g, const RunOptions& options, RunnerFrontEnd& ui) {
+// The saved game as it stood.
+void OpenSavedGame(Game& g, const RunOptions& options) {
   g.DataFolder = std::filesystem::path(options.GameFile).parent_path().string();
   FillDefaults(g);
-  const bool opened = OpenGame(g, options.GameFile);
-  FailIfTold(ui, "game file \"" + options.GameFile + "\"");
+  const FileStatus opened = OpenGame(g, options.GameFile);
+  FailIfTold(opened, "game file \"" + options.GameFile + "\"");
   if (!opened) throw GameSetUpError("game file \"" + options.GameFile + "\" could not be opened");
   if (options.Bankroll) {
     g.BetAmount[bet::kBankroll] = g.AmountInvested = *options.Bankroll;
@@ -106,29 +97,27 @@ void OpenSavedGame(Game& g, const RunOptions& options, RunnerFrontEnd& ui) {
   }
 }
 
-void SetUpTable(Game& g, const RunOptions& options, int64_t seed, RunnerFrontEnd& ui) {
+void SetUpTable(Game& g, const RunOptions& options, int64_t seed) {
   if (!options.GameFile.empty()) {
-    OpenSavedGame(g, options, ui);
+    OpenSavedGame(g, options);
   } else {
     SetUpFreshTable(g, FreshTable{false, options.Bankroll});
   }
   if (options.Rng != 0) g.RngChoice = options.Rng - 1;
   if (!options.ReSeed) return;
   g.SeedRequest = Currency::FromRaw(seed * Currency::kScale);
-  SeedRNG(g, true);
-  FailIfTold(ui, "seed " + std::to_string(seed));
+  SeedRNG(g, true);  // silent: a seed out of limits is left unset, as checked below
   if (g.LastSeed != seed)
     throw GameSetUpError("seed " + std::to_string(seed) + " is outside the limits of generator #" +
                              std::to_string(g.RngChoice + 1));
 }
 
-void OpenDice(Game& g, const std::string& path, RunnerFrontEnd& ui) {
+void OpenDice(Game& g, const std::string& path) {
   // A pipe or a device would hang the run or feed it without end.
   if (const std::string reason = NotARegularFileReason(path); !reason.empty())
     throw GameSetUpError("Dice Roll File \"" + path + "\" " + reason);
-  OpenRollFile(g, path);
-  SetRecorderStatus(g, kRecorderPlayback);
-  FailIfTold(ui, "Dice Roll File \"" + path + "\"");
+  FailIfTold(OpenRollFile(g, path), "Dice Roll File \"" + path + "\"");
+  SetRecorderStatus(g, kRecorderPlayback);  // cannot refuse: the file is open
 }
 
 // The script's first cycle runs as the table's offer would run it on Yes.
@@ -159,14 +148,13 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
   AssembleGame(g);
   RunnerFrontEnd ui(g, control, index, options.StopAtRuin);
   g.Ui = &ui;
-  SetUpTable(g, options, seed, ui);
+  SetUpTable(g, options, seed);
   if (!options.DicePath.empty()) {
     if (g.DiceFile.File.IsOpen()) CloseRollFile(g);
-    OpenDice(g, options.DicePath, ui);
+    OpenDice(g, options.DicePath);
   }
-  ui.ForgetMessages();
 
-  const int64_t rollsBefore = g.RollCounts[0], handsBefore = g.HandStats[2];
+  const int64_t rollsBefore = g.RollCounts[0], handsBefore = g.HandStats[hand::kHands];
   ui.StartCountingAt(rollsBefore);
   GameResult r;
   r.Index = index;
@@ -188,7 +176,7 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
   ui.Publish();
   if (control.Series) control.Series->EndGame(index);
   std::string where;
-  if (ui.StopReason() == kOutOfLimitsReason && g.DiceFile.File.IsOpen()) {
+  if (ui.LastStop() == StopReason::RollFileOutOfLimits && g.DiceFile.File.IsOpen()) {
     const int64_t roll = g.DiceFile.NextRollNum;
     where = " Roll #" + FormatWithCommas(roll) + " of " + g.DiceFile.File.Path() + " is the byte " +
             std::to_string(g.DiceFile.File.Read(roll)) + ", which is no pair of dice.";
@@ -196,14 +184,14 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
   if (g.DiceFile.File.IsOpen()) CloseRollFile(g);
 
   r.Rolls = g.RollCounts[0] - rollsBefore;
-  r.StopReason = ui.StopReason() + where;
+  r.StopReason = StopReasonText(ui.LastStop()) + where;
   if (ui.Ruined())
     r.StopReason = RuinStopReason(ui.RuinHeld(), g.TableMinimum, r.Rolls);
   else if (r.StopReason.empty() && control.Stop.load())
     r.StopReason = InterruptedStopReason(r.Rolls);
   const int64_t planned = options.Rolls > 0 ? options.Rolls : MaxRolls;
   if (r.Rolls < planned) control.RollsNotNeeded.fetch_add(planned - r.Rolls, std::memory_order_relaxed);
-  r.Hands = g.HandStats[2] - handsBefore;
+  r.Hands = g.HandStats[hand::kHands] - handsBefore;
   r.SimHours = SimHours(g);
   r.BankrollEnd = g.Bankroll();
   r.BankrollHigh = g.HighBankroll;
@@ -217,7 +205,7 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
   r.AmountWon = actual.Wins[results::kTotal];
   r.AmountLost = actual.Losses[results::kTotal];
   r.Bets = ActualBetLines(g);
-  r.Ruined = options.StopAtRuin ? ui.Ruined() : g.LowBankroll <= 0 || r.StopReason.rfind(kMaxLossReason, 0) == 0;
+  r.Ruined = options.StopAtRuin ? ui.Ruined() : g.LowBankroll <= 0 || ui.LastStop() == StopReason::MaxLoss;
   r.LogRecord = FinishedGameRecord(g);
   r.Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
   return r;

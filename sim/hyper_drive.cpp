@@ -35,7 +35,7 @@ void StartHyperDrive(Game& g) {
   RollDice(g);
 }
 
-void StopRolling(Game& g, const std::string& reason) {
+void StopRolling(Game& g, StopReason reason) {
   g.KeepRolling = false;
   g.StopReason = reason;
 }

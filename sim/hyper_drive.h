@@ -4,6 +4,7 @@
 #include <string>
 
 #include "dice/money.h"
+#include "engine/stop_reason.h"
 #include "stats/game_measures.h"
 
 struct Game;
@@ -14,7 +15,7 @@ struct Game;
 void StartHyperDrive(Game& g);
 
 // Any stop: the loop ends after the roll in progress, for this reason.
-void StopRolling(Game& g, const std::string& reason);
+void StopRolling(Game& g, StopReason reason);
 
 // The units of the simulated roll rate, in list order.
 enum class RateUnit { RollsPerHour, RollsPerMinute, RollsPerSecond, HoursPerRoll, MinutesPerRoll, SecondsPerRoll };

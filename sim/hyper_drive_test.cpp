@@ -54,10 +54,10 @@ TEST(HyperDrive, SecondPressStopsAndAStartRunsToTheCount) {
   StartHyperDrive(t.g);
   EXPECT_EQ(t.g.RollCounts[0], 250);
   EXPECT_FALSE(t.g.HyperDriveOn);
-  EXPECT_EQ(t.ui.stopReason, "Stopped by roll count on Auto-Play screen.");
+  EXPECT_EQ(t.ui.stopReason, StopReason::RollCount);
   EXPECT_DOUBLE_EQ(SimHours(t.g), 2.5);
 
-  StopRolling(t.g, "why");
+  StopRolling(t.g, StopReason::ScriptCommand);
   EXPECT_FALSE(t.g.KeepRolling);
-  EXPECT_EQ(t.g.StopReason, "why");
+  EXPECT_EQ(t.g.StopReason, StopReason::ScriptCommand);
 }

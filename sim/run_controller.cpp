@@ -80,7 +80,7 @@ void RunController::Finished(RunKind kind) {
   link_->TakeQueued(late);
   for (const BetweenRolls& control : late) ApplyBetweenRolls(g_, control);
   if (!late.empty()) link_->Publish(g_, false);
-  const RunEnd end{kind, runScreen_->StopReason(), link_->Stopped(), error_};
+  const RunEnd end{kind, runScreen_->LastStop(), link_->Stopped(), error_};
   runScreen_->CatchUp();
   running_.store(false);
   if (finished_) finished_(end);

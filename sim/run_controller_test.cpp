@@ -120,7 +120,7 @@ TEST(RunController, AStopEndsAutoRollAfterTheRollInProgress) {
     r.ui.stopAfter = 3;
     const RunEnd end = Control(RunKind::AutoRoll, queue, rc);
     EXPECT_TRUE(end.Stopped);
-    EXPECT_EQ(end.StopReason, "");
+    EXPECT_EQ(end.StopReason, StopReason::None);
     EXPECT_EQ(r.g.RollCounts[0], 3);
     EXPECT_EQ(r.ui.askedOn.size(), 3u);
     EXPECT_FALSE(r.g.KeepRolling);
@@ -171,7 +171,7 @@ TEST(RunController, HyperDriveSnapshotsClimbUntilStopAndASecondStartIsRefused) {
   rc.Wait();
 
   EXPECT_TRUE(end.Stopped);
-  EXPECT_EQ(end.StopReason, "");
+  EXPECT_EQ(end.StopReason, StopReason::None);
   EXPECT_FALSE(rc.Running());
   EXPECT_LT(r.g.RollCounts[0], MaxRolls);
   EXPECT_FALSE(r.g.HyperDriveOn);

@@ -46,7 +46,7 @@ class RunScreen : public FrontEnd {
   void PlaySoundFile(const std::string& name) override;
   void RedrawBet(int betId) override;
   void RefreshTable() override { refresh_ = true; }
-  void RollFinished(const std::string& stopReason) override { stopReason_ = stopReason; }
+  void RollFinished(::StopReason stopReason) override { stopReason_ = stopReason; }
 
   void LetInputRun() override;
   void WaitSeconds(double seconds) override;
@@ -57,7 +57,7 @@ class RunScreen : public FrontEnd {
   // On the front end's thread once the run has let go of the game: the
   // redraws gathered during the run, then the screen's RollFinished.
   void CatchUp() const;
-  const std::string& StopReason() const { return stopReason_; }
+  ::StopReason LastStop() const { return stopReason_; }
 
  private:
   using Clock = std::chrono::steady_clock;
@@ -84,18 +84,18 @@ class RunScreen : public FrontEnd {
   int32_t rollsAtLastPause_ = -1;
   std::bitset<bet::kSlots> redraw_;
   bool refresh_ = false;
-  std::string stopReason_;
+  ::StopReason stopReason_ = ::StopReason::None;
 };
 
 template <typename Question>
 auto RunScreen::Ask(Question question) const {
-  using Answer = decltype(question(silent_));
+  using Given = decltype(question(silent_));
   if (link_->Stopped()) return question(silent_);
   // Shared with the posted task: a stop may leave it to answer after the run went on.
-  auto answer = std::make_shared<std::optional<Answer>>();
+  auto answer = std::make_shared<std::optional<Given>>();
   post_([link = link_, screen = &screen_, answer, question] {
     if (link->Closed() || link->Stopped()) return;
-    Answer given = question(*screen);
+    Given given = question(*screen);
     link->GiveAnswer([&] { *answer = std::move(given); });
   });
   if (!link_->AwaitAnswer([&] { return answer->has_value(); })) return question(silent_);

@@ -33,7 +33,7 @@ void Table::BeginRun() {
   for (TableListener* l : listeners_) l->RunStarted();
 }
 
-void Table::EndRun(const std::string& reason) {
+void Table::EndRun(StopReason reason) {
   busy_ = false;
   Publish();
   for (TableListener* l : listeners_) l->RunStopped(reason);
@@ -185,7 +185,7 @@ RunResult Table::Throw() {
   RollDice(g);
   RunResult r;
   r.rolls = g.RollCounts[0] - before;
-  r.reason = relay_->StopReason();
+  r.reason = relay_->LastStop();
   return r;
 }
 
@@ -228,7 +228,7 @@ RunResult Table::Run(bool hyperDrive) {
   g.HyperDriveOn = false;
   RunResult r;
   r.rolls = g.RollCounts[0] - before;
-  r.reason = relay_->StopReason().empty() ? g.StopReason : relay_->StopReason();
+  r.reason = relay_->LastStop() == StopReason::None ? g.StopReason : relay_->LastStop();
   EndRun(r.reason);
   return r;
 }
@@ -274,10 +274,10 @@ RunResult Table::HyperDrive(std::optional<int32_t> rolls) {
   });
 }
 
-TableResult Table::Stop(const std::string& reason) {
+TableResult Table::Stop(StopReason reason) {
   // No gate: stopping is what a busy table is asked.
   Game& g = *game_;
-  if (reason.empty()) {
+  if (reason == StopReason::None) {
     g.KeepRolling = false;
   } else {
     StopRolling(g, reason);

@@ -52,7 +52,7 @@ class Table {
   // graph window answers kBusyText.
   bool Busy() const { return busy_; }
   void BeginRun();
-  void EndRun(const std::string& reason);
+  void EndRun(StopReason reason);
 
   void Subscribe(TableListener* listener);
   void Unsubscribe(TableListener* listener);
@@ -95,7 +95,7 @@ class Table {
   // A Hyper-Drive run of `rolls`, or of the roll count set (Refused without one).
   RunResult HyperDrive(std::optional<int32_t> rolls);
   // Ends a run after the roll in progress; answered even while busy.
-  TableResult Stop(const std::string& reason = "");
+  TableResult Stop(StopReason reason = StopReason::None);
   TableResult SetThrottle(int32_t value);
 
   // --- Money and payoffs -----------------------------------------------------

@@ -13,7 +13,7 @@ TableResult NoFile() { return TableResult::Fail(TableCode::NotDone, "no Dice Rol
 
 TableResult Table::OpenRollFile(const std::string& path) {
   return Command([&](Game& g) {
-    if (!::OpenRollFile(g, path)) return NotDone("opening \"" + path + "\"");
+    if (!ShowFileStatus(g, ::OpenRollFile(g, path))) return NotDone("opening \"" + path + "\"");
     return MarkUnsavedIf(true);  // the game links another file
   });
 }
@@ -92,11 +92,11 @@ TableResult Table::TransferRolls(RollFileTransfer transfer, const std::string& p
     if (!g.DiceFile.File.IsOpen()) return NoFile();
     switch (transfer) {
       case RollFileTransfer::CopyTo:
-        return CopyToRollFile(g, path) ? TableResult{} : NotDone("the copy");
+        return ShowFileStatus(g, CopyToRollFile(g, path)) ? TableResult{} : NotDone("the copy");
       case RollFileTransfer::PasteFrom:
-        return PasteFromRollFile(g, path) ? TableResult{} : NotDone("the paste");
+        return ShowFileStatus(g, PasteFromRollFile(g, path)) ? TableResult{} : NotDone("the paste");
       case RollFileTransfer::ImportText:
-        return PasteFromTextFile(g, path) ? TableResult{} : NotDone("the import");
+        return ShowFileStatus(g, PasteFromTextFile(g, path)) ? TableResult{} : NotDone("the import");
     }
     return TableResult{};
   });
@@ -105,7 +105,7 @@ TableResult Table::TransferRolls(RollFileTransfer transfer, const std::string& p
 TableResult Table::ExportRolls(const std::string& path, const RollTextOptions& options) {
   return Command([&](Game& g) {
     if (!g.DiceFile.File.IsOpen()) return NoFile();
-    return CopyToTextFile(g, path, options) ? TableResult{} : NotDone("the export");
+    return ShowFileStatus(g, CopyToTextFile(g, path, options)) ? TableResult{} : NotDone("the export");
   });
 }
 

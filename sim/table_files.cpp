@@ -6,6 +6,7 @@
 #include "script/interpreter.h"
 #include "script/script_files.h"
 #include "sim/table_command.h"
+#include "store/bet_file.h"
 #include "store/game_file.h"
 #include "store/games_log_file.h"
 #include "store/hot_keys_file.h"
@@ -16,6 +17,15 @@ namespace {
 
 TableResult NotDone(const std::string& text) { return TableResult::Fail(TableCode::NotDone, text); }
 
+// A ".bet" file is refused by its dialog; a text file by its one line.
+TableResult OpenScript(Game& g, const std::string& path) {
+  const FileStatus opened = OpenScriptFile(g, path);
+  if (opened) return {};
+  if (!IsBetFilePath(path)) return NotDone(opened.Messages.empty() ? "" : opened.Messages.front().Text);
+  (void)ShowFileStatus(g, opened);
+  return NotDone("\"" + path + "\" was not opened");
+}
+
 }  // namespace
 
 TableResult Table::New(bool keepChipStacks) {
@@ -23,7 +33,7 @@ TableResult Table::New(bool keepChipStacks) {
     // As the New menu: unsaved work is offered for saving first; Cancel keeps
     // the game as it is.
     QuerySaveGame(g);
-    if (g.MsgReply == kMsgCancel) return TableResult::Fail(TableCode::Cancelled, "");
+    if (g.MsgReply == Answer::Cancel) return TableResult::Fail(TableCode::Cancelled, "");
     NewGame(g, keepChipStacks);
     return TableResult{};
   });
@@ -31,14 +41,14 @@ TableResult Table::New(bool keepChipStacks) {
 
 TableResult Table::Open(const std::string& path) {
   return Command([&](Game& g) {
-    if (!OpenGame(g, path)) return NotDone("\"" + path + "\" was not opened");
+    if (!ShowFileStatus(g, OpenGame(g, path))) return NotDone("\"" + path + "\" was not opened");
     return TableResult{};
   });
 }
 
 TableResult Table::SaveAs(const std::string& path) {
   return Command([&](Game& g) {
-    if (!SaveGame(g, path)) return NotDone("\"" + path + "\" was not saved");
+    if (!ShowFileStatus(g, SaveGame(g, path))) return NotDone("\"" + path + "\" was not saved");
     return TableResult{};
   });
 }
@@ -53,7 +63,7 @@ TableResult Table::Save() {
 TableResult Table::OpenGamesLog(const std::string& path) {
   return Command([&](Game& g) {
     const std::string before = g.GamesLogFile;
-    if (!OpenGamesFile(g, path)) return NotDone("\"" + path + "\" was not opened");
+    if (!ShowFileStatus(g, OpenGamesFile(g, path))) return NotDone("\"" + path + "\" was not opened");
     return MarkUnsavedIf(g.GamesLogFile != before);  // the game links another file
   });
 }
@@ -70,8 +80,7 @@ TableResult Table::CloseGamesLog() {
 
 TableResult Table::LoadScript(const std::string& path) {
   return Command([&](Game& g) {
-    std::string error;
-    if (!OpenScriptFile(g, path, error)) return NotDone(error);
+    if (const TableResult refused = OpenScript(g, path); !refused.Done()) return refused;
     ScriptOpened(g);
     g.AutoBetActivated = true;
     return TableResult{};
@@ -80,8 +89,7 @@ TableResult Table::LoadScript(const std::string& path) {
 
 TableResult Table::ReadScript(const std::string& path) {
   return Command([&](Game& g) {
-    std::string error;
-    if (!OpenScriptFile(g, path, error)) return NotDone(error);
+    if (const TableResult refused = OpenScript(g, path); !refused.Done()) return refused;
     return TableResult{};
   });
 }
@@ -121,7 +129,7 @@ HotKeyOutcome Table::RunHotKey(char key) {
 TableResult Table::DefineHotKey(char key, const std::string& file, const std::string& label) {
   return Command([&](Game& g) {
     if (!::DefineHotKey(g, key, file, label)) return NotDone(HotKeyCaption(key) + " was not defined");
-    if (!SaveHotKeys(g)) return NotDone(std::string(kHotKeysFileName) + " was not saved");
+    if (!ShowFileStatus(g, SaveHotKeys(g))) return NotDone(std::string(kHotKeysFileName) + " was not saved");
     return TableResult{};
   });
 }
@@ -129,7 +137,7 @@ TableResult Table::DefineHotKey(char key, const std::string& file, const std::st
 TableResult Table::ClearHotKey(char key) {
   return Command([&](Game& g) {
     if (!::ClearHotKey(g, key)) return TableResult::Fail(TableCode::Unknown, HotKeyCaption(key) + " is not defined");
-    if (!SaveHotKeys(g)) return NotDone(std::string(kHotKeysFileName) + " was not saved");
+    if (!ShowFileStatus(g, SaveHotKeys(g))) return NotDone(std::string(kHotKeysFileName) + " was not saved");
     return TableResult{};
   });
 }

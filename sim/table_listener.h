@@ -7,6 +7,7 @@
 #include <string>
 
 #include "dice/money.h"
+#include "engine/stop_reason.h"
 #include "engine/settlement_log.h"
 
 class TableListener {
@@ -24,5 +25,5 @@ class TableListener {
   virtual void ChipStacksChanged() {}
   virtual void UnsavedChanged(bool /*unsaved*/) {}
   virtual void RunStarted() {}
-  virtual void RunStopped(const std::string& /*reason*/) {}
+  virtual void RunStopped(StopReason /*reason*/) {}
 };

@@ -22,14 +22,14 @@ TableResult Table::ResetProbabilities() {
 TableResult Table::OpenProbabilities(const std::string& path) {
   return Command([&](Game& g) {
     if (!QuerySaveProbabilityPage(g)) return TableResult::Fail(TableCode::Cancelled, "");
-    if (!OpenProbabilityFile(g, path)) return Told(*relay_, TableCode::NotDone, "\"" + path + "\" was not opened");
+    if (!ShowFileStatus(g, OpenProbabilityFile(g, path))) return Told(*relay_, TableCode::NotDone, "\"" + path + "\" was not opened");
     return MarkUnsavedIf(true);
   });
 }
 
 TableResult Table::SaveProbabilities(const std::string& path) {
   return Command([&](Game& g) {
-    if (!SaveProbabilityFile(g, path)) return Told(*relay_, TableCode::NotDone, "\"" + path + "\" was not saved");
+    if (!ShowFileStatus(g, SaveProbabilityFile(g, path))) return Told(*relay_, TableCode::NotDone, "\"" + path + "\" was not saved");
     return TableResult{};
   });
 }

@@ -21,11 +21,11 @@ class TableRelay : public FrontEnd {
   void Forget() {
     title_.clear();
     text_.clear();
-    stopReason_.clear();
+    stopReason_ = ::StopReason::None;
   }
   const std::string& LastTitle() const { return title_; }
   const std::string& LastText() const { return text_; }
-  const std::string& StopReason() const { return stopReason_; }
+  ::StopReason LastStop() const { return stopReason_; }
 
   Reply ShowMessage(const std::string& title, const std::string& text, Buttons buttons) override {
     title_ = title;
@@ -37,7 +37,7 @@ class TableRelay : public FrontEnd {
   }
   std::optional<int> ShowSettleNotice(const SettleNotice& notice) override { return screen_->ShowSettleNotice(notice); }
   void ShowThrow(int die1, int die2, int pointAfter) override { screen_->ShowThrow(die1, die2, pointAfter); }
-  void RollFinished(const std::string& stopReason) override {
+  void RollFinished(::StopReason stopReason) override {
     stopReason_ = stopReason;
     screen_->RollFinished(stopReason);
   }
@@ -63,5 +63,6 @@ class TableRelay : public FrontEnd {
   FrontEnd* screen_;
   std::function<void()> afterVisibleRoll_;
   bool watching_ = false;
-  std::string title_, text_, stopReason_;
+  std::string title_, text_;
+  ::StopReason stopReason_ = ::StopReason::None;
 };

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "dice/money.h"
+#include "engine/stop_reason.h"
 
 enum class TableCode {
   Done,
@@ -41,7 +42,7 @@ struct BetResult : TableResult {
 
 // A run of Auto-Roll or Hyper-Drive, or a single roll.
 struct RunResult : TableResult {
-  std::string reason;  // why it stopped; "" when it simply ran out of rolls
+  StopReason reason = StopReason::None;  // why it stopped; None when it simply ran out of rolls
   int64_t rolls = 0;
 };
 

@@ -70,15 +70,15 @@ TEST(Table, CommandsAnswerAndMarkTheGameUnsaved) {
        [](Table& t) {
          t.BeginRun();
          const TableResult r = t.Bet(bet::kField, 5);
-         t.EndRun("");
+         t.EndRun(StopReason::None);
          return r;
        },
        TableCode::Busy, false},
       {"stop while busy",
        [](Table& t) {
          t.BeginRun();
-         const TableResult r = t.Stop("enough");
-         t.EndRun("enough");
+         const TableResult r = t.Stop(StopReason::ScriptCommand);
+         t.EndRun(StopReason::ScriptCommand);
          return r;
        },
        TableCode::Done, false},
@@ -145,7 +145,7 @@ class Recorder : public TableListener {
   void RollFinished(std::span<const Settlement> settled) override {
     std::string line = "settled";
     for (const Settlement& s : settled)
-      line += " " + std::to_string(s.BetId) + ":" + std::to_string(s.Outcome) + ":" + Text(s.Net);
+      line += " " + std::to_string(s.BetId) + ":" + std::to_string(static_cast<int>(s.Outcome)) + ":" + Text(s.Net);
     Note(line);
   }
   void StatisticsRefreshed() override { Note("stats"); }
@@ -153,7 +153,7 @@ class Recorder : public TableListener {
   void ChipStacksChanged() override { Note("stacks"); }
   void UnsavedChanged(bool unsaved) override { Note(unsaved ? "unsaved" : "saved"); }
   void RunStarted() override { Note("run"); }
-  void RunStopped(const std::string& reason) override { Note("stopped " + reason); }
+  void RunStopped(StopReason reason) override { Note(std::string("stopped ") + StopReasonText(reason)); }
 
  private:
   static std::string Text(Currency v) { return std::to_string(v.raw / Currency::kScale); }

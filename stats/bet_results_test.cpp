@@ -105,7 +105,7 @@ TEST(BetResults, PushesBookNothing) {
   t.g.BetStatus[bet::Place(6)] = 1;
   t.Stand(bet::Place(6), Currency::FromDouble(0.5));
   t.Dice(2, 4, 5);
-  t.Settle(1, bet::Place(6));
+  t.Settle(Outcome::Win, bet::Place(6));
   EXPECT_EQ(Wagers(t.g, kActual, bet::Place(6)), (std::array<Currency, kMeasures>{}));
   EXPECT_EQ(t.g.BetWins[kPhantom][bet::Place(6)][kTotal], Currency::FromDouble(1.1667));
 }

@@ -150,7 +150,7 @@ GameLogRecord FinishedGameRecord(const Game& g) {
   r[kAdvantagePercent] = r[kAmountWagered] == 0 ? Currency(0) : MulDiv(r[kNetAmountWon], 100, r[kAmountWagered]);
   r[kAmountInvested] = g.AmountInvested;
   r[kEndingBankroll] = g.Bankroll();
-  r[kHands] = Currency(g.HandStats[2]);
+  r[kHands] = Currency(g.HandStats[hand::kHands]);
   r[kHighBankroll] = g.HighBankroll;
   r[kLowBankroll] = g.LowBankroll;
   r[kAverageBankroll] = g.RollCounts[0] > 0 ? AverageBankroll(g) : g.Bankroll();

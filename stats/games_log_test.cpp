@@ -186,8 +186,8 @@ TEST(GamesLog, ANewGameAddsTheFinishedGameToTheActiveLog) {
   t.Roll(5, 5);
   NewGame(t.g, false);
   std::vector<GameLogRecord> games;
-  GamesFileError error;
-  ASSERT_TRUE(ReadGamesFile(path, games, error)) << error.Text;
+  const FileStatus read = ReadGamesFile(path, games);
+  ASSERT_TRUE(read) << read.FirstMessage();
   ASSERT_EQ(games.size(), 2u);
   EXPECT_EQ(games[0][logfield::kRolls], 3);
   EXPECT_EQ(games[1][logfield::kRolls], 1);

@@ -14,9 +14,9 @@ namespace {
 std::string Count(int64_t n) { return FormatWithCommas(n); }
 std::string Count(Currency n) { return FormatWithCommas(Floor(n)); }
 
-// Counter `num` over counter 2 (hands completed), 0 before the first hand ends.
-std::string PerHand(const Game& g, int num) {
-  const int32_t hands = g.HandStats[2];
+// Counter `num` over the hands completed, 0 before the first hand ends.
+std::string PerHand(const Game& g, hand::Stat num) {
+  const int32_t hands = g.HandStats[hand::kHands];
   return FormatUpToTwoDecimals(hands < 1 ? 0 : static_cast<double>(g.HandStats[num]) / hands);
 }
 
@@ -33,7 +33,7 @@ std::vector<SummaryRow> ShowSummary(Game& g) {
   const Currency net = wins[kTotal] - losses[kTotal];
   const double decided = wagers[kTotal].ToDouble();
   const auto& h = g.HandStats;
-  auto hand = [&](int i) { return Count(int64_t{h[i]}); };
+  auto count = [&](hand::Stat i) { return Count(int64_t{h[i]}); };
 
   return {
       {"Total rolls:", Count(int64_t{g.RollCounts[0]}), ""},
@@ -55,21 +55,21 @@ std::vector<SummaryRow> ShowSummary(Game& g) {
       {"Bets lost:", Money(losses[kTotal]), ""},
       {net < 0 ? "Net loss:" : "Net win:", Money(net), FormatPercent(decided != 0 ? net.ToDouble() / decided : 0)},
       {"Hands:", "", ""},
-      {"# of rolls (current Hand):", hand(0), ""},
-      {"# of Passes (current Hand):", hand(1), ""},
-      {"Total completed:", hand(2), ""},
-      {"Longest # of rolls:", hand(3), ""},
-      {"Average # of rolls:", PerHand(g, 5), ""},
-      {"Most Passes:", hand(4), ""},
-      {"Average # of Passes:", PerHand(g, 6), ""},
-      {"# of Come-out rolls:", hand(14), ""},
-      {"# that Passed (7, 11):", hand(9), ""},
-      {"# that Missed (2, 3, 12):", hand(12), ""},
-      {"# of Points established:", hand(7), ""},
-      {"# that Passed (rolled point):", hand(8), ""},
-      {"# that Missed (Seven-out):", hand(11), ""},
-      {"Total Passes:", hand(10), ""},
-      {"Total Misses:", hand(13), ""},
+      {"# of rolls (current Hand):", count(hand::kRolls), ""},
+      {"# of Passes (current Hand):", count(hand::kWins), ""},
+      {"Total completed:", count(hand::kHands), ""},
+      {"Longest # of rolls:", count(hand::kMostRolls), ""},
+      {"Average # of rolls:", PerHand(g, hand::kRollsOfHands), ""},
+      {"Most Passes:", count(hand::kMostWins), ""},
+      {"Average # of Passes:", PerHand(g, hand::kWinsOfHands), ""},
+      {"# of Come-out rolls:", count(hand::kComeOutRolls), ""},
+      {"# that Passed (7, 11):", count(hand::kComeOutWins), ""},
+      {"# that Missed (2, 3, 12):", count(hand::kComeOutLosses), ""},
+      {"# of Points established:", count(hand::kPointsEstablished), ""},
+      {"# that Passed (rolled point):", count(hand::kPointsMade), ""},
+      {"# that Missed (Seven-out):", count(hand::kSevenOuts), ""},
+      {"Total Passes:", count(hand::kAllWins), ""},
+      {"Total Misses:", count(hand::kAllLosses), ""},
   };
 }
 

@@ -59,14 +59,14 @@ TEST(Summary, LabelsInOrderAndAveragesOfZeroBeforeAHandEnds) {
   EXPECT_EQ(NetRow(rows)->Share, "0%");
 
   // Rolls in a hand not yet finished: the averages stay 0.
-  t.g.HandStats[0] = 7;
-  t.g.HandStats[5] = 7;
-  t.g.HandStats[6] = 2;
+  t.g.HandStats[hand::kRolls] = 7;
+  t.g.HandStats[hand::kRollsOfHands] = 7;
+  t.g.HandStats[hand::kWinsOfHands] = 2;
   EXPECT_EQ(ValueOf(ShowSummary(t.g), "Average # of rolls:"), "0");
   EXPECT_EQ(ValueOf(ShowSummary(t.g), "Average # of Passes:"), "0");
-  t.g.HandStats[2] = 3;
-  t.g.HandStats[5] = 10;
-  t.g.HandStats[6] = 3;
+  t.g.HandStats[hand::kHands] = 3;
+  t.g.HandStats[hand::kRollsOfHands] = 10;
+  t.g.HandStats[hand::kWinsOfHands] = 3;
   EXPECT_EQ(ValueOf(ShowSummary(t.g), "Average # of rolls:"), "3.33");
   EXPECT_EQ(ValueOf(ShowSummary(t.g), "Average # of Passes:"), "1.");
 }
@@ -80,7 +80,7 @@ TEST(Summary, FiguresOfAPlayedGame) {
   t.Place(bet::kField, 5);
   t.Roll(2, 2);  // a point of 4: the field wins 5
   t.Roll(6, 6);  // the field wins 10
-  t.g.HandStats[2] = 1;  // as if a hand had ended
+  t.g.HandStats[hand::kHands] = 1;  // as if a hand had ended
   const std::vector<SummaryRow> rows = ShowSummary(t.g);
   EXPECT_EQ(ValueOf(rows, "Total rolls:"), "4");
   EXPECT_EQ(ValueOf(rows, "Total comp value:"), "$0");

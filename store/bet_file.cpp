@@ -1,6 +1,7 @@
 #include "store/bet_file.h"
 
 #include <bit>
+#include <cctype>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -128,73 +129,68 @@ DecodedBetFile DecodeBetFile(const std::string& bytes) {
   return file;
 }
 
-std::optional<std::vector<ScriptLine>> ReadAutoBetFile(Game& g, const std::string& path) {
+FileStatus ReadAutoBetFile(const std::string& path, std::vector<ScriptLine>& lines) {
   std::string bytes, reason;
-  if (!ReadRegularFile(path, kMaxScriptFileBytes, bytes, reason)) {
-    ShowFileError(g, path, reason);
-    return std::nullopt;
-  }
+  if (!ReadRegularFile(path, kMaxScriptFileBytes, bytes, reason)) return FileErrorStatus(path, reason);
   DecodedBetFile file = DecodeBetFile(bytes);
   switch (file.Status) {
     case BetFileStatus::Ok:
-      return std::move(file.Lines);
+      lines = std::move(file.Lines);
+      return {};
     case BetFileStatus::NotDicemill:
-      ShowMessage(g, kOpenTitle,
-                  PrintableName(path) + kBreak + "has either been corrupted or is not a true Dicemill Auto-Bet file.");
-      break;
+      return FileStatus::Failed(
+          kOpenTitle, PrintableName(path) + kBreak + "has either been corrupted or is not a true Dicemill Auto-Bet file.");
     case BetFileStatus::Newer:
-      ShowMessage(g, kOpenTitle, PrintableName(path) + kBreak + "requires Dicemill version " + file.Version + " or later to run.");
-      break;
+      return FileStatus::Failed(
+          kOpenTitle, PrintableName(path) + kBreak + "requires Dicemill version " + file.Version + " or later to run.");
     case BetFileStatus::Sibling:  // its conversion is not offered: refused as an old format
     case BetFileStatus::Older:
-      ShowMessage(g, kOpenTitle,
-                  PrintableName(path) + kBreak + "has either been corrupted or was written with an older format which is no longer in use.");
       break;
   }
-  return std::nullopt;
+  return FileStatus::Failed(kOpenTitle, PrintableName(path) + kBreak +
+                                            "has either been corrupted or was written with an older format which is no "
+                                            "longer in use.");
 }
 
-bool OpenAutoBetFile(Game& g, const std::string& path) {
-  std::optional<std::vector<ScriptLine>> lines = ReadAutoBetFile(g, path);
-  if (!lines) return false;
-  g.AutoBet.Lines = std::move(*lines);
+FileStatus OpenAutoBetFile(Game& g, const std::string& path) {
+  std::vector<ScriptLine> lines;
+  FileStatus read = ReadAutoBetFile(path, lines);
+  if (!read) return read;
+  g.AutoBet.Lines = std::move(lines);
   g.AutoBet.FileName = path;
   RebuildFlags(g.AutoBet);
   g.InitPending = true;  // a changed script offers its first cycle at the table
-  return true;
+  return {};
 }
 
-bool SaveAutoBetFile(Game& g, const std::string& path, bool selectedOnly) {
-  namespace fs = std::filesystem;
+FileStatus SaveAutoBetFile(Game& g, const std::string& path, bool selectedOnly) {
   for (const ScriptLine& l : g.AutoBet.Lines) {
-    if (!FitsFileFields(l)) {  // such a line is refused when built; never narrowed here
-      ShowMessage(g, "Dicemill", RunTimeErrorText("Overflow", 6, "Save Auto-Bet File"));
-      return false;
-    }
+    if (!FitsFileFields(l))  // such a line is refused when built; never narrowed here
+      return FileStatus::Failed("Dicemill", RunTimeErrorText("Overflow", 6, "Save Auto-Bet File"));
   }
   std::string reason;
-  if (!WriteFileAtomically(path, EncodeBetFile(g.AutoBet, selectedOnly), reason)) {
-    ShowFileError(g, path, reason);
-    return false;
-  }
+  if (!WriteFileAtomically(path, EncodeBetFile(g.AutoBet, selectedOnly), reason)) return FileErrorStatus(path, reason);
   if (!selectedOnly) {
     g.AutoBet.FileName = path;
     g.ScriptDirty = false;
   }
-  return true;
+  return {};
 }
 
-bool SaveBetFile(const std::string& path, const Script& script, std::string& error) {
+bool IsBetFilePath(const std::string& path) {
+  std::string extension = std::filesystem::path(path).extension().string();
+  for (char& ch : extension) ch = static_cast<char>(std::tolower(static_cast<unsigned char>(ch)));
+  return extension == ".bet";
+}
+
+FileStatus SaveBetFile(const std::string& path, const Script& script) {
   for (int n = 1; n <= script.NumLines(); ++n) {
-    if (!FitsFileFields(script.Line(n))) {
-      error = PrintableName(path) + ": line " + std::to_string(n) + " has a number that a .bet record cannot hold";
-      return false;
-    }
+    if (!FitsFileFields(script.Line(n)))
+      return FileStatus::Failed("Error", PrintableName(path) + ": line " + std::to_string(n) +
+                                             " has a number that a .bet record cannot hold");
   }
   std::string reason;
-  if (!WriteFileAtomically(path, EncodeBetFile(script, false), reason)) {
-    error = PrintableName(path) + " " + reason + ".";
-    return false;
-  }
-  return true;
+  if (!WriteFileAtomically(path, EncodeBetFile(script, false), reason))
+    return FileStatus::Failed("Error", PrintableName(path) + " " + reason + ".");
+  return {};
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/file_status.h"
 #include "engine/script.h"
 
 struct Game;
@@ -26,18 +27,21 @@ struct DecodedBetFile {
 
 DecodedBetFile DecodeBetFile(const std::string& bytes);
 
-// Reads a file's lines, telling the player why one can't be read. The
+// Reads a file's lines into `lines`, or says why one can't be read. The
 // script is not touched; Open and Paste decide where the lines go.
-std::optional<std::vector<ScriptLine>> ReadAutoBetFile(Game& g, const std::string& path);
+FileStatus ReadAutoBetFile(const std::string& path, std::vector<ScriptLine>& lines);
 
 // Open: the file's lines replace the script, whose name becomes the path.
-bool OpenAutoBetFile(Game& g, const std::string& path);
+FileStatus OpenAutoBetFile(Game& g, const std::string& path);
 
 // Save, Save As and "Copy To Auto-Bet File" (selectedOnly). The file is
 // written beside the target and renamed over it.
-bool SaveAutoBetFile(Game& g, const std::string& path, bool selectedOnly = false);
+// True for a path whose extension is ".bet", in any case.
+bool IsBetFilePath(const std::string& path);
+
+FileStatus SaveAutoBetFile(Game& g, const std::string& path, bool selectedOnly = false);
 
 // Writes the whole script as a ".bet" file, beside the target and renamed
-// over it, telling nobody: false with `error` set to what to say. A line
-// whose numbers a record cannot hold is refused before anything is written.
-bool SaveBetFile(const std::string& path, const Script& script, std::string& error);
+// over it, telling nobody. A line whose numbers a record cannot hold is
+// refused before anything is written.
+FileStatus SaveBetFile(const std::string& path, const Script& script);

@@ -91,21 +91,25 @@ TEST(BetFile, RefusalsLeaveTheScriptAsItWas) {
   };
   Table t;
   t.g.AutoBet = Sample();
+  // A refusal is one message, for the caller to show; nothing is shown here.
+  auto refusal = [&t](const FileStatus& s) {
+    EXPECT_FALSE(s.Ok);
+    EXPECT_TRUE(t.ui.messages.empty());
+    return s.Messages.size() == 1 ? s.Messages[0] : FileMessage{};
+  };
   for (const auto& [bytes, text] : cases) {
     std::ofstream(path, std::ios::binary) << bytes;
-    EXPECT_FALSE(OpenAutoBetFile(t.g, path));
-    EXPECT_EQ(t.Last(), (RecordedMessage{title, path + "\r" + text}));
+    EXPECT_EQ(refusal(OpenAutoBetFile(t.g, path)), (FileMessage{title, path + "\r" + text}));
     EXPECT_EQ(t.g.AutoBet.Lines, Sample().Lines);
   }
   const std::string fileError = ".\rFile name error, file not found, or device error.\rCheck path and file name.";
-  EXPECT_FALSE(OpenAutoBetFile(t.g, (folder.path() / "missing.bet").string()));
-  EXPECT_EQ(t.Last(), (RecordedMessage{"Error", (folder.path() / "missing.bet").string() + " was not found" + fileError}));
-  EXPECT_FALSE(SaveAutoBetFile(t.g, folder.path().string()));
-  EXPECT_EQ(t.Last(), (RecordedMessage{"Error", folder.path().string() + " is a directory" + fileError}));
+  EXPECT_EQ(refusal(OpenAutoBetFile(t.g, (folder.path() / "missing.bet").string())),
+            (FileMessage{"Error", (folder.path() / "missing.bet").string() + " was not found" + fileError}));
+  EXPECT_EQ(refusal(SaveAutoBetFile(t.g, folder.path().string())),
+            (FileMessage{"Error", folder.path().string() + " is a directory" + fileError}));
   // A number past 16 bits is never narrowed into the file.
   t.g.AutoBet.Lines[0].TargetNum = 40000;
-  EXPECT_FALSE(SaveAutoBetFile(t.g, path));
-  EXPECT_EQ(t.Last().text, "Overflow, Error #6 occurred, at: Save Auto-Bet File\r");
+  EXPECT_EQ(refusal(SaveAutoBetFile(t.g, path)).Text, "Overflow, Error #6 occurred, at: Save Auto-Bet File\r");
 }
 
 }  // namespace

@@ -33,15 +33,16 @@ void WriteLinkRecords(Game& g, const std::string& path, RecordWriter& w) {
   PutLink(w.Add(), GetLink(g.FileExtras.Kept(5)));
 }
 
-void Refuse(Game& g, const std::string& path) {
-  ShowMessage(g, "Unable to Open Dicemill Game File",
-              PrintableName(path) + kBreak +
-                  "is either from a different version, has been corrupted, or is not a true Dicemill game file.");
+FileStatus Refusal(const std::string& path) {
+  return FileStatus::Failed(
+      "Unable to Open Dicemill Game File",
+      PrintableName(path) + kBreak +
+          "is either from a different version, has been corrupted, or is not a true Dicemill game file.");
 }
 
 }  // namespace
 
-bool SaveGame(Game& g, const std::string& path) {
+FileStatus SaveGame(Game& g, const std::string& path) {
   if (g.DiceFile.File.IsOpen()) g.DiceFile.File.Flush();  // its date must be the one on disk
   // The file holds the game as saved, so its unsaved mark goes out clear;
   // only a failed write leaves the game unsaved.
@@ -59,28 +60,21 @@ bool SaveGame(Game& g, const std::string& path) {
   std::string reason;
   if (!WriteFileAtomically(path, bytes, reason)) {
     g.GameChanged = changed;
-    ShowFileError(g, path, reason);
-    return false;
+    return FileErrorStatus(path, reason);
   }
   SetCaption(g, path);
-  return true;
+  return {};
 }
 
-bool OpenGame(Game& g, const std::string& path) {
+FileStatus OpenGame(Game& g, const std::string& path) {
   std::string bytes, reason;
-  if (!ReadRegularFile(path, kMaxGameFileBytes, bytes, reason)) {
-    ShowFileError(g, path, reason);
-    return false;
-  }
+  if (!ReadRegularFile(path, kMaxGameFileBytes, bytes, reason)) return FileErrorStatus(path, reason);
   return OpenGameBytes(g, bytes, path);
 }
 
-bool OpenGameBytes(Game& g, const std::string& bytes, const std::string& path) {
+FileStatus OpenGameBytes(Game& g, const std::string& bytes, const std::string& path) {
   // Nothing of the game changes until the whole file has been checked.
-  if (!GameFileIsWhole(bytes)) {
-    Refuse(g, path);
-    return false;
-  }
+  if (!GameFileIsWhole(bytes)) return Refusal(path);
   RecordReader r(bytes);
   const FileRecord first = r.Next();
 
@@ -99,12 +93,12 @@ bool OpenGameBytes(Game& g, const std::string& bytes, const std::string& path) {
   KeepStateInRange(g);
 
   const bool initPending = g.InitPending;
-  OpenAutoBetLink(g, autoBet);
+  FileStatus told = OpenAutoBetLink(g, autoBet);
   RestoreFlagValues(g);
   g.InitPending = initPending;
-  OpenDiceRollLink(g, diceRoll);
-  OpenProbabilityLink(g, probability);
-  CheckGamesLogLink(g, GetLink(g.FileExtras.Kept(4)));
+  told.Follow(OpenDiceRollLink(g, diceRoll));
+  told.Follow(OpenProbabilityLink(g, probability));
+  told.Follow(CheckGamesLogLink(g, GetLink(g.FileExtras.Kept(4))));
   g.GamesLogFile = GetLink(g.FileExtras.Kept(4)).Path;
   WriteActiveScript(g);  // the working copy follows the script the game links
   g.GameChanged = false;  // a game just opened is as saved, whatever the file held
@@ -112,9 +106,9 @@ bool OpenGameBytes(Game& g, const std::string& bytes, const std::string& path) {
   SetCaption(g, path);
   g.TableDirty = true;
   g.Ui->RefreshTable();
-  return true;
+  return told;
 }
 
 std::string DefaultGamePath(const Game& g) { return (fs::path(g.DataFolder) / kDefaultGameName).string(); }
 
-bool SaveDefaultGame(Game& g) { return SaveGame(g, DefaultGamePath(g)); }
+FileStatus SaveDefaultGame(Game& g) { return SaveGame(g, DefaultGamePath(g)); }

@@ -45,17 +45,15 @@ constexpr LinkWords kProbabilityWords{"The following Probability file (that was 
 
 enum class LinkState { None, Missing, Altered, Same };
 
-// Checks a link against the disk and says what is wrong with it.
-LinkState CheckLink(Game& g, const FileLink& link, const LinkWords& words) {
+// Checks a link against the disk; what is wrong with it goes to `told`.
+LinkState CheckLink(const FileLink& link, const LinkWords& words, FileStatus& told) {
   if (link.Path.empty()) return LinkState::None;
   if (!FileExists(link.Path)) {
-    ShowMessage(g, words.missingTitle,
-                std::string(words.firstLine) + kBreak + "was saved) was not found:" + kBreak + link.Path);
+    told.Tell(words.missingTitle, std::string(words.firstLine) + kBreak + "was saved) was not found:" + kBreak + link.Path);
     return LinkState::Missing;
   }
   if (FileDateText(link.Path) != link.Date) {
-    ShowMessage(g, words.alteredTitle,
-                std::string(words.firstLine) + kBreak + "was saved) has been changed:" + kBreak + link.Path);
+    told.Tell(words.alteredTitle, std::string(words.firstLine) + kBreak + "was saved) has been changed:" + kBreak + link.Path);
     return LinkState::Altered;
   }
   return LinkState::Same;
@@ -98,8 +96,7 @@ FileLink AutoBetLinkForSave(Game& g, const std::string& gamePath) {
   if (g.ScriptDirty) {
     if (!IsDefaultGame(gamePath) || script.NumLines() == 0) return {};
     const std::string path = WorkFileFor(g, gamePath, "default.bet");
-    std::string error;
-    if (!SaveBetFile(path, script, error)) return {};
+    if (!SaveBetFile(path, script)) return {};
     script.FileName = path;
     g.ScriptDirty = false;
     return LinkTo(path);
@@ -113,28 +110,31 @@ FileLink ProbabilityLinkForSave(Game& g, const std::string& gamePath) {
   if (g.ProbModified) {
     if (!IsDefaultGame(gamePath)) return {};
     const std::string path = WorkFileFor(g, gamePath, "default.prb");
-    return SaveProbabilityFile(g, path) ? LinkTo(path) : FileLink{};
+    return ShowFileStatus(g, SaveProbabilityFile(g, path)) ? LinkTo(path) : FileLink{};
   }
   return FileExists(g.ProbFileName) ? LinkTo(g.ProbFileName) : FileLink{};
 }
 
-void OpenAutoBetLink(Game& g, const FileLink& link) {
+FileStatus OpenAutoBetLink(Game& g, const FileLink& link) {
   const auto names = g.AutoBet.ChipStackNames;  // the game's, not the file's
   g.AutoBet.Lines.clear();
   g.AutoBet.Flags.clear();
   g.AutoBet.FileName.clear();
-  const LinkState state = CheckLink(g, link, kAutoBetWords);
+  FileStatus told;
+  const LinkState state = CheckLink(link, kAutoBetWords, told);
   if (state == LinkState::Same || state == LinkState::Altered) {
-    std::string error;
     // The script's reader sits above the files; the game is given it.
-    if (g.Hooks.OpenScriptFile && !g.Hooks.OpenScriptFile(g, link.Path, error) && !error.empty())
-      ShowMessage(g, "Error", error);
+    const FileStatus opened = g.Hooks.OpenScriptFile ? g.Hooks.OpenScriptFile(g, link.Path) : FileStatus{};
+    told.Follow(opened);
+    // A refused ".bet" file is told in its own words, then as not opened.
+    if (!opened && IsBetFilePath(link.Path)) told.Tell("Error", "\"" + link.Path + "\" was not opened");
   }
   g.AutoBet.ChipStackNames = names;
   g.ScriptDirty = false;
+  return told;
 }
 
-void OpenDiceRollLink(Game& g, const FileLink& link) {
+FileStatus OpenDiceRollLink(Game& g, const FileLink& link) {
   // Opening a file moves its positions; the saved ones are put back.
   DiceFileState& f = g.DiceFile;
   const int32_t mode = g.DiceFileMode;
@@ -142,20 +142,25 @@ void OpenDiceRollLink(Game& g, const FileLink& link) {
   const bool insert = f.InsertRolls;
   g.DiceFileMode = kRecorderOff;
   f.RollFileName.clear();
-  const LinkState state = CheckLink(g, link, kDiceRollWords);
-  if (state != LinkState::Same && state != LinkState::Altered) return;
-  if (!OpenRollFile(g, link.Path)) return;
+  FileStatus told;
+  const LinkState state = CheckLink(link, kDiceRollWords, told);
+  if (state != LinkState::Same && state != LinkState::Altered) return told;
+  const FileStatus opened = OpenRollFile(g, link.Path);
+  told.Follow(opened);
+  if (!opened) return told;
   f.NextRollNum = positions[0];
   f.LastRollNum = positions[1];
   f.SelectAnchor = positions[2];
   f.TopRollNum = positions[3];
   f.InsertRolls = insert;
   g.DiceFileMode = mode;
+  return told;
 }
 
-void OpenProbabilityLink(Game& g, const FileLink& link) {
+FileStatus OpenProbabilityLink(Game& g, const FileLink& link) {
   // The table itself came with the game; the link only names its file.
-  const LinkState state = CheckLink(g, link, kProbabilityWords);
+  FileStatus told;
+  const LinkState state = CheckLink(link, kProbabilityWords, told);
   if (state == LinkState::Same || state == LinkState::Altered) {
     g.ProbFileName = link.Path;
     if (state == LinkState::Altered) g.ProbModified = true;
@@ -163,14 +168,16 @@ void OpenProbabilityLink(Game& g, const FileLink& link) {
     g.ProbFileName = "untitled";
     if (state == LinkState::Missing) g.ProbModified = true;
   }
+  return told;
 }
 
-void CheckGamesLogLink(Game& g, const FileLink& link) {
-  if (link.Path.empty() || FileExists(link.Path)) return;
+FileStatus CheckGamesLogLink(Game& g, const FileLink& link) {
+  FileStatus told;
+  if (link.Path.empty() || FileExists(link.Path)) return told;
   const std::string instead = (fs::path(g.DataFolder) / "default.glg").string();
-  ShowMessage(g, "Missing Games Log",
-              std::string("The following Games Log (that was in use when this game ") + kBreak +
-                  "was saved) was not found:" + kBreak + link.Path + kBreak +
-                  "The following Games Log will be opened instead:" + kBreak + instead);
+  told.Tell("Missing Games Log", std::string("The following Games Log (that was in use when this game ") + kBreak +
+                                     "was saved) was not found:" + kBreak + link.Path + kBreak +
+                                     "The following Games Log will be opened instead:" + kBreak + instead);
   PutLink(g.FileExtras.Kept(4), LinkTo(instead));
+  return told;
 }

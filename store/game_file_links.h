@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "engine/file_status.h"
 #include "store/game_record.h"
 
 struct Game;
@@ -33,9 +34,11 @@ FileLink AutoBetLinkForSave(Game& g, const std::string& gamePath);
 FileLink DiceRollLinkForSave(const Game& g);
 FileLink ProbabilityLinkForSave(Game& g, const std::string& gamePath);
 
-// Open the linked files after the records are read, telling the player of
-// every link that is missing or has changed since the save.
-void OpenAutoBetLink(Game& g, const FileLink& link);
-void OpenDiceRollLink(Game& g, const FileLink& link);
-void OpenProbabilityLink(Game& g, const FileLink& link);
-void CheckGamesLogLink(Game& g, const FileLink& link);
+// Open the linked files after the records are read. The notices are what
+// the player is to be told of every link that is missing or has changed
+// since the save, and of a linked file that could not be opened; the game
+// opens all the same.
+FileStatus OpenAutoBetLink(Game& g, const FileLink& link);
+FileStatus OpenDiceRollLink(Game& g, const FileLink& link);
+FileStatus OpenProbabilityLink(Game& g, const FileLink& link);
+FileStatus CheckGamesLogLink(Game& g, const FileLink& link);

@@ -135,7 +135,7 @@ void KeepStateInRange(Game& g) {
   for (int32_t& status : g.BetStatus) status = std::clamp(status, -1, 2);
   for (int32_t& stack : g.TrayStack) stack = std::clamp(stack, 0, bet::kSlots - 1);
   g.TrayStack[0] = 0;
-  g.LastAnswer = std::clamp(g.LastAnswer, 1, 7);
+  g.LastAnswer = static_cast<Answer>(std::clamp(static_cast<int32_t>(g.LastAnswer), 1, 7));
 
   KeepMoneyInRange(g);
   for (auto& row : g.Prob.cell)

@@ -26,7 +26,7 @@ void WriteScriptRecords(const Game& g, RecordWriter& w) {
 
   FileRecord& state = w.Add();
   PutInt32(state, 0, g.InitPending ? kTrue : 0);
-  PutInt32(state, 1, g.LastAnswer);
+  PutInt32(state, 1, static_cast<int32_t>(g.LastAnswer));
   PutInt32(state, 2, g.RollCountAfterPass);
   PutInt32(state, 3, static_cast<int32_t>(g.AutoBet.Flags.size()));
   std::vector<int32_t> flags;
@@ -47,7 +47,7 @@ void ReadScriptRecords(Game& g, RecordReader& r) {
 
   const FileRecord state = r.Next();
   g.InitPending = GetInt32(state, 0) != 0;
-  g.LastAnswer = GetInt32(state, 1);
+  g.LastAnswer = static_cast<Answer>(GetInt32(state, 1));
   g.RollCountAfterPass = GetInt32(state, 2);
   const int32_t count = std::clamp(GetInt32(state, 3), 0, kMostFlags);
   const std::vector<int32_t> flags = r.NextInt32s(static_cast<size_t>(count) * 2);

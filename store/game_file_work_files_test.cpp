@@ -31,8 +31,8 @@ struct FolderGame {
     FillDefaults(g);
     NewGame(g, false);
     WriteBytes(data.path() / "script.txt", kScript);
-    std::string error;
-    EXPECT_TRUE(LoadScriptFile((data.path() / "script.txt").string(), g.AutoBet, error)) << error;
+    const FileStatus loaded = LoadScriptFile((data.path() / "script.txt").string(), g.AutoBet);
+    EXPECT_TRUE(loaded) << loaded.FirstMessage();
   }
 };
 

@@ -33,13 +33,14 @@ std::string TrimBlanks(const std::string& text) {
   return text.substr(first, last - first + 1);
 }
 
-GamesFileError NotAGamesFile(const std::filesystem::path& path) {
-  return {"Unable to Open Dicemill Games File",
-          PrintableName(path) + kBreak + "is either from an older version, has been corrupted, or is not a true Dicemill Games File."};
+FileStatus NotAGamesFile(const std::filesystem::path& path) {
+  return FileStatus::Failed(
+      "Unable to Open Dicemill Games File",
+      PrintableName(path) + kBreak + "is either from an older version, has been corrupted, or is not a true Dicemill Games File.");
 }
 
-GamesFileError RunTimeError(const std::string& description, int number, const std::string& routine) {
-  return {"Dicemill", RunTimeErrorText(description, number, routine)};
+FileStatus RunTimeError(const std::string& description, int number, const std::string& routine) {
+  return FileStatus::Failed("Dicemill", RunTimeErrorText(description, number, routine));
 }
 
 // Field numbers as the log's statistics name them.
@@ -65,7 +66,6 @@ bool IsPlausible(const GameLogRecord& r) {
          IsDifference(r[kNetAmountWon], r[kAmountWon], r[kAmountLost]);
 }
 
-void Show(Game& g, const GamesFileError& error) { ShowMessage(g, error.Title, error.Text); }
 
 }  // namespace
 
@@ -97,63 +97,42 @@ bool DecodeGamesFile(const std::string& bytes, std::vector<GameLogRecord>& games
   return true;
 }
 
-bool ReadGamesFile(const std::filesystem::path& path, std::vector<GameLogRecord>& games, GamesFileError& error) {
+FileStatus ReadGamesFile(const std::filesystem::path& path, std::vector<GameLogRecord>& games) {
   std::error_code ec;
-  if (!std::filesystem::exists(path, ec)) {
-    error = RunTimeError("File not found", 53, "Open Games File");
-    return false;
-  }
+  if (!std::filesystem::exists(path, ec)) return RunTimeError("File not found", 53, "Open Games File");
   std::string bytes, reason;
-  if (!ReadRegularFile(path, kMaxGamesLogBytes, bytes, reason)) {
-    error = {"Error", FileErrorText(path, reason)};
-    return false;
-  }
-  if (!DecodeGamesFile(bytes, games)) {
-    error = NotAGamesFile(path);
-    return false;
-  }
-  return true;
+  if (!ReadRegularFile(path, kMaxGamesLogBytes, bytes, reason)) return FileErrorStatus(path, reason);
+  if (!DecodeGamesFile(bytes, games)) return NotAGamesFile(path);
+  return {};
 }
 
-bool AppendGamesToLog(const std::filesystem::path& path, const std::vector<GameLogRecord>& added,
-                      GamesFileError& error) {
+FileStatus AppendGamesToLog(const std::filesystem::path& path, const std::vector<GameLogRecord>& added) {
   std::vector<GameLogRecord> games;
   std::error_code ec;
-  if (std::filesystem::exists(path, ec) && !ReadGamesFile(path, games, error)) return false;
+  if (std::filesystem::exists(path, ec)) {
+    FileStatus read = ReadGamesFile(path, games);
+    if (!read) return read;
+  }
   games.insert(games.end(), added.begin(), added.end());
   std::string reason = "would hold more games than a log can count";
-  if (games.size() > static_cast<size_t>(INT32_MAX) || !WriteFileAtomically(path, EncodeGamesFile(games), reason)) {
-    error = {"Error", FileErrorText(path, reason)};
-    return false;
-  }
-  return true;
+  if (games.size() > static_cast<size_t>(INT32_MAX) || !WriteFileAtomically(path, EncodeGamesFile(games), reason))
+    return FileErrorStatus(path, reason);
+  return {};
 }
 
-bool OpenGamesFile(Game& g, const std::string& path) {
+FileStatus OpenGamesFile(Game& g, const std::string& path) {
   std::error_code ec;
-  GamesFileError error;
-  if (std::filesystem::exists(path, ec)) {
-    std::vector<GameLogRecord> games;
-    if (!ReadGamesFile(path, games, error)) {
-      Show(g, error);
-      return false;
-    }
-  } else if (!AppendGamesToLog(path, {}, error)) {
-    Show(g, error);
-    return false;
-  }
-  g.GamesLogFile = path;
-  return true;
+  std::vector<GameLogRecord> games;
+  FileStatus opened = std::filesystem::exists(path, ec) ? ReadGamesFile(path, games) : AppendGamesToLog(path, {});
+  if (opened) g.GamesLogFile = path;
+  return opened;
 }
 
-bool SaveGameToLog(Game& g, const std::string& path, const GameLogRecord& record) {
-  GamesFileError error;
-  if (AppendGamesToLog(path, {record}, error)) return true;
-  Show(g, error);
-  return false;
+FileStatus SaveGameToLog(const std::string& path, const GameLogRecord& record) {
+  return AppendGamesToLog(path, {record});
 }
 
 void LogFinishedGame(Game& g) {
   if (g.GamesLogFile.empty() || g.RollCounts[0] == 0) return;
-  SaveGameToLog(g, g.GamesLogFile, FinishedGameRecord(g));
+  (void)ShowFileStatus(g, SaveGameToLog(g.GamesLogFile, FinishedGameRecord(g)));
 }

@@ -84,29 +84,27 @@ HotKeysStatus DecodeHotKeys(const std::string& bytes, std::vector<HotKeyBinding>
   return HotKeysStatus::Ok;
 }
 
-void LoadHotKeys(Game& g) {
+FileStatus LoadHotKeys(Game& g) {
   g.HotKeys.clear();
   std::error_code ec;
   const auto path = HotKeysPath(g);
-  if (g.DataFolder.empty() || (!std::filesystem::exists(path, ec) && !std::filesystem::is_symlink(path, ec))) return;
+  if (g.DataFolder.empty() || (!std::filesystem::exists(path, ec) && !std::filesystem::is_symlink(path, ec))) return {};
   std::string bytes, reason;
   const bool read = ReadRegularFile(path, kMaxSmallFileBytes, bytes, reason);
-  if (read && DecodeHotKeys(bytes, g.HotKeys) == HotKeysStatus::Ok) return;
+  if (read && DecodeHotKeys(bytes, g.HotKeys) == HotKeysStatus::Ok) return {};
   // Whatever is wrong, the table starts with no Hot-Keys and says why.
   g.HotKeys.clear();
-  ShowMessage(g, "Unable to Open Hot-Key File",
-              PrintableName(path) + kBreak +
-                  (read ? "has either been corrupted or is not a true Dicemill Hot-Key file." : reason + ".") +
-                  kBreak + "No Hot-Keys are defined.");
+  return FileStatus::Failed("Unable to Open Hot-Key File",
+                            PrintableName(path) + kBreak +
+                                (read ? "has either been corrupted or is not a true Dicemill Hot-Key file." : reason + ".") +
+                                kBreak + "No Hot-Keys are defined.");
 }
 
-bool SaveHotKeys(Game& g) {
+FileStatus SaveHotKeys(Game& g) {
   std::string reason = g.DataFolderInUse ? "is in use by another Dicemill" : "has no data folder";
-  if (g.DataFolder.empty() || g.DataFolderInUse || !WriteFileAtomically(HotKeysPath(g), EncodeHotKeys(g.HotKeys), reason)) {
-    ShowFileError(g, HotKeysPath(g), reason);
-    return false;
-  }
-  return true;
+  if (g.DataFolder.empty() || g.DataFolderInUse || !WriteFileAtomically(HotKeysPath(g), EncodeHotKeys(g.HotKeys), reason))
+    return FileErrorStatus(HotKeysPath(g), reason);
+  return {};
 }
 
 const HotKeyBinding* FindHotKey(const Game& g, char key) {

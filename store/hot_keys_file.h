@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/file_status.h"
 #include "engine/hot_key_binding.h"
 
 struct Game;
@@ -30,12 +31,12 @@ enum class HotKeysStatus { Ok, Corrupt };
 HotKeysStatus DecodeHotKeys(const std::string& bytes, std::vector<HotKeyBinding>& keys);
 
 // Reads "HotKeys.dta" of the data folder into g.HotKeys. A missing file means
-// no bindings and says nothing; a corrupt one says so and binds nothing,
-// leaving the file as it is.
-void LoadHotKeys(Game& g);
-// Writes g.HotKeys to "HotKeys.dta" beside itself and renames it into place.
-// False, with the file-name error shown, when it can't be written.
-bool SaveHotKeys(Game& g);
+// no bindings and nothing to tell; a corrupt one binds nothing, leaving the
+// file as it is, and says why.
+FileStatus LoadHotKeys(Game& g);
+// Writes g.HotKeys to "HotKeys.dta" beside itself and renames it into place;
+// the file-name error when it can't be written.
+FileStatus SaveHotKeys(Game& g);
 
 // The binding of a key, or nullptr.
 const HotKeyBinding* FindHotKey(const Game& g, char key);

@@ -78,31 +78,34 @@ TEST(HotKeysFile, MissingCorruptAndFailedFiles) {
   t.g.DataFolder = folder.path().string();
   const auto path = folder.path() / kHotKeysFileName;
   t.g.HotKeys = kKeys;
-  LoadHotKeys(t.g);  // missing: no bindings, not a word
+  const FileStatus missing = LoadHotKeys(t.g);  // missing: no bindings, not a word
+  EXPECT_TRUE(missing.Ok && missing.Messages.empty());
   EXPECT_TRUE(t.g.HotKeys.empty());
-  EXPECT_TRUE(t.ui.messages.empty());
 
   t.g.HotKeys = kKeys;
   ASSERT_TRUE(SaveHotKeys(t.g));
   EXPECT_FALSE(std::filesystem::exists(path.string() + ".tmp"));
   t.g.HotKeys.clear();
-  LoadHotKeys(t.g);
+  ASSERT_TRUE(LoadHotKeys(t.g));
   EXPECT_TRUE(Same(t.g.HotKeys, kKeys));
 
   std::ofstream(path, std::ios::binary) << "not a hot-key file";
-  LoadHotKeys(t.g);
+  const FileStatus corrupt = LoadHotKeys(t.g);
   EXPECT_TRUE(t.g.HotKeys.empty());
-  ASSERT_EQ(t.ui.messages.size(), 1u);
-  EXPECT_EQ(t.ui.messages[0].title, "Unable to Open Hot-Key File");
+  ASSERT_EQ(corrupt.Messages.size(), 1u);
+  EXPECT_EQ(corrupt.Messages[0].Title, "Unable to Open Hot-Key File");
   EXPECT_EQ(ReadBytes(path), "not a hot-key file");  // left for the player to look at
 
   // A save that can't be written says so and leaves the old file whole.
   t.g.HotKeys = kKeys;
   {
     const FileSizeLimitForTest fullDisk(10);
-    EXPECT_FALSE(SaveHotKeys(t.g));
+    const FileStatus saved = SaveHotKeys(t.g);
+    EXPECT_FALSE(saved.Ok);
+    const std::vector<FileMessage> told{{"Error", FileErrorText(path, "could not be written: file too large")}};
+    EXPECT_EQ(saved.Messages, told);
   }
-  EXPECT_EQ(t.ui.messages.back(), (RecordedMessage{"Error", FileErrorText(path, "could not be written: file too large")}));
+  EXPECT_TRUE(t.ui.messages.empty());  // the caller shows what it is told
   EXPECT_EQ(ReadBytes(path), "not a hot-key file");
 }
 
@@ -129,12 +132,11 @@ TEST(HotKeysFile, AFileThatIsNoRegularFileBindsNothing) {
     const auto path = folder.path() / kHotKeysFileName;
     c.make(path);
     t.g.HotKeys = kKeys;
-    LoadHotKeys(t.g);
+    const FileStatus loaded = LoadHotKeys(t.g);
     EXPECT_TRUE(t.g.HotKeys.empty()) << c.what;
-    ASSERT_EQ(t.ui.messages.size(), 1u) << c.what;
-    EXPECT_EQ(t.ui.messages[0], (RecordedMessage{"Unable to Open Hot-Key File",
-                                                 path.string() + "\r" + c.reason + "\rNo Hot-Keys are defined."}))
-        << c.what;
+    const std::vector<FileMessage> told{
+        {"Unable to Open Hot-Key File", path.string() + "\r" + c.reason + "\rNo Hot-Keys are defined."}};
+    EXPECT_EQ(loaded.Messages, told) << c.what;
   }
 }
 

@@ -70,34 +70,28 @@ std::optional<ProbTable> DecodeProbFile(const std::string& bytes) {
   return t;
 }
 
-bool OpenProbabilityFile(Game& g, const std::string& path) {
+FileStatus OpenProbabilityFile(Game& g, const std::string& path) {
   std::string bytes, reason;
-  if (!ReadRegularFile(path, kMaxSmallFileBytes, bytes, reason)) {
-    ShowFileError(g, path, reason);
-    return false;
-  }
+  if (!ReadRegularFile(path, kMaxSmallFileBytes, bytes, reason)) return FileErrorStatus(path, reason);
   const std::optional<ProbTable> table = DecodeProbFile(bytes);
   if (!table) {
-    ShowMessage(g, "Unable to Open Dicemill Probability File",
-                PrintableName(path) + kBreak +
-                    "is either from an older version, has been corrupted, or is not a true Dicemill Probability File.");
-    return false;
+    return FileStatus::Failed(
+        "Unable to Open Dicemill Probability File",
+        PrintableName(path) + kBreak +
+            "is either from an older version, has been corrupted, or is not a true Dicemill Probability File.");
   }
   g.Prob = *table;
   g.ProbFileName = path;
   g.ProbModified = false;
-  return true;
+  return {};
 }
 
-bool SaveProbabilityFile(Game& g, const std::string& path) {
+FileStatus SaveProbabilityFile(Game& g, const std::string& path) {
   std::string reason;
-  if (!WriteFileAtomically(path, EncodeProbFile(g.Prob), reason)) {
-    ShowFileError(g, path, reason);
-    return false;
-  }
+  if (!WriteFileAtomically(path, EncodeProbFile(g.Prob), reason)) return FileErrorStatus(path, reason);
   g.ProbFileName = path;
   g.ProbModified = false;
-  return true;
+  return {};
 }
 
 bool QuerySaveProbabilityPage(Game& g) {
@@ -112,7 +106,7 @@ bool QuerySaveProbabilityPage(Game& g) {
   // front end without one cannot give: that counts as its Cancel.
   const std::string name = std::filesystem::path(g.ProbFileName).filename().string();
   if (g.ProbFileName.empty() || g.ProbFileName == "untitled" || name == "default.prb") return false;
-  return SaveProbabilityFile(g, g.ProbFileName);
+  return ShowFileStatus(g, SaveProbabilityFile(g, g.ProbFileName));
 }
 
 bool NewProbabilities(Game& g) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "dice/prob_table.h"
+#include "engine/file_status.h"
 
 struct Game;
 
@@ -18,12 +19,11 @@ std::string EncodeProbFile(const ProbTable& t);
 std::optional<ProbTable> DecodeProbFile(const std::string& bytes);
 
 // Opens a file into the game's table, sets ProbFileName and clears
-// ProbModified. A refused file leaves the table as it was and says why
-// through the front end. False when nothing was opened.
-bool OpenProbabilityFile(Game& g, const std::string& path);
+// ProbModified. A refused file leaves the table as it was.
+FileStatus OpenProbabilityFile(Game& g, const std::string& path);
 // Writes a temporary file beside the target and renames it over the target,
 // so a failed save leaves any old file whole.
-bool SaveProbabilityFile(Game& g, const std::string& path);
+FileStatus SaveProbabilityFile(Game& g, const std::string& path);
 
 // "New" and "Open" of the probability page ask first when the table has
 // unsaved changes; false when the operation is to be abandoned.

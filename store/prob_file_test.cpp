@@ -83,26 +83,33 @@ TEST(ProbFile, SaveOpenAndRefusals) {
   const std::string shortFile = (folder.path() / "short.prb").string();
   WriteAll(shortFile, bytes.substr(0, 1279));
   ResetToTrue(g.Prob);
-  EXPECT_FALSE(OpenProbabilityFile(g, bad));
-  EXPECT_FALSE(OpenProbabilityFile(g, shortFile));
-  const std::vector<RecordedMessage> expected = {
+  // Each refusal hands back its message; nothing is shown here.
+  std::vector<FileMessage> told;
+  auto refused = [&told](const FileStatus& s) {
+    told.insert(told.end(), s.Messages.begin(), s.Messages.end());
+    return !s.Ok;
+  };
+  EXPECT_TRUE(refused(OpenProbabilityFile(g, bad)));
+  EXPECT_TRUE(refused(OpenProbabilityFile(g, shortFile)));
+  const std::vector<FileMessage> expected = {
       {"Unable to Open Dicemill Probability File", bad + kRefusal},
       {"Unable to Open Dicemill Probability File", shortFile + kRefusal}};
-  EXPECT_EQ(table.ui.messages, expected);
+  EXPECT_EQ(told, expected);
+  EXPECT_TRUE(table.ui.messages.empty());
   EXPECT_EQ(g.Prob.at(6, 1).value, 16667);
   EXPECT_EQ(g.ProbFileName, path);
 
   // Files that cannot be opened or written; the old file stays whole.
-  table.ui.messages.clear();
-  EXPECT_FALSE(OpenProbabilityFile(g, (folder.path() / "missing.prb").string()));
-  EXPECT_FALSE(SaveProbabilityFile(g, (folder.path() / "no" / "such.prb").string()));
-  EXPECT_FALSE(SaveProbabilityFile(g, folder.path().string()));
+  told.clear();
+  EXPECT_TRUE(refused(OpenProbabilityFile(g, (folder.path() / "missing.prb").string())));
+  EXPECT_TRUE(refused(SaveProbabilityFile(g, (folder.path() / "no" / "such.prb").string())));
+  EXPECT_TRUE(refused(SaveProbabilityFile(g, folder.path().string())));
   const std::string fileError = ".\rFile name error, file not found, or device error.\rCheck path and file name.";
-  const std::vector<RecordedMessage> failures = {
+  const std::vector<FileMessage> failures = {
       {"Error", (folder.path() / "missing.prb").string() + " was not found" + fileError},
       {"Error", (folder.path() / "no" / "such.prb").string() + " could not be written: no such file or directory" + fileError},
       {"Error", folder.path().string() + " is a directory" + fileError}};
-  EXPECT_EQ(table.ui.messages, failures);
+  EXPECT_EQ(told, failures);
   EXPECT_EQ(ReadAll(path), bytes);
 }
 

@@ -43,17 +43,17 @@ bool NeedsNewName(const std::string& path, const char* defaultName, const char* 
 }
 
 void Ask(Game& g, const SavePrompt& prompt) {
-  g.MsgReply = kMsgGoAhead;
+  g.MsgReply = Answer::None;
   if (!(g.*prompt.dirty)) return;
   try {
     const Reply reply = ShowMessage(g, prompt.title, prompt.text, Buttons::YesNoCancel);
-    g.MsgReply = reply == Reply::Yes ? kMsgYes : reply == Reply::No ? kMsgNo : kMsgCancel;
-    if (g.MsgReply != kMsgYes) return;
+    g.MsgReply = reply == Reply::Yes ? Answer::Yes : reply == Reply::No ? Answer::No : Answer::Cancel;
+    if (g.MsgReply != Answer::Yes) return;
     std::string path = prompt.fileName(g);
     if (NeedsNewName(path, prompt.defaultName, prompt.pattern)) {
       const std::optional<std::string> chosen = g.Ui->AskFileName(prompt.dialogTitle, prompt.pattern);
       if (!chosen || chosen->empty()) {
-        g.MsgReply = kMsgCancel;
+        g.MsgReply = Answer::Cancel;
         return;
       }
       path = *chosen;
@@ -61,18 +61,18 @@ void Ask(Game& g, const SavePrompt& prompt) {
     // A save that fails has said why; the work stays unsaved and whatever
     // was to follow waits, as on Cancel.
     if (!prompt.save(g, path)) {
-      g.MsgReply = kMsgCancel;
+      g.MsgReply = Answer::Cancel;
       return;
     }
     g.*prompt.dirty = false;
   } catch (const std::exception& e) {
     ShowMessage(g, "Dicemill", RunTimeErrorText(e.what(), kInternalError, prompt.routine));
-    g.MsgReply = kMsgCancel;
+    g.MsgReply = Answer::Cancel;
   }
 }
 
 bool SaveGameAs(Game& g, const std::string& path) {
-  if (!SaveGame(g, path)) return false;
+  if (!ShowFileStatus(g, SaveGame(g, path))) return false;
   g.GameFileName = path;
   return true;
 }
@@ -80,7 +80,7 @@ bool SaveGameAs(Game& g, const std::string& path) {
 void AskAboutScript(Game& g, const std::string& text) {
   Ask(g, {"QuerySaveAutoBets", "Save Auto-Bets?", text, "Save Auto-Bet File As", "*.bet", "default.bet",
           &Game::ScriptDirty, [](const Game& game) { return game.AutoBet.FileName; },
-          [](Game& game, const std::string& path) { return SaveAutoBetFile(game, path); }});
+          [](Game& game, const std::string& path) { return ShowFileStatus(game, SaveAutoBetFile(game, path)); }});
 }
 
 // The questions in order; a Cancel ends them when it may.
@@ -88,7 +88,7 @@ bool AskEach(Game& g, bool mayCancel) {
   bool cancelled = false;
   for (void (*query)(Game&) : {QuerySaveGame, QuerySaveAutoBets, QuerySaveProbability}) {
     query(g);
-    cancelled = cancelled || g.MsgReply == kMsgCancel;
+    cancelled = cancelled || g.MsgReply == Answer::Cancel;
     if (cancelled && mayCancel) return false;
   }
   return !cancelled;
@@ -128,13 +128,14 @@ void QuerySaveProbability(Game& g) {
           Lines({"Your current probabilities (listed on the", "configuration screen) have not been saved.",
                  "Do you want to save them now?"}),
           "Save Probability File As", "*.prb", "default.prb", &Game::ProbModified,
-          [](const Game& game) { return game.ProbFileName; }, SaveProbabilityFile});
+          [](const Game& game) { return game.ProbFileName; },
+          [](Game& game, const std::string& path) { return ShowFileStatus(game, SaveProbabilityFile(game, path)); }});
 }
 
 bool QuerySaveAll(Game& g) { return AskEach(g, true); }
 
 void CloseDown(Game& g) {
-  if (!g.DataFolder.empty() && !g.DataFolderInUse) SaveGame(g, DataFile(g, "default.crp").string());
+  if (!g.DataFolder.empty() && !g.DataFolderInUse) (void)ShowFileStatus(g, SaveGame(g, DataFile(g, "default.crp").string()));
   RemoveWorkFiles(g);
 }
 

@@ -1,13 +1,8 @@
 #pragma once
 // The questions that guard unsaved work. Each leaves its answer in
-// g.MsgReply; the caller goes on unless it is kMsgCancel.
+// g.MsgReply; the caller goes on unless it is Answer::Cancel.
 
 struct Game;
-
-constexpr int kMsgGoAhead = 1;  // nothing needed asking
-constexpr int kMsgCancel = 2;
-constexpr int kMsgYes = 6;
-constexpr int kMsgNo = 7;
 
 // "Save Game?": the game (GameChanged) to its file.
 void QuerySaveGame(Game& g);

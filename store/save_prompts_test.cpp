@@ -78,9 +78,9 @@ TEST(SavePrompts, EveryButtonOfEveryPrompt) {
     const std::string ext = std::string(c.pattern).substr(1);
     {  // Nothing to save: a go-ahead, nothing asked.
       Fixture f;
-      f.g.MsgReply = kMsgCancel;
+      f.g.MsgReply = Answer::Cancel;
       c.query(f.g);
-      EXPECT_EQ(f.g.MsgReply, kMsgGoAhead);
+      EXPECT_EQ(f.g.MsgReply, Answer::None);
       EXPECT_TRUE(f.ui.messages.empty());
     }
     for (const Reply reply : {Reply::No, Reply::Cancel}) {
@@ -88,7 +88,7 @@ TEST(SavePrompts, EveryButtonOfEveryPrompt) {
       f.g.*c.dirty = true;
       f.ui.replies = {reply};
       c.query(f.g);
-      EXPECT_EQ(f.g.MsgReply, reply == Reply::No ? kMsgNo : kMsgCancel);
+      EXPECT_EQ(f.g.MsgReply, reply == Reply::No ? Answer::No : Answer::Cancel);
       EXPECT_TRUE(f.g.*c.dirty);
       ASSERT_EQ(f.ui.messages.size(), 1u);
       EXPECT_EQ(f.ui.messages[0], (RecordedMessage{c.title, c.text}));
@@ -101,7 +101,7 @@ TEST(SavePrompts, EveryButtonOfEveryPrompt) {
       FileNameOf(f.g, c) = name.empty() ? "" : f.Path(name);
       f.ui.replies = {Reply::Yes};
       c.query(f.g);
-      EXPECT_EQ(f.g.MsgReply, kMsgCancel) << name;
+      EXPECT_EQ(f.g.MsgReply, Answer::Cancel) << name;
       EXPECT_TRUE(f.g.*c.dirty);
       EXPECT_EQ(f.ui.dialogs, (std::vector<RecordedMessage>{{c.dialogTitle, c.pattern}}));
     }
@@ -111,7 +111,7 @@ TEST(SavePrompts, EveryButtonOfEveryPrompt) {
       FileNameOf(f.g, c) = f.Path("no such folder/x" + ext);
       f.ui.replies = {Reply::Yes};
       c.query(f.g);
-      EXPECT_EQ(f.g.MsgReply, kMsgCancel);
+      EXPECT_EQ(f.g.MsgReply, Answer::Cancel);
       EXPECT_TRUE(f.g.*c.dirty);
       EXPECT_FALSE(fs::exists(FileNameOf(f.g, c)));
       EXPECT_EQ(f.ui.messages.back(),
@@ -123,7 +123,7 @@ TEST(SavePrompts, EveryButtonOfEveryPrompt) {
       FileNameOf(f.g, c) = f.Path("mine" + ext);
       f.ui.replies = {Reply::Yes};
       c.query(f.g);
-      EXPECT_EQ(f.g.MsgReply, kMsgYes);
+      EXPECT_EQ(f.g.MsgReply, Answer::Yes);
       EXPECT_FALSE(f.g.*c.dirty);
       EXPECT_TRUE(fs::exists(f.Path("mine" + ext)));
       EXPECT_TRUE(f.ui.dialogs.empty());
@@ -135,7 +135,7 @@ TEST(SavePrompts, EveryButtonOfEveryPrompt) {
       f.ui.replies = {Reply::Yes};
       f.ui.names = {f.Path("chosen" + ext)};
       c.query(f.g);
-      EXPECT_EQ(f.g.MsgReply, kMsgYes);
+      EXPECT_EQ(f.g.MsgReply, Answer::Yes);
       EXPECT_FALSE(f.g.*c.dirty);
       EXPECT_EQ(FileNameOf(f.g, c), f.Path("chosen" + ext));
       EXPECT_TRUE(fs::exists(f.Path("chosen" + ext)));

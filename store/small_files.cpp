@@ -32,7 +32,7 @@ std::optional<std::vector<ScriptLine>> ReadActiveScript(const Game& g) {
 
 void ListSoundSetsAndHotKeys(Game& g) {
   g.Sounds = ListSoundSets(g.DataFolder);
-  LoadHotKeys(g);
+  (void)ShowFileStatus(g, LoadHotKeys(g));
 }
 
 void ScriptOpened(Game& g) {

@@ -32,7 +32,7 @@ void StartUp(Game& g, const std::string& folder) {
   // The default game of the folder sets everything a game file holds; with
   // none there (or one refused) the start is a new game.
   std::error_code ec;
-  if (!std::filesystem::is_regular_file(DefaultGamePath(g), ec) || !OpenGame(g, DefaultGamePath(g)))
+  if (!std::filesystem::is_regular_file(DefaultGamePath(g), ec) || !ShowFileStatus(g, OpenGame(g, DefaultGamePath(g))))
     NewGame(g, false);
   WriteActiveScript(g);
   if (g.Point == 0) PlayComeOutSound(g);

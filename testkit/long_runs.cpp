@@ -43,8 +43,8 @@ PlayedRun PlayLongRun(const LongRun& run, int64_t rolls, TableWatcher* watcher) 
     Game reader;
     SilentFrontEnd ui;
     reader.Ui = &ui;
-    std::string error;
-    if (!OpenScriptFile(reader, o.ScriptPath, error)) throw std::runtime_error(o.ScriptPath + ": " + error);
+    const FileStatus opened = OpenScriptFile(reader, o.ScriptPath);
+    if (!opened) throw std::runtime_error(o.ScriptPath + ": " + opened.FirstMessage());
     script = reader.AutoBet;
   }
   BusyTable busy;
