@@ -275,7 +275,12 @@ RunResult Table::HyperDrive(std::optional<int32_t> rolls) {
 }
 
 TableResult Table::Stop(StopReason reason) {
-  // No gate: stopping is what a busy table is asked.
+  // No gate: stopping is what a busy table is asked. A screen's run owns the
+  // game on its own thread: it is told, never touched.
+  if (LiveRunning()) {
+    live_->Stop();
+    return {};
+  }
   Game& g = *game_;
   if (reason == StopReason::None) {
     g.KeepRolling = false;
@@ -289,6 +294,10 @@ TableResult Table::Stop(StopReason reason) {
 TableResult Table::SetThrottle(int32_t value) {
   // No gate: the throttle is turned while the dice roll.
   if (value < 0 || value > 100) return TableResult::Fail(TableCode::OutOfRange, "the throttle runs from 0 to 100");
+  if (LiveRunning()) {
+    live_->SetThrottle(value);
+    return {};
+  }
   game_->ThrottleValue = value;
   return {};
 }

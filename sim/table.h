@@ -17,6 +17,7 @@
 #include "dice/money.h"
 #include "script/hot_key_run.h"
 #include "sim/hyper_drive.h"
+#include "sim/run_controller.h"
 #include "sim/table_result.h"
 #include "sim/table_snapshot.h"
 #include "stats/summary.h"
@@ -94,6 +95,14 @@ class Table {
   RunResult AutoRoll(int32_t rolls);
   // A Hyper-Drive run of `rolls`, or of the roll count set (Refused without one).
   RunResult HyperDrive(std::optional<int32_t> rolls);
+  // A screen's run: Hyper-Drive or Auto-Roll on a worker thread that owns
+  // the game until the run ends, so the screen stays live. `post` runs a task
+  // on the screen's thread, where the run's questions are answered and where
+  // the run's end is told (RunStopped). Meanwhile the screen draws from
+  // LiveSnapshot(), and every command but Stop, the throttle and the graph
+  // window answers kBusyText.
+  TableResult StartLive(RunKind kind, PostFn post);
+  RunSnapshot LiveSnapshot() const;
   // Ends a run after the roll in progress; answered even while busy.
   TableResult Stop(StopReason reason = StopReason::None);
   TableResult SetThrottle(int32_t value);
@@ -184,6 +193,7 @@ class Table {
   void Publish();
   RunResult Throw();
   RunResult Run(bool hyperDrive);
+  bool LiveRunning() const { return live_ && live_->Running(); }
   // A changed script offers its first cycle before the table's next roll.
   void GoToTable();
   TableResult MarkUnsavedIf(bool changed);
@@ -195,4 +205,6 @@ class Table {
   std::vector<TableListener*> listeners_;
   TableSnapshot told_;  // what the listeners were last told
   bool busy_ = false;
+  // Last, so that a run still on is stopped before the game goes.
+  std::unique_ptr<RunController> live_;
 };

@@ -30,6 +30,14 @@ TableResult Table::SetGraphAverage(int32_t rolls) {
 
 TableResult Table::StepGraph(GraphStep step) {
   // No gate: the window is moved while the dice roll.
+  if (LiveRunning()) {
+    const bool larger = step == GraphStep::ScaleLarger, up = step == GraphStep::MoveUp;
+    if (step == GraphStep::ScaleLarger || step == GraphStep::ScaleSmaller)
+      live_->StepGraphScale(larger);
+    else
+      live_->MoveGraphWindow(up);
+    return {};
+  }
   Game& g = *game_;
   const auto before = GraphView(g);
   switch (step) {

@@ -8,6 +8,7 @@
 #include "engine/game.h"
 #include "engine/refusals.h"
 #include "sim/table_listener.h"
+#include "testkit/task_queue.h"
 
 namespace {
 
@@ -200,4 +201,33 @@ TEST(Table, CommandsTellTheirListenersWhatChanged) {
   const size_t heardSoFar = heard.seen.size();
   f.table.Roll(3, 4);
   EXPECT_EQ(heard.seen.size(), heardSoFar);
+}
+
+// A screen's run holds the game on its own thread: commands are refused
+// until the run hands the game back, Stop reaches it at once, and its end is
+// told on the screen's thread.
+TEST(Table, LiveRunsLeaveTheScreenAnsweringAndEndWhereTheyAreTold) {
+  Fresh f;
+  Recorder heard;
+  f.table.Subscribe(&heard);
+  TaskQueue screen;
+  const auto ended = [&] { return !f.table.Busy(); };
+  const int32_t rollsBefore = f.table.State().RollCounts[0];
+
+  ASSERT_TRUE(f.table.Set("RollCountStop", 5000).Done());
+  ASSERT_TRUE(f.table.Set("RollCountLeft", 5000).Done());
+  ASSERT_TRUE(f.table.StartLive(RunKind::HyperDrive, screen.Poster()).Done());
+  EXPECT_EQ(f.table.Bet(bet::kField, 5).code, TableCode::Busy);
+  EXPECT_EQ(f.table.StartLive(RunKind::HyperDrive, screen.Poster()).code, TableCode::Busy);
+  ASSERT_TRUE(screen.PumpUntil(ended));
+  EXPECT_EQ(f.table.State().RollCounts[0], rollsBefore + 5000);
+  EXPECT_EQ(f.table.LiveSnapshot().Rolls, f.table.State().RollCounts[0]);
+  EXPECT_EQ(heard.seen.back(), "stopped Stopped by roll count on Auto-Play screen.");
+
+  ASSERT_TRUE(f.table.Set("RollCountLeft", 0).Done());  // no count: only Stop ends it
+  ASSERT_TRUE(f.table.StartLive(RunKind::HyperDrive, screen.Poster()).Done());
+  EXPECT_TRUE(f.table.Stop().Done());
+  ASSERT_TRUE(screen.PumpUntil(ended));
+  EXPECT_TRUE(f.table.Bet(bet::kField, 5).Done());
+  f.table.Unsubscribe(&heard);
 }
