@@ -57,10 +57,10 @@ TEST(DiceTool, TextToRollsStrictlyAndASummary) {
     int status;
     std::string says;  // the JSON line, or the refusal
   } cases[] = {
-      {"12 34\n(6-6)\n5,1\n", 0, "{\"rolls\":4}\n"},
       {"1 2 x 3 4", 2, "in.txt: line 1, column 5: \"x\" is neither a die face nor a separator"},
       {"12\n34\n57\n", 2, "in.txt: line 3, column 2: \"7\" is no die face (1 to 6)"},
       {"12\n3\n", 2, "in.txt: line 2, column 1: the last roll has one die only"},
+      {"12 34\n(6-6)\n5,1\n", 0, "{\"rolls\":4}\n"},  // last: its in.rol is read below
   };
   for (const auto& c : cases) {
     std::ofstream(work.path() / "in.txt") << c.text;
@@ -71,9 +71,6 @@ TEST(DiceTool, TextToRollsStrictlyAndASummary) {
     EXPECT_EQ(std::filesystem::exists(work.path() / "in.rol"), c.status == 0) << c.text;
   }
   // What to-text writes reads back.
-  ASSERT_EQ(Cli(work, "dice to-rol in.txt in.rol").status, 2);
-  std::ofstream(work.path() / "in.txt") << "12 34\n(6-6)\n5,1\n";
-  ASSERT_EQ(Cli(work, "dice to-rol in.txt in.rol").status, 0);
   ASSERT_EQ(Cli(work, "dice to-text in.rol back.txt").status, 0);
   EXPECT_EQ(Cli(work, "dice to-rol back.txt again.rol").out, "{\"rolls\":4}\n");
 

