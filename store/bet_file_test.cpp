@@ -9,6 +9,7 @@
 
 #include "cli/temp_folder_for_test.h"
 #include "engine/table_for_test.h"
+#include "store/file_bytes_for_test.h"
 
 namespace {
 
@@ -30,11 +31,6 @@ Script Sample() {
   s.Lines.push_back(bet);
   s.Lines.push_back(Line(90, 0, " label", 0, 0, 0));
   return s;
-}
-
-std::string ReadAll(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
 TEST(BetFile, LayoutOfTheBytes) {
@@ -66,7 +62,7 @@ TEST(BetFile, RoundTripKeepsEveryCodeAndIsByteIdentical) {
   expected.Lines[1].Selected = false;
   EXPECT_EQ(t.g.AutoBet.Lines, expected.Lines);
   ASSERT_TRUE(SaveAutoBetFile(t.g, again));
-  EXPECT_EQ(ReadAll(path), ReadAll(again));
+  EXPECT_EQ(ReadBytes(path), ReadBytes(again));
   EXPECT_TRUE(t.ui.messages.empty());
 }
 

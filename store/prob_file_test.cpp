@@ -3,22 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "cli/temp_folder_for_test.h"
 #include "engine/table_for_test.h"
+#include "store/file_bytes_for_test.h"
 
 namespace {
-
-std::string ReadAll(const std::filesystem::path& p) {
-  std::ifstream in(p, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-void WriteAll(const std::filesystem::path& p, const std::string& bytes) {
-  std::ofstream(p, std::ios::binary) << bytes;
-}
 
 int32_t IntAt(const std::string& bytes, size_t at) {
   uint32_t u = 0;
@@ -77,11 +67,11 @@ TEST(ProbFile, SaveOpenAndRefusals) {
   EXPECT_TRUE(table.ui.messages.empty());
 
   // A wrong header or a short file is refused and the table stays.
-  std::string bytes = ReadAll(path);
+  std::string bytes = ReadBytes(path);
   const std::string bad = (folder.path() / "bad.prb").string();
-  WriteAll(bad, "Dicemill Probability File, Data Format 4.5" + bytes.substr(42));
+  WriteBytes(bad, "Dicemill Probability File, Data Format 4.5" + bytes.substr(42));
   const std::string shortFile = (folder.path() / "short.prb").string();
-  WriteAll(shortFile, bytes.substr(0, 1279));
+  WriteBytes(shortFile, bytes.substr(0, 1279));
   ResetToTrue(g.Prob);
   // Each refusal hands back its message; nothing is shown here.
   std::vector<FileMessage> told;
@@ -110,7 +100,7 @@ TEST(ProbFile, SaveOpenAndRefusals) {
       {"Error", (folder.path() / "no" / "such.prb").string() + " could not be written: no such file or directory" + fileError},
       {"Error", folder.path().string() + " is a directory" + fileError}};
   EXPECT_EQ(told, failures);
-  EXPECT_EQ(ReadAll(path), bytes);
+  EXPECT_EQ(ReadBytes(path), bytes);
 }
 
 TEST(ProbFile, NewAsksAboutUnsavedNumbers) {
