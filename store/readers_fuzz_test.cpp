@@ -8,21 +8,15 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <random>
-#include <sstream>
 
 #include "cli/temp_folder_for_test.h"
 #include "fuzz/fuzz_entries.h"
+#include "store/file_bytes_for_test.h"
 
 namespace {
 
-std::string Sample(const char* name) {
-  std::ifstream in(std::string(DICEMILL_SOURCE_DIR) + "/samples/" + name, std::ios::binary);
-  std::stringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
+std::string Sample(const char* name) { return ReadBytes(std::string(DICEMILL_SOURCE_DIR) + "/samples/" + name); }
 
 class Mutator {
  public:
@@ -91,16 +85,14 @@ TEST(ReadersFuzz, DamagedInputsAreRefusedOrReadNeverACrash) {
   g.BetAmount[43] = g.TotalOnTable = 10;
   const std::string game = (folder.path() / "seed.crp").string();
   ASSERT_TRUE(SaveGame(g, game));
-  std::ifstream in(game, std::ios::binary);
-  std::stringstream bytes;
-  bytes << in.rdbuf();
+  const std::string sealed = ReadBytes(game);
 
   // Sealed, nearly every change is refused whole; without the seal (as
   // other versions write) the changes reach every record.
-  std::string unsealed = bytes.str();
+  std::string unsealed = sealed;
   unsealed.resize(unsealed.size() - 256);
   std::fill_n(unsealed.begin() + 232, 24, '\0');
-  Hammer({bytes.str(), unsealed}, 1000, 1, fuzz::GameFile);
+  Hammer({sealed, unsealed}, 1000, 1, fuzz::GameFile);
   Hammer({Sample("three-point-molly.bet"), Sample("iron-cross.bet")}, 4000, 2, fuzz::BetFile);
   Hammer({EncodeProbFile(TrueTable())}, 4000, 3, fuzz::ProbFile);
   Hammer({Sample("three-point-molly.txt"), Sample("dont-pass-stop-loss.txt"), Sample("field-martingale.txt")}, 4000, 4,
@@ -116,15 +108,13 @@ TEST(ReadersFuzz, TheFilesThatOnceBrokeTheProgram) {
   const std::filesystem::path cases = DICEMILL_SOURCE_DIR "/tests/reliability";
   int files = 0;
   for (const auto& entry : std::filesystem::directory_iterator(cases)) {
-    std::ifstream in(entry.path(), std::ios::binary);
-    std::stringstream bytes;
-    bytes << in.rdbuf();
+    const std::string bytes = ReadBytes(entry.path());
     const std::string ext = entry.path().extension().string();
     SCOPED_TRACE(entry.path().filename().string());
-    if (ext == ".crp") fuzz::GameFile(bytes.str());
-    if (ext == ".bet") fuzz::BetFileAndPlay(bytes.str());
-    if (ext == ".txt") fuzz::ScriptTextAndPlay(bytes.str());
-    if (ext == ".glg") fuzz::GamesLog(bytes.str());
+    if (ext == ".crp") fuzz::GameFile(bytes);
+    if (ext == ".bet") fuzz::BetFileAndPlay(bytes);
+    if (ext == ".txt") fuzz::ScriptTextAndPlay(bytes);
+    if (ext == ".glg") fuzz::GamesLog(bytes);
     files += ext == ".crp" || ext == ".bet" || ext == ".txt" || ext == ".glg";
   }
   EXPECT_EQ(files, 32);
