@@ -43,10 +43,8 @@ TEST(DiceFileCommands, RecordEditAndPlayBackThroughTheSession) {
   EXPECT_EQ(played.back()["message"]["text"], "Playback stopped.\rRewind for playback?");
 
   s.Run("dicefile selectall\ndicefile export \"" + s.Path("a.txt") + "\" dice");
-  std::ifstream text(s.Path("a.txt"));
-  std::stringstream lines;
-  lines << text.rdbuf();
-  EXPECT_TRUE(lines.str() == "(1-2)\n(5-6)\n(6-6)\n" || lines.str() == "(1-2)\n(6-5)\n(6-6)\n") << lines.str();
+  const std::string lines = Slurp(s.Path("a.txt"));
+  EXPECT_TRUE(lines == "(1-2)\n(5-6)\n(6-6)\n" || lines == "(1-2)\n(6-5)\n(6-6)\n") << lines;
   EXPECT_EQ(s.Run("pad 1")[0]["error"], "pad: TOTAL 1 is out of range (2..12)");
 }
 

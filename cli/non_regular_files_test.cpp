@@ -4,38 +4,19 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
-#include "cli/temp_folder_for_test.h"
-#include "test_paths.h"
+#include "cli/cli_for_test.h"
 
 namespace {
 
-struct Ran {
-  int status = -1;
-  std::string out, err;
-};
-
-std::string Slurp(const std::filesystem::path& path) {
-  std::stringstream s;
-  s << std::ifstream(path).rdbuf();
-  return s.str();
-}
-
 // Bounded by `timeout`: a command that hangs fails with 124 instead of
 // holding up the suite.
-Ran Cli(const TempFolder& work, const std::string& args, const std::string& input = "") {
-  const auto in = work.path() / "in.txt", out = work.path() / "out.txt", err = work.path() / "err.txt";
-  std::ofstream(in) << input;
-  const std::string command = "cd '" + work.path().string() + "' && timeout 20 '" DICEMILL_CLI_PATH "' " + args +
-                              " < '" + in.string() + "' > '" + out.string() + "' 2> '" + err.string() + "'";
-  const int raw = std::system(command.c_str());
-  return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, Slurp(out), Slurp(err)};
+Ran Bounded(const TempFolder& work, const std::string& args, const std::string& input = "") {
+  std::ofstream(work.path() / "in.txt") << input;
+  return Shell(work, "timeout 20 " + kCliPath + " " + args + " < in.txt");
 }
 
 TEST(SpecialPaths, ReadersRefuseWhatIsNoRegularFile) {
@@ -55,11 +36,11 @@ TEST(SpecialPaths, ReadersRefuseWhatIsNoRegularFile) {
     const std::string name = f.name;
     for (const std::string& args : {"script check " + name, "run --quiet --rolls 10 --script " + name,
                                     "dice info " + name, "dice to-rol " + name + " out.rol", "games " + name}) {
-      const Ran r = Cli(work, args);
+      const Ran r = Bounded(work, args);
       EXPECT_TRUE(r.status == 1 || r.status == 2) << args << ": " << r.status << " " << r.err;
       EXPECT_NE(r.err.find(f.reason), std::string::npos) << args << ": " << r.err;
     }
-    const Ran play = Cli(work, "play --folder data", "prob open " + name + "\nopen " + name + "\nquit\n");
+    const Ran play = Bounded(work, "play --folder data", "prob open " + name + "\nopen " + name + "\nquit\n");
     EXPECT_EQ(play.status, 0) << play.err;
     EXPECT_NE(play.out.find(f.reason), std::string::npos) << name << ": " << play.out;
   }
