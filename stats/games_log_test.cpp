@@ -80,11 +80,7 @@ TEST(GamesLog, KnownAnswers) {
 
 TEST(GamesLog, OutcomeRowsAndBreakPoints) {
   const auto games = Nets({-10, -1, 0, 0, 3, 50});
-  struct Case {
-    Currency first, second;
-    std::array<std::string, 3> names;
-    std::array<int64_t, 3> counts;
-  };
+  struct Case { Currency first, second; std::array<std::string, 3> names; std::array<int64_t, 3> counts; };
   const Case cases[] = {
       {0, 0, {"Won", "Broke-even", "Lost"}, {2, 2, 2}},
       {5, -5, {"> 5", "-5 - 5", "< -5"}, {1, 4, 1}},  // taken in rising order

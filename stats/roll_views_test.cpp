@@ -93,10 +93,7 @@ TEST(RollViews, SkewedProbabilityIsTheWeightOverAllWeights) {
       g.Prob.at(c.row, c.column).value = d1 + d2 == 7 ? 6000 : 1000;  // sevens six times as likely
     }
   // 6 sevens x 6000 + 30 others x 1000 = 66,000.
-  struct Case {
-    int index;
-    double skewed, fair;
-  };
+  struct Case { int index; double skewed, fair; };
   const Case cases[] = {
       {7, 36000.0 / 66000, 6.0 / 36},  // Any 7
       {2, 1000.0 / 66000, 1.0 / 36},   // Number 2
