@@ -65,15 +65,14 @@ TEST(ProbTable, TrueTableAndConversions) {
 TEST(SkewedDraw, TrueTableWalkAndSecondWalk) {
   const ProbTable t = TrueTable();
   uint32_t rnd = kRndStartState;
-  auto at = [&](int32_t x) {
-    const DicePair p = DrawSkewed(t, x, rnd);
-    return std::pair{p.die1, p.die2};
-  };
   // The last cell, from 35 * 2778 + 1 on, holds only what is left.
   const std::pair<int32_t, std::pair<int, int>> walk[] = {
       {1, {1, 1}},           {2778, {1, 1}},     {2779, {1, 2}},          {6 * 2778 + 1, {2, 6}}, {11 * 2778, {6, 6}},
       {11 * 2778 + 1, {2, 1}}, {35 * 2778, {6, 2}}, {35 * 2778 + 1, {6, 1}}, {100001, {6, 1}}};
-  for (const auto& [x, dice] : walk) EXPECT_EQ(at(x), dice) << x;
+  for (const auto& [x, dice] : walk) {
+    const DicePair p = DrawSkewed(t, x, rnd);
+    EXPECT_EQ(std::pair(p.die1, p.die2), dice) << x;
+  }
 
   // A table summing to less than 100,000 still always yields a roll; the
   // second walk keeps its running sum.
