@@ -238,35 +238,27 @@ TEST(BetHandling, EveryOptionOverAHandOfRolls) {
 }
 
 // A parlay adds no more than was won, whatever the bet's family: the
-// adjustment may only go down.
-TEST(BetHandling, ParlayNeverAddsMoreThanWasWon) {
-  const struct { int id; Currency amount; int die1, die2, point; Currency left; } cases[] = {
-      {bet::Place(6), 6, 2, 4, 5, 12},   // won 7, adds 6
-      {bet::Buy(6), 15, 2, 4, 5, 30},    // won 18 less the vig, adds 15 and not 20
-      {bet::kHorn, 4, 1, 1, 0, 28},      // won 27, adds 24 and not 28
-  };
+// adjustment may only go down. Keeping a won bet is bookkeeping: a call ON
+// stays, Buy and Lay alike.
+TEST(BetHandling, ParlayAndSameBetAcrossTheFamilies) {
+  constexpr int kSame = 2, kParlay = 5, kOn = 2;
+  const struct { int id, action; Currency amount; int die1, die2, point, status; Currency left; } cases[] = {
+      {bet::Place(6), kParlay, 6, 2, 4, 5, 0, 12},  // won 7, adds 6
+      {bet::Buy(6), kParlay, 15, 2, 4, 5, 0, 30},   // won 18 less the vig, adds 15 and not 20
+      {bet::kHorn, kParlay, 4, 1, 1, 0, 0, 28},     // won 27, adds 24 and not 28
+      {bet::Place(6), kSame, 20, 2, 4, 5, kOn, 20}, {bet::Buy(6), kSame, 20, 2, 4, 5, kOn, 20},
+      {bet::Lay(4), kSame, 20, 3, 4, 5, kOn, 20}};
   for (const auto& c : cases) {
     Table t;
-    t.g.AutoAdjustMode = 2;
-    t.g.WonBetAction = 5;  // " Parlay"
+    if (c.action == kParlay) t.g.AutoAdjustMode = 2;
+    t.g.WonBetAction = c.action;
     t.Stand(c.id, c.amount);
+    if (c.status) t.g.BetStatus[c.id] = c.status;
     t.Dice(c.die1, c.die2, c.point);
     t.Settle(Outcome::Win, c.id);
-    EXPECT_EQ(t.g.BetAmount[c.id], c.left) << t.g.BetName[c.id];
-  }
-}
-
-// Keeping a won bet is bookkeeping: a call ON stays, Buy and Lay alike.
-TEST(BetHandling, SameBetKeepsACall) {
-  const struct { int id, die1, die2; } cases[] = {{bet::Place(6), 2, 4}, {bet::Buy(6), 2, 4}, {bet::Lay(4), 3, 4}};
-  for (const auto& c : cases) {
-    Table t;
-    t.g.WonBetAction = 2;  // " Same Bet - Take Winnings"
-    t.Stand(c.id, 20);
-    t.g.BetStatus[c.id] = 2;
-    t.Dice(c.die1, c.die2, 5);
-    t.Settle(Outcome::Win, c.id);
-    EXPECT_EQ(t.g.BetAmount[c.id], Currency(20)) << t.g.BetName[c.id];
-    EXPECT_EQ(t.g.BetStatus[c.id], 2) << t.g.BetName[c.id];
+    EXPECT_EQ(t.g.BetAmount[c.id], c.left) << t.g.BetName[c.id] << " action " << c.action;
+    if (c.status) {
+      EXPECT_EQ(t.g.BetStatus[c.id], c.status) << t.g.BetName[c.id];
+    }
   }
 }

@@ -52,32 +52,27 @@ TEST(ProbTable, TrueTableAndConversions) {
   EXPECT_EQ(OutcomeSum(t), 100008);
   EXPECT_EQ(t.Mode(), kPercentageDice);
 
-  EXPECT_EQ(EntryToTableUnits(12.5, kShowPercent, 36, 3, 2), 12500);
-  EXPECT_EQ(EntryToTableUnits(0, kShowPlusMinusTrue, 36, 3, 2), 2778);
-  EXPECT_EQ(EntryToTableUnits(-1, kShowPlusMinusTrue, 36, 6, 1), 15667);
-  EXPECT_EQ(EntryToTableUnits(-20, kShowPlusMinusTrue, 36, 6, 1), 0);  // never negative
-  EXPECT_EQ(EntryToTableUnits(6, kShowRollsOutOf, 36, 6, 1), 16667);
-  EXPECT_EQ(EntryToTableUnits(1, kShowPlusMinusTrueRolls, 36, 3, 2), 5556);
-  EXPECT_EQ(EntryToTableUnits(1, kShowPlusMinusTrueRolls, 36, kDie2FaceRow, 4), 19444);
+  const struct { double entry; int show, row, column; int32_t units; } entries[] = {
+      {12.5, kShowPercent, 3, 2, 12500}, {0, kShowPlusMinusTrue, 3, 2, 2778}, {-1, kShowPlusMinusTrue, 6, 1, 15667},
+      {-20, kShowPlusMinusTrue, 6, 1, 0},  // never negative
+      {6, kShowRollsOutOf, 6, 1, 16667}, {1, kShowPlusMinusTrueRolls, 3, 2, 5556},
+      {1, kShowPlusMinusTrueRolls, kDie2FaceRow, 4, 19444}};
+  for (const auto& e : entries)
+    EXPECT_EQ(EntryToTableUnits(e.entry, e.show, 36, e.row, e.column), e.units) << e.entry << " row " << e.row;
   EXPECT_NEAR(TableUnitsToEntry(5556, kShowPlusMinusTrueRolls, 36, 3, 2), 1, 1e-3);
 }
 
 TEST(SkewedDraw, TrueTableWalkAndSecondWalk) {
   const ProbTable t = TrueTable();
   uint32_t rnd = kRndStartState;
-  auto at = [&](int32_t x) {
+  // The last cell, from 35 * 2778 + 1 on, holds only what is left.
+  const std::pair<int32_t, std::pair<int, int>> walk[] = {
+      {1, {1, 1}},           {2778, {1, 1}},     {2779, {1, 2}},          {6 * 2778 + 1, {2, 6}}, {11 * 2778, {6, 6}},
+      {11 * 2778 + 1, {2, 1}}, {35 * 2778, {6, 2}}, {35 * 2778 + 1, {6, 1}}, {100001, {6, 1}}};
+  for (const auto& [x, dice] : walk) {
     const DicePair p = DrawSkewed(t, x, rnd);
-    return std::pair{p.die1, p.die2};
-  };
-  EXPECT_EQ(at(1), std::pair(1, 1));
-  EXPECT_EQ(at(2778), std::pair(1, 1));
-  EXPECT_EQ(at(2779), std::pair(1, 2));
-  EXPECT_EQ(at(6 * 2778 + 1), std::pair(2, 6));
-  EXPECT_EQ(at(11 * 2778), std::pair(6, 6));
-  EXPECT_EQ(at(11 * 2778 + 1), std::pair(2, 1));
-  EXPECT_EQ(at(35 * 2778), std::pair(6, 2));
-  EXPECT_EQ(at(35 * 2778 + 1), std::pair(6, 1));  // the last cell holds only what is left
-  EXPECT_EQ(at(100001), std::pair(6, 1));
+    EXPECT_EQ(std::pair(p.die1, p.die2), dice) << x;
+  }
 
   // A table summing to less than 100,000 still always yields a roll; the
   // second walk keeps its running sum.

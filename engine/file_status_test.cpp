@@ -43,12 +43,7 @@ TEST(FileStatus, EveryReaderTellsWhyItRefusedAFile) {
   const fs::path kept = fs::path(DICEMILL_SOURCE_DIR) / "tests" / "reliability";
   const fs::path missing = folder.path() / "missing.dat", dir = folder.path();
   WriteBytes(dir / "junk.prb", std::string(1280, 'x'));
-  struct Case {
-    const char* what;
-    Reader read;
-    fs::path path;
-    FileMessage told;
-  };
+  struct Case { const char* what; Reader read; fs::path path; FileMessage told; };
   std::vector<Case> cases = {
       {"game file missing", OpenGame, missing, {"Error", FileErrorText(missing, "was not found")}},
       {"game file a folder", OpenGame, dir, {"Error", FileErrorText(dir, "is a directory")}},

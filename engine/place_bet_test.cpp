@@ -45,10 +45,7 @@ TEST(PlaceBet, ChangesMoveInWholeChips) {
 }
 
 TEST(PlaceBet, EveryRefusalWordForWord) {
-  const struct {
-    int betId, point, standing, parent, change;
-    std::string title, text;
-  } cases[] = {
+  const struct { int betId, point, standing, parent, change; std::string title, text; } cases[] = {
       {bet::kPassLine, 6, 10, 0, 5, "Pass Line",
        "You may not make or increase a Pass Line bet\rwhile a point is established.\r\r" + kPutTail},
       {bet::kPassLine, 6, 10, 0, -5, "Pass Line",

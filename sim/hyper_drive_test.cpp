@@ -5,12 +5,8 @@
 #include "engine/table_for_test.h"
 
 TEST(RollRate, UnitsLimitsAndTexts) {
-  struct Case {
-    Currency value;
-    RateUnit unit;
-    Currency rate;       // expected SimRollRate, or the old one when refused
-    const char* refusal; // "" when accepted
-  };
+  // The rate is the expected SimRollRate, or the old one when refused; a refusal of "" accepts.
+  struct Case { Currency value; RateUnit unit; Currency rate; const char* refusal; };
   const Case cases[] = {
       {100, RateUnit::RollsPerHour, 100, ""},
       {2, RateUnit::RollsPerMinute, 120, ""},
@@ -33,11 +29,9 @@ TEST(RollRate, UnitsLimitsAndTexts) {
       EXPECT_EQ(t.ui.messages[0], (RecordedMessage{"Sim Roll Rate Out Of Limits", c.refusal}));
     }
   }
-  EXPECT_EQ(SimHoursText(0), "0");
-  EXPECT_EQ(SimHoursText(1234.5), "1,234.5");
-  EXPECT_EQ(SimHoursText(0.25), ".25");
-  EXPECT_EQ(SimHoursText(2.00004), "2.0");
-  EXPECT_EQ(SimHoursText(-3.6), "-4");
+  const std::pair<double, const char*> hours[] = {{0, "0"}, {1234.5, "1,234.5"}, {0.25, ".25"}, {2.00004, "2.0"},
+                                                  {-3.6, "-4"}};
+  for (const auto& [h, text] : hours) EXPECT_EQ(SimHoursText(h), text) << h;
   EXPECT_EQ(RollsPerHourText(Currency::FromRaw(1)), ".0001");
   EXPECT_EQ(RollsPerHourText(0), "<.0001");
 }

@@ -15,12 +15,7 @@ namespace {
 
 const Currency kStake = 1200;
 
-struct TableSetup {
-  const char* name;
-  int barNumber = 12;
-  bool vigUpFront = true;
-  bool oddPayoffs = false;
-};
+struct TableSetup { const char* name; int barNumber = 12; bool vigUpFront = true; bool oddPayoffs = false; };
 
 // Payoffs away from the defaults, so that a bet read by the wrong record shows.
 void OddPayoffs(Game& g) {
@@ -57,9 +52,7 @@ bool IsLineBet(int id) { return id == bet::kPassLine || id == bet::kDontPass; }
 
 // A bet settled roll by roll: the mean of the 36 throws and the share that
 // decide something.
-struct RollFigures {
-  double ev = 0, decided = 0;
-};
+struct RollFigures { double ev = 0, decided = 0; };
 RollFigures ThrowAll(const TableSetup& s, int betId, int point) {
   RollFigures f;
   for (int a = 1; a <= 6; ++a)
@@ -73,9 +66,7 @@ RollFigures ThrowAll(const TableSetup& s, int betId, int point) {
 
 // A line bet from the come-out to its end: the come-out throws, then for each
 // point the throws with the point on, of which those that decide end the bet.
-struct LineFigures {
-  double ev = 0, decided = 0, rolls = 0;
-};
+struct LineFigures { double ev = 0, decided = 0, rolls = 0; };
 LineFigures ThrowLine(const TableSetup& s, int betId) {
   LineFigures f;
   f.rolls = 1;

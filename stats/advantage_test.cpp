@@ -123,6 +123,11 @@ TEST(Advantage, RollsPerDecisionAndSpread) {
   EXPECT_NEAR(place6Every.EvPerDecision, -1.0 / 216, 1e-12);
   EXPECT_NEAR(place6Every.RollsPerDecision, 1, 1e-12);
   EXPECT_NEAR(place6Every.VarPerDecision, place6.VarPerRoll, 1e-12);
+  // Ids that name no bet give nothing.
+  for (int id : {0, 84, 93, 100}) {
+    EXPECT_EQ(FigureAdvantage(t.g, id).EvPerDecision, 0) << id;
+    EXPECT_EQ(FigureAdvantage(t.g, id).RollsPerDecision, 0) << id;
+  }
 }
 
 TEST(Advantage, APointWithAPointOnReadsItsOwnOddsRecord) {
@@ -148,15 +153,6 @@ TEST(Advantage, PayoffsAboveTrueOddsTurnTheRowPositive) {
   const Advantage field = FigureAdvantage(t.g, bet::kField);
   EXPECT_NEAR(field.EvPerRoll, 0, 1e-12);
   EXPECT_NEAR(field.RollsPerDecision, 36.0 / 34, 1e-12);
-}
-
-TEST(Advantage, OddIdsGiveNothing) {
-  Table t;
-  for (int id : {0, 84, 93, 100}) {
-    const Advantage a = FigureAdvantage(t.g, id);
-    EXPECT_EQ(a.EvPerDecision, 0);
-    EXPECT_EQ(a.RollsPerDecision, 0);
-  }
 }
 
 // Percentage dice weighted by hand: every outcome given a weight.

@@ -48,10 +48,7 @@ TEST(BankrollGraph, MovingAverageTakesThePointsThereAre) {
   g.Bankroll() = 0;
   ClearBankrollGraph(g);
   Points(g, 20);  // bankrolls 1..20
-  struct Case {
-    int position, rolls;
-    Currency expected;
-  };
+  struct Case { int position, rolls; Currency expected; };
   const Case firstWindow[] = {
       {10, 100, Currency::FromRaw(55000)},  // ten points, not a hundred: 5.5
       {10, 1, 10},
@@ -87,9 +84,7 @@ TEST(BankrollGraph, MovingAverageTakesThePointsThereAre) {
 }
 
 TEST(BankrollGraph, TheScaleLadder) {
-  struct Case {
-    Currency scale, larger, smaller;
-  };
+  struct Case { Currency scale, larger, smaller; };
   const Case cases[] = {
       {Currency::FromRaw(100), Currency::FromRaw(200), Currency::FromRaw(100)},   // 0.01 is the bottom
       {Currency::FromRaw(400), Currency::FromRaw(1000), Currency::FromRaw(200)},  // 0.04 -> 0.1
@@ -108,10 +103,7 @@ TEST(BankrollGraph, TheScaleLadder) {
 }
 
 TEST(BankrollGraph, ExpandingAndSnapBackScales) {
-  struct Case {
-    int32_t adjustType;
-    Currency scaleWhileFilling, scaleOfNextWindow;
-  };
+  struct Case { int32_t adjustType; Currency scaleWhileFilling, scaleOfNextWindow; };
   // 500 up to 900: a spread of 400 needs a scale of 2 (250 rows hold 500).
   const Case cases[] = {{1, 2, 2}, {2, 2, 1}, {0, 1, 1}};
   for (const Case& c : cases) {
@@ -167,12 +159,7 @@ TEST(BankrollGraph, ManualWindowPlacementAndReferenceLines) {
   const Currency bankrolls[] = {480, 530, 620, 610};
   for (Currency b : bankrolls) Point(g, b);
   g.DisplayRefLines = true;
-  struct Case {
-    int32_t first, second;
-    bool valid;
-    int32_t rolls;
-    Currency difference, top;
-  };
+  struct Case { int32_t first, second; bool valid; int32_t rolls; Currency difference, top; };
   const Case cases[] = {
       {1, 3, true, 2, 140, 600},     // centre (480 + 620) / 2 = 550: 5.5 steps of 100 -> 6
       {4, 2, true, -2, -80, 600},    // 570

@@ -44,10 +44,7 @@ TEST(BetResults, PhantomUnitOnASpotNeverBet) {
 
 TEST(BetResults, PhantomComeUnitsTravel) {
   const int come5 = bet::Come(5), dontCome5 = bet::DontCome(5), comeOdds5 = bet::ComeOdds(5);
-  const struct {
-    std::vector<int> totals;
-    int comeWins, comeLosses, dontComeWins, comeOddsLosses;
-  } cases[] = {
+  const struct { std::vector<int> totals; int comeWins, comeLosses, dontComeWins, comeOddsLosses; } cases[] = {
       {{6, 7}, 0, 0, 0, 0},        // nothing travelled to the 5
       {{5, 7}, 0, 0, 0, 0},        // a come-out 5 carries no Come unit
       {{6, 5, 7}, 0, 1, 1, 1},     // the 5 with a point up moved the units there
@@ -112,12 +109,7 @@ TEST(BetResults, PushesBookNothing) {
 
 TEST(BetResults, VigIsStakedWhereItIsPaid) {
   const int lay4 = bet::Lay(4), buy4 = bet::Buy(4);
-  const struct {
-    int kind, id;
-    bool chargeAll;
-    int net;
-    double stake;
-  } cases[] = {
+  const struct { int kind, id; bool chargeAll; int net; double stake; } cases[] = {
       // A phantom Lay 4 pays 5% of what it would win, 1/2; a Buy 5% of 1.
       {kPhantom, lay4, false, 1, 1.025}, {kPhantom, lay4, false, -1, 1}, {kPhantom, lay4, true, -1, 1.025},
       {kPhantom, buy4, false, 2, 1.05},  {kPhantom, buy4, false, -1, 1}, {kPhantom, buy4, true, -1, 1.05},

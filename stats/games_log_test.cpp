@@ -33,13 +33,8 @@ GamesStatistics Statistics(const std::vector<GameLogRecord>& games, const GamesV
 Currency Raw(int64_t raw) { return Currency::FromRaw(raw); }
 
 TEST(GamesLog, KnownAnswers) {
-  struct Case {
-    std::vector<GameLogRecord> games;
-    Currency mean, median;
-    bool medianIsAverage;
-    double variance;
-    Currency stdDev, skew, kurtosis;
-  };
+  struct Case { std::vector<GameLogRecord> games; Currency mean, median; bool medianIsAverage; double variance;
+                Currency stdDev, skew, kurtosis; };
   const Case cases[] = {
       // The textbook set: mean 5, variance 4; t^3 sums to 5.25 and t^4 to
       // 22.25, which over 8 are ties that go to the even digit.
@@ -80,11 +75,7 @@ TEST(GamesLog, KnownAnswers) {
 
 TEST(GamesLog, OutcomeRowsAndBreakPoints) {
   const auto games = Nets({-10, -1, 0, 0, 3, 50});
-  struct Case {
-    Currency first, second;
-    std::array<std::string, 3> names;
-    std::array<int64_t, 3> counts;
-  };
+  struct Case { Currency first, second; std::array<std::string, 3> names; std::array<int64_t, 3> counts; };
   const Case cases[] = {
       {0, 0, {"Won", "Broke-even", "Lost"}, {2, 2, 2}},
       {5, -5, {"> 5", "-5 - 5", "< -5"}, {1, 4, 1}},  // taken in rising order
@@ -106,11 +97,9 @@ TEST(GamesLog, OutcomeRowsAndBreakPoints) {
   EXPECT_EQ(s.Mean, Raw(265000));
   EXPECT_EQ(s.OutcomeCounts, (std::array<int64_t, 3>{2, 2, 2}));
 
-  const struct {
-    int64_t count, total;
-    const char* text;
-  } shares[] = {{0, 6, "0 %"}, {2, 6, "33.33 %"}, {1, 2, "50.0 %"}, {1, 8, "12.5 %"}, {6, 6, "100.0 %"}, {1, 0, "0 %"},
-                {1, 3000, "0.03 %"}};
+  const struct { int64_t count, total; const char* text; } shares[] = {
+      {0, 6, "0 %"}, {2, 6, "33.33 %"}, {1, 2, "50.0 %"}, {1, 8, "12.5 %"}, {6, 6, "100.0 %"}, {1, 0, "0 %"},
+      {1, 3000, "0.03 %"}};
   for (const auto& c : shares) EXPECT_EQ(ShareText(c.count, c.total), c.text) << c.count << "/" << c.total;
   EXPECT_EQ(GamesCountText(1), "1 game");
   EXPECT_EQ(GamesCountText(1200), "1,200 games");

@@ -9,10 +9,7 @@
 namespace {
 
 // The selections a throw must count, by index; nothing else may move.
-struct ThrowCase {
-  int die1, die2;
-  std::set<int> counted;
-};
+struct ThrowCase { int die1, die2; std::set<int> counted; };
 
 TEST(RollCounters, EachThrowCountsExactlyItsSelections) {
   const ThrowCase cases[] = {

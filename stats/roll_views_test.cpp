@@ -24,12 +24,8 @@ TEST(RollViews, EverySelectionReadsTheCounterItsCaptionNames) {
   EXPECT_EQ(indexes.size(), 88u) << "two captions read the same counter";
   EXPECT_EQ(indexes.count(0) + indexes.count(1) + indexes.count(90), 0u);
 
-  struct Case {
-    int position;  // 1-based place in the list
-    const char* caption;
-    int ways;
-  };
-  const Case cases[] = {
+  // The position is the 1-based place in the list.
+  const struct { int position; const char* caption; int ways; } cases[] = {
       {1, "Number 2 (1-1)", 1},       {2, "Number 3 (1-2)", 1},     {4, "Number 3 (1-2) or (2-1)", 2},
       {7, "Hard 4 (2-2)", 1},         {9, "Any 4", 3},              {16, "Any 5", 4},
       {18, "Number 6 (5-1)", 1},      {34, "Any 7", 6},             {33, "Number 7 (3-4) or (4-3)", 2},
@@ -38,7 +34,7 @@ TEST(RollViews, EverySelectionReadsTheCounterItsCaptionNames) {
       {72, "Numbers 6,8", 10},        {76, "Numbers 11,12", 3},     {77, "Die 1, face 1", 6},
       {88, "Die 2, face 6", 6},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     const FrequencySelection& s = list[c.position - 1];
     EXPECT_STREQ(s.Caption, c.caption);
     EXPECT_NEAR(TrueProbability(s.Index) * 36, c.ways, 1e-9) << c.caption;
@@ -93,10 +89,7 @@ TEST(RollViews, SkewedProbabilityIsTheWeightOverAllWeights) {
       g.Prob.at(c.row, c.column).value = d1 + d2 == 7 ? 6000 : 1000;  // sevens six times as likely
     }
   // 6 sevens x 6000 + 30 others x 1000 = 66,000.
-  struct Case {
-    int index;
-    double skewed, fair;
-  };
+  struct Case { int index; double skewed, fair; };
   const Case cases[] = {
       {7, 36000.0 / 66000, 6.0 / 36},  // Any 7
       {2, 1000.0 / 66000, 1.0 / 36},   // Number 2
@@ -127,13 +120,8 @@ TEST(RollViews, TheFourViewsHaveTheirRowsAndTheirCounters) {
   Throw(g, 2, 5);
   Throw(g, 5, 2);
   Throw(g, 3, 3);
-  struct Case {
-    TotalsView view;
-    const char* name;
-    size_t rows;
-    std::string label;  // a row to look at
-    int index, rolls;
-  };
+  // Each view's name and size, and one row to look at: its label, counter and rolls.
+  struct Case { TotalsView view; const char* name; size_t rows; std::string label; int index, rolls; };
   const Case cases[] = {
       {TotalsView::StandardNumbers, "11 Standard Numbers", 11, "7", 7, 2},
       {TotalsView::DistinguishableCombos, "21 Distinguishable Combos", 21, "2-5", 46, 2},

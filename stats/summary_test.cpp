@@ -28,13 +28,9 @@ const SummaryRow* NetRow(const std::vector<SummaryRow>& rows) {
 
 TEST(Summary, NumberPatterns) {
   const struct { double v; const char* upToTwo; const char* percent; const char* two; } cases[] = {
-      {0, "0", "0%", "0"},
-      {0.5, ".5", "50.00%", ".50"},
-      {3, "3.", "300.00%", "3.00"},
-      {2.375, "2.38", "237.50%", "2.38"},
-      {-1234.5, "-1,234.5", "-123,450.00%", "-1,234.50"},
-      {0.035, ".04", "3.50%", ".04"},
-  };
+      {0, "0", "0%", "0"}, {0.5, ".5", "50.00%", ".50"}, {3, "3.", "300.00%", "3.00"},
+      {2.375, "2.38", "237.50%", "2.38"}, {-1234.5, "-1,234.5", "-123,450.00%", "-1,234.50"},
+      {0.035, ".04", "3.50%", ".04"}};
   for (const auto& c : cases) {
     EXPECT_EQ(FormatUpToTwoDecimals(c.v), c.upToTwo) << c.v;
     EXPECT_EQ(FormatPercent(c.v), c.percent) << c.v;
@@ -82,28 +78,18 @@ TEST(Summary, FiguresOfAPlayedGame) {
   t.Roll(6, 6);  // the field wins 10
   t.g.HandStats[hand::kHands] = 1;  // as if a hand had ended
   const std::vector<SummaryRow> rows = ShowSummary(t.g);
-  EXPECT_EQ(ValueOf(rows, "Total rolls:"), "4");
-  EXPECT_EQ(ValueOf(rows, "Total comp value:"), "$0");
-  EXPECT_EQ(ValueOf(rows, "Rolls/hr:"), "100");
-  EXPECT_EQ(ValueOf(rows, "Sim hrs:"), ".04");
-  EXPECT_EQ(ValueOf(rows, "High:"), "$515");
-  EXPECT_EQ(ValueOf(rows, "Low:"), "$500");
-  EXPECT_EQ(ValueOf(rows, "Current:"), "$515");
-  EXPECT_EQ(ValueOf(rows, "Average:"), "$506.25");  // (505 + 500 + 505 + 515) / 4
-  EXPECT_EQ(ValueOf(rows, "Bets decided:"), "4");
-  EXPECT_EQ(ValueOf(rows, "Bets won:"), "3");
-  EXPECT_EQ(ValueOf(rows, "Bets lost:", 0), "1");
-  EXPECT_EQ(ValueOf(rows, "Bets decided:", 1), "$20");
-  EXPECT_EQ(ValueOf(rows, "Bets won:", 1), "$20");
-  EXPECT_EQ(ValueOf(rows, "Bets lost:", 1), "$5");
+  // The second of a label is the money row; the average is (505 + 500 + 505 + 515) / 4.
+  const struct { const char* label; int occurrence; const char* value; } figures[] = {
+      {"Total rolls:", 0, "4"}, {"Total comp value:", 0, "$0"}, {"Rolls/hr:", 0, "100"}, {"Sim hrs:", 0, ".04"},
+      {"High:", 0, "$515"}, {"Low:", 0, "$500"}, {"Current:", 0, "$515"}, {"Average:", 0, "$506.25"},
+      {"Bets decided:", 0, "4"}, {"Bets won:", 0, "3"}, {"Bets lost:", 0, "1"}, {"Bets decided:", 1, "$20"},
+      {"Bets won:", 1, "$20"}, {"Bets lost:", 1, "$5"}, {"# of Come-out rolls:", 0, "3"},
+      {"# of Points established:", 0, "1"}, {"Total Passes:", 0, "1"}, {"Total Misses:", 0, "1"},
+      {"Average # of rolls:", 0, "0"}};  // counter 5 grows only as a hand ends
+  for (const auto& f : figures) EXPECT_EQ(ValueOf(rows, f.label, f.occurrence), f.value) << f.label << f.occurrence;
   EXPECT_EQ(NetRow(rows)->Label, "Net win:");
   EXPECT_EQ(NetRow(rows)->Value, "$15");
   EXPECT_EQ(NetRow(rows)->Share, "75.00%");
-  EXPECT_EQ(ValueOf(rows, "# of Come-out rolls:"), "3");
-  EXPECT_EQ(ValueOf(rows, "# of Points established:"), "1");
-  EXPECT_EQ(ValueOf(rows, "Total Passes:"), "1");
-  EXPECT_EQ(ValueOf(rows, "Total Misses:"), "1");
-  EXPECT_EQ(ValueOf(rows, "Average # of rolls:"), "0");  // counter 5 grows only as a hand ends
   EXPECT_EQ(t.g.BetWagers[kActual][0][kCount], 4);  // the totals cell was filled
 
   const std::vector<BetTrendRow> trends = BetTrendRows(t.g);
