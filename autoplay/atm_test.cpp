@@ -34,7 +34,7 @@ TEST(Atm, LimitsAndNotices) {
       {kAtmDeposit, 100, 0, -5, true, false, kNoticeDefault, 0, ""},
   };
   for (const auto& c : cases) {
-    Table t;
+    TestTable t;
     t.g.Bankroll() = t.g.AmountInvested = c.bankroll;
     t.g.TotalOnTable = c.onTable;
     t.g.AllowNegativeBankroll = c.allowNegative;

@@ -21,7 +21,7 @@ TEST(AutoOdds, KeptFullThroughPointsTravelAndChangesUnderEveryMethod) {
   for (int method = 0; method <= 5; ++method) {
     for (Currency maxOdds : {Currency(2000), Currency(25)}) {
      for (int adjust : {0, 2}) {
-      Table t;
+      TestTable t;
       t.g.AutoAdjustMode = adjust;
       t.g.OddsCalcMethod = method;
       t.g.MaxOddsBet = maxOdds;
@@ -52,7 +52,7 @@ TEST(AutoOdds, KeptFullThroughPointsTravelAndChangesUnderEveryMethod) {
 }
 
 TEST(AutoOdds, TakeFullOddsEdges) {
-  Table t;
+  TestTable t;
   t.g.Bankroll() = 10000;
   t.Place(bet::kPassLine, 10);
   TakeFullOddsOnAll(t.g);  // no point: the line odds stay down
@@ -81,7 +81,7 @@ TEST(AutoOdds, TurningOnOffersToFillTheTable) {
       }
     } ui;
     ui.answer = reply;
-    Table t;
+    TestTable t;
     t.g.Ui = &ui;
     t.g.Bankroll() = 10000;
     t.Place(bet::kDontPass, 10);

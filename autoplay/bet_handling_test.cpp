@@ -10,7 +10,7 @@ constexpr int kPlace6 = bet::Place(6);
 
 // A $12 Place 6 winning $14 under the option or the button chosen.
 Currency AfterPlace6Win(int wonBetAction, std::optional<int> button = std::nullopt) {
-  Table t;
+  TestTable t;
   t.g.WonBetAction = wonBetAction;
   t.ui.settleReplies.push_back(button);
   t.Stand(kPlace6, 12);
@@ -24,7 +24,7 @@ Currency AfterPlace6Win(int wonBetAction, std::optional<int> button = std::nullo
 
 // A $10 Field bet losing 10/per on a 5 under the option or the button chosen.
 Currency AfterFieldLoss(int handleLosingBets, int per, std::optional<int> button = std::nullopt) {
-  Table t;
+  TestTable t;
   t.g.HandleLosingBets = handleLosingBets;
   t.g.FieldPayoff[5] = {-1, -1, per};
   t.ui.settleReplies.push_back(button);
@@ -55,7 +55,7 @@ TEST(WonBetHandling, ModifiedFormsAndResultNotices) {
       {7, kModifyWonBet, 0, 2, 3, 60},    {7, kModifyWonBet, 0, 200, 0, 24}, {6, kModifyWonBet, 0, 9, -1, 12},
       {0, kModifyDialogSame, 0, 6, -1, 18}, {0, kModifyWonSame, 0, 6, -1, 12}};
   for (const auto& c : cases) {
-    Table t;
+    TestTable t;
     t.g.WonBetAction = c.option;
     t.ui.settleReplies.push_back(5);
     t.g.ModifyOperator[c.entry] = c.op;
@@ -77,7 +77,7 @@ TEST(WonBetHandling, ModifiedFormsAndResultNotices) {
       {5, kNoticeDefault, true, {}},
       {2, kNoticeDefault, false, {}}};
   for (const auto& c : told) {
-    Table t;
+    TestTable t;
     t.g.WonBetAction = c.option;
     t.g.NoticeMask = c.mask;
     t.g.HyperDriveOn = c.hyper;
@@ -91,7 +91,7 @@ TEST(WonBetHandling, ModifiedFormsAndResultNotices) {
   }
 
   // The table's limits hold: a double past the maximum is cut, and the cut is told.
-  Table m;
+  TestTable m;
   m.g.WonBetAction = 4;
   m.g.TableMaximum = 20;
   m.Stand(kPlace6, 12);
@@ -101,7 +101,7 @@ TEST(WonBetHandling, ModifiedFormsAndResultNotices) {
   EXPECT_EQ(m.ui.messages, (std::vector<RecordedMessage>{{"Press Double Place 6", "Bet increased by: $8"}}));
 
   // A bet that was raised after the dice went out: the press is told against the old amount.
-  Table u;
+  TestTable u;
   u.g.WonBetAction = 3;
   u.Stand(kPlace6, 6);
   u.g.BetAmount[kPlace6] = u.g.TotalOnTable = 12;
@@ -111,7 +111,7 @@ TEST(WonBetHandling, ModifiedFormsAndResultNotices) {
 }
 
 TEST(WonBetHandling, SameBetIsTheAmountBeforeTheRollAndBuysPayTheirVigAnew) {
-  Table t;
+  TestTable t;
   t.g.WonBetAction = 2;
   t.Stand(kPlace6, 12);
   t.g.BetAmount[kPlace6] = t.g.TotalOnTable = 18;  // raised after the dice went out
@@ -121,7 +121,7 @@ TEST(WonBetHandling, SameBetIsTheAmountBeforeTheRollAndBuysPayTheirVigAnew) {
   EXPECT_EQ(t.g.TotalOnTable, Currency(12));
   EXPECT_FALSE(t.ui.redrawn.empty());
 
-  Table u;
+  TestTable u;
   u.g.WonBetAction = 2;
   u.Stand(bet::Buy(4), 20);
   u.g.BuyVigOnBet[0] = 1;
@@ -146,7 +146,7 @@ TEST(LostBetHandling, ByOptionAndByButton) {
 }
 
 TEST(LostBetHandling, TheNotice) {
-  Table t;
+  TestTable t;
   t.g.HandleLosingBets = 0;
   t.g.FieldPayoff[5] = {-1, -1, 2};
   t.Stand(bet::kField, 10);
@@ -162,7 +162,7 @@ TEST(LostBetHandling, TheNotice) {
                                                  "Press 1 &Unit - Add $5 to Bet", "Double Bet"}));
 
   // Lay vig has a row of its own; Same Bet charges it again.
-  Table u;
+  TestTable u;
   u.g.HandleLosingBets = 0;
   u.ui.settleReplies.push_back(2);
   u.Stand(bet::Lay(4), 40);
@@ -178,7 +178,7 @@ TEST(LostBetHandling, TheNotice) {
 
   // No notice for a bet placed after the dice went out, nor under Hyper-Drive.
   for (bool hyper : {false, true}) {
-    Table w;
+    TestTable w;
     w.g.HandleLosingBets = 0;
     w.g.HyperDriveOn = hyper;
     w.Stand(kPlace6, 6);
@@ -200,7 +200,7 @@ TEST(BetHandling, EveryOptionOverAHandOfRolls) {
   const int buyVig[] = {1, 0, 1, 1, 2, 3, 1, 0};      // 5% of the kept Buy
   const int line[] = {10, 0, 10, 15, 20, 20, 10, 0};    // $10 won $10
   for (int option = 0; option <= 7; ++option) {
-    Table t;
+    TestTable t;
     t.g.WonBetAction = option;
     t.g.HandleLosingBets = option;
     auto onTable = [&] {
@@ -249,7 +249,7 @@ TEST(BetHandling, ParlayAndSameBetAcrossTheFamilies) {
       {bet::Place(6), kSame, 20, 2, 4, 5, kOn, 20}, {bet::Buy(6), kSame, 20, 2, 4, 5, kOn, 20},
       {bet::Lay(4), kSame, 20, 3, 4, 5, kOn, 20}};
   for (const auto& c : cases) {
-    Table t;
+    TestTable t;
     if (c.action == kParlay) t.g.AutoAdjustMode = 2;
     t.g.WonBetAction = c.action;
     t.Stand(c.id, c.amount);

@@ -5,7 +5,7 @@
 #include "engine/table_for_test.h"
 
 TEST(WorkOnComeOut, YesNoDefaultOverASelection) {
-  Table t;
+  TestTable t;
   const int place6 = bet::Place(6), odds = bet::ComeOdds(8);
   t.g.BetStatus[odds] = -1;  // called OFF: the call outlives the edit
   SetWorkOnComeOut(t.g, {place6, odds, 0, 150}, true);

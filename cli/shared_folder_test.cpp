@@ -98,7 +98,7 @@ TEST(SharedFolder, ARunKilledMidSaveLeavesAFileThatOpens) {
   const fs::path game = folder.path() / "killed.crp";
   const fs::path input = SavingInput(folder.path(), "saves.in", game, 400);
   {
-    Table first;
+    TestTable first;
     ASSERT_TRUE(SaveGame(first.g, game.string()));
   }
   // Start-up takes some 150 ms and a save some 10: the kills fall among saves.
@@ -107,7 +107,7 @@ TEST(SharedFolder, ARunKilledMidSaveLeavesAFileThatOpens) {
     std::this_thread::sleep_for(std::chrono::milliseconds(170 + 23 * round));
     kill(p, SIGKILL);
     WaitFor(p);
-    Table t;
+    TestTable t;
     EXPECT_TRUE(OpenGame(t.g, game.string())) << "round " << round;
   }
   // The next start clears what the killed runs left half written.

@@ -37,7 +37,7 @@ TEST(AdjustBet, LandsOnWholePayoffs) {
       {"minor: 125 on place 6 goes to 126", 1, bet::Place(6), 0, 125, 1, 126},
   };
   for (const auto& c : cases) {
-    Table t;
+    TestTable t;
     t.g.AutoAdjustMode = c.mode;
     t.g.Bankroll() = 100000;
     SetBias(t.g, c.id, c.bias);
@@ -48,7 +48,7 @@ TEST(AdjustBet, LandsOnWholePayoffs) {
 }
 
 TEST(AdjustBet, FullOddsRequestKeepsItsValue) {
-  Table t;
+  TestTable t;
   t.g.AutoAdjustMode = 2;
   t.g.DoBias = 1;
   t.SetPoint(6);
@@ -59,7 +59,7 @@ TEST(AdjustBet, FullOddsRequestKeepsItsValue) {
 }
 
 TEST(AdjustBet, RefusesWhenNoCandidateFits) {
-  Table t;
+  TestTable t;
   t.g.AutoAdjustMode = 1;
   t.g.TableMaximum = 10;
   t.g.PlaceBias = 1;
@@ -68,7 +68,7 @@ TEST(AdjustBet, RefusesWhenNoCandidateFits) {
   t.Place(bet::Place(6), 10);
   EXPECT_EQ(t.g.BetAmount[bet::Place(6)], 6);
   // With a minimum of 7 the 6 is gone too.
-  Table m;
+  TestTable m;
   m.g.AutoAdjustMode = 1;
   m.g.TableMaximum = 10;
   m.g.TableMinimum = 7;
@@ -81,7 +81,7 @@ TEST(AdjustBet, RefusesWhenNoCandidateFits) {
 }
 
 TEST(AdjustBet, TurningAModeOnAdjustsTheTable) {
-  Table t;
+  TestTable t;
   t.g.Bankroll() = 1000;
   t.Place(bet::Place(6), 7);
   t.Place(bet::Lay(10), 3);
@@ -95,7 +95,7 @@ TEST(AdjustBet, TurningAModeOnAdjustsTheTable) {
 }  // namespace
 
 TEST(AdjustBet, AfterABankrollCutGoesDown) {
-  Table t;
+  TestTable t;
   t.g.AutoAdjustMode = 1;
   t.g.AllowNegativeBankroll = false;
   t.g.Bankroll() = 10;
@@ -106,7 +106,7 @@ TEST(AdjustBet, AfterABankrollCutGoesDown) {
 TEST(AdjustBet, OddsFollowTheirOwnBias) {
   struct Case { int bias; Currency pass, dont; } cases[] = {{0, 10, 9}, {1, 12, 12}, {2, 10, 9}};
   for (const auto& c : cases) {
-    Table t;
+    TestTable t;
     t.g.AutoAdjustMode = 1;
     t.g.Bankroll() = 1000;
     t.g.DoBias = t.g.DontBias = c.bias;

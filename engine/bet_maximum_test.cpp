@@ -4,7 +4,7 @@
 #include "engine/table_for_test.h"
 
 TEST(BetMaximum, TableMaximumPropositionsAndOdds) {
-  Table t;
+  TestTable t;
   Game& g = t.g;
   // Propositions by what they would pay (MaxPropBetPayoff 3000); the split
   // bets by the largest ratio among their numbers, less the parts that lose.

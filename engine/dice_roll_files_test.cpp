@@ -49,7 +49,7 @@ std::string Pattern(int64_t from, int64_t count) {
   return s;
 }
 
-struct FileTable : Table {
+struct FileTable : TestTable {
   TempFolder dir;
   AnsweringFrontEnd answers;
   FileTable() {

@@ -74,7 +74,7 @@ TEST(FileStatus, EveryReaderTellsWhyItRefusedAFile) {
   EXPECT_EQ(absurd, 10);
 
   for (const Case& c : cases) {
-    Table t;
+    TestTable t;
     const FileStatus status = c.read(t.g, c.path.string());
     EXPECT_FALSE(status.Ok) << c.what;
     EXPECT_EQ(status.Messages, std::vector<FileMessage>{c.told}) << c.what << ": " << status.FirstMessage();
@@ -83,7 +83,7 @@ TEST(FileStatus, EveryReaderTellsWhyItRefusedAFile) {
 }
 
 TEST(FileStatus, ShowingTellsEveryMessageInOrder) {
-  Table t;
+  TestTable t;
   FileStatus s;
   s.Tell("Missing Auto-Bet File", "one");
   s.Follow(FileStatus::Failed("Error", "two"));

@@ -6,7 +6,7 @@
 #include "store/start_up.h"
 
 TEST(NewGame, ClearsTheTableAndKeepsTheSettings) {
-  Table t;
+  TestTable t;
   Game& g = t.g;
   g.BetAmount[bet::kField] = g.TotalOnTable = 5;
   g.BetAmount[101] = 7;
@@ -30,7 +30,7 @@ TEST(NewGame, ClearsTheTableAndKeepsTheSettings) {
 }
 
 TEST(NewGame, SetsTheBankrollByItsType) {
-  Table t;
+  TestTable t;
   Game& g = t.g;
   // 1: asked for, offering the set amount, which takes the answer.
   g.BankrollInitType = 1;

@@ -30,8 +30,8 @@ TEST(Pad, EveryCombinationOfEveryTotalIsOnePairInRange) {
 }
 
 TEST(Pad, PadRollIsRecordedAndCountedAndLeavesTheGeneratorAlone) {
-  Table padded, plain;
-  for (Table* t : {&padded, &plain}) {
+  TestTable padded, plain;
+  for (TestTable* t : {&padded, &plain}) {
     t->g.SeedRequest = 4242;
     SeedRNG(t->g, true);
   }

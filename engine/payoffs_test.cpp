@@ -26,7 +26,7 @@ double FieldValuePerRoll(const Game& g) {
 }  // namespace
 
 TEST(Payoffs, DefaultTableAndRestoring) {
-  Table t;
+  TestTable t;
   Game& g = t.g;
   std::pair<int, int> want[84];
   for (auto& w : want) w = {1, 1};
@@ -62,7 +62,7 @@ TEST(Payoffs, DefaultTableAndRestoring) {
 }
 
 TEST(Payoffs, LineOddsFollowThePoint) {
-  Table t;
+  TestTable t;
   t.g.Point = 9;
   SyncOddsPayoffs(t.g);
   EXPECT_TRUE(Is(t.g.Payoff[44], 3, 2));
@@ -86,7 +86,7 @@ TEST(Payoffs, FieldPresets) {
       "Buy &10 (5 % vig)", "Lay &4 (5% vig on win only)", "H&ard 8", "&Horn", "&World", "H&op 13",
       "&Crapless Craps Pass Line", ""};
   for (int i = 0; i <= kFieldPresetCount; ++i) EXPECT_STREQ(FieldPresetCaption(i), captions[i]);
-  Table t;
+  TestTable t;
   Game& g = t.g;
   // Presets reproduce a bet's value per roll: Pass -7/495 a roll, Don't Pass
   // -3/220, Place 6 -1/216, Hard 8 -1/36.
@@ -106,7 +106,7 @@ TEST(Payoffs, FieldPresets) {
 }
 
 TEST(Payoffs, GridRowsAndLabels) {
-  Table t;
+  TestTable t;
   std::set<int> bets;
   for (int row = 1; row <= kPayoffGridRows; ++row) bets.insert(PayoffGridBet(row));
   EXPECT_EQ(bets.size(), 75u);
@@ -122,7 +122,7 @@ TEST(Payoffs, GridRowsAndLabels) {
 }
 
 TEST(Payoffs, EditingCells) {
-  Table t;
+  TestTable t;
   Game& g = t.g;
   PayoffRecord& p = g.Payoff[33];
   // Switching 7 to 6 to the "for" form shows 13 for 6 and pays the same.
@@ -156,7 +156,7 @@ TEST(Payoffs, EditingCells) {
 
 TEST(Payoffs, Validation) {
   {
-    Table t;
+    TestTable t;
     EXPECT_TRUE(ValidatePayoffs(t.g));
     // A negative payoff in the grid is let through; records outside it are not looked at.
     t.g.Payoff[33].Win = -1;
@@ -168,7 +168,7 @@ TEST(Payoffs, Validation) {
       {45, "Passline/Come (c.o.)"}, {20, "Pass/Come 5"},     {48, "Don't Pass/Come (c.o.)"}, {12, "DP/DC 10"},
       {26, "Come 5 Odds"},          {15, "Don't Come 6 Odds"}, {33, "Place 6"},             {83, "Hop 5-5"}};
   for (const auto& [id, label] : faults) {
-    Table t;
+    TestTable t;
     t.g.Payoff[id].Win = 0;
     PayoffFault where;
     EXPECT_FALSE(ValidatePayoffs(t.g, &where));
@@ -178,7 +178,7 @@ TEST(Payoffs, Validation) {
     EXPECT_EQ(where.table, PayoffTable::Bets);
     EXPECT_EQ(PayoffGridBet(where.row), id);
   }
-  Table t;
+  TestTable t;
   t.g.FieldPayoff[7] = {-2, -1, 1};
   PayoffFault where;
   EXPECT_FALSE(ValidatePayoffs(t.g, &where));

@@ -13,7 +13,7 @@ using namespace results;
 TEST(PhantomPayoff, FiguresAsTheSettlingAndStakesAsTheBooking) {
   const int points[] = {0, 4, 5, 6, 8, 9, 10};
   for (int variant = 0; variant < 4; ++variant) {
-    Table t;
+    TestTable t;
     if (variant > 0) {  // odd payoffs, Pers that divide, vig on every decision or none
       t.g.Payoff[bet::kHard4] = {Currency(15), -1, Currency(2)};
       t.g.Payoff[bet::kTwo] = {Currency::FromDouble(29.5), 0, Currency(1)};

@@ -13,7 +13,7 @@ const Currency kStackLimit = Currency::FromRaw(999'999'999'999'999'999);
 const std::string kPutTail = "(Unless you check \"Allow Put Bets\" on\rthe Configuration screen.)";
 
 TEST(PlaceBet, ChangesMoveInWholeChips) {
-  Table t;
+  TestTable t;
   EXPECT_EQ(t.Place(bet::Place(6), Money(7.5)), 8);
   EXPECT_EQ(t.Place(bet::Place(6), Money(-7.5)), -8);
   t.g.BetAmount[bet::kFirstChip] = 5;
@@ -73,7 +73,7 @@ TEST(PlaceBet, EveryRefusalWordForWord) {
        "You may not make or increase a Don't Come bet\rdirectly on a point number."},
   };
   for (const auto& c : cases) {
-    Table t;
+    TestTable t;
     t.SetPoint(c.point);
     t.g.BetAmount[c.betId] = c.standing;
     if (c.parent) t.g.BetAmount[bet::ParentOf(c.betId)] = c.parent;
@@ -111,7 +111,7 @@ TEST(PlaceBet, LimitsCutTheChangeAndSayWhy) {
        "Minimum Chip-Stack value is: $-99,999,999,999,999.9999\r\rwhich is being stacked."},
   };
   for (const auto& c : cases) {
-    Table t;
+    TestTable t;
     t.g.TableMinimum = 5;
     t.g.BetAmount[c.id] = c.standing;
     t.g.BetAmount[bet::kField] = c.field;
@@ -122,7 +122,7 @@ TEST(PlaceBet, LimitsCutTheChangeAndSayWhy) {
     EXPECT_EQ(t.ui.messages.empty() ? RecordedMessage{} : t.ui.messages[0], (RecordedMessage{c.title, c.text}));
   }
   // A maximum lowered below an ordinary bet cuts it when it is touched.
-  Table t;
+  TestTable t;
   t.g.BetAmount[bet::Place(8)] = 1000;
   t.g.TableMaximum = 500;
   EXPECT_EQ(t.Place(bet::Place(8), 5), -500);
@@ -142,7 +142,7 @@ TEST(PlaceBet, NoticesNeedTheirBitAndAVisibleTable) {
       {bet::Buy(10), 20, kNoticeCharges, false, true},
   };
   for (const auto& c : cases) {
-    Table t;
+    TestTable t;
     t.g.TableMinimum = 5;
     t.g.NoticeMask = c.mask;
     t.g.HyperDriveOn = c.hyper;
@@ -154,7 +154,7 @@ TEST(PlaceBet, NoticesNeedTheirBitAndAVisibleTable) {
 
 TEST(PlaceBet, ContractBetsPutBetsAndBetsOnTheMove) {
   // Put bets may be taken back to what was committed, and no further.
-  Table t;
+  TestTable t;
   t.g.AllowPutBets = true;
   t.SetPoint(6);
   t.g.BetAmount[bet::kPassLine] = t.g.TotalOnTable = 50;
@@ -182,7 +182,7 @@ TEST(PlaceBet, ContractBetsPutBetsAndBetsOnTheMove) {
 
   // A Don't Pass bet may be made on the come-out and lowered at any time, but
   // with a point on it only goes back up to what was committed.
-  Table d;
+  TestTable d;
   EXPECT_EQ(d.Place(bet::kDontPass, 10), 10);
   d.Commit();
   d.SetPoint(4);
@@ -191,7 +191,7 @@ TEST(PlaceBet, ContractBetsPutBetsAndBetsOnTheMove) {
   EXPECT_EQ(d.Last().title, "Don't Pass Bet");
 
   // A Come bet travelling to its number is taken whole, within the limits.
-  Table u;
+  TestTable u;
   u.SetPoint(8);
   u.g.MovingBet = true;
   EXPECT_EQ(u.Place(bet::Come(6), 10), 10);
@@ -209,7 +209,7 @@ TEST(PlaceBet, ContractBetsPutBetsAndBetsOnTheMove) {
 }
 
 TEST(PlaceBet, VigNoticesAndTheTotalOnTable) {
-  Table t;
+  TestTable t;
   const struct { int change, total; const char* text; } buys[] = {
       {20, 21, "Total \"Vig\" charge $1"},
       {20, 42, "\"Vig\" increased by $1\r\rTotal \"Vig\" charge $2"},
@@ -230,7 +230,7 @@ TEST(PlaceBet, VigNoticesAndTheTotalOnTable) {
 }
 
 TEST(PlaceBetOnTable, AutomaticOddsAndSetBetToMaximum) {
-  Table t;
+  TestTable t;
   t.g.AllowPutBets = t.g.AutoTakeFullOdds = true;
   t.SetPoint(6);
   t.g.BetChange = 10;
@@ -251,7 +251,7 @@ TEST(PlaceBetOnTable, AutomaticOddsAndSetBetToMaximum) {
   EXPECT_FALSE(t.ui.redrawn.empty());
 
   // Setting a maximum is silent and leaves the pending message as it was.
-  Table u;
+  TestTable u;
   u.SetPoint(4);
   u.Place(bet::kPassLine, 10);  // refused with the point on
   const std::string refusal = u.g.MsgText;

@@ -6,7 +6,7 @@
 
 namespace {
 
-struct RollTest : ::testing::Test, Table {
+struct RollTest : ::testing::Test, TestTable {
   void Bet(int id, int amount) {
     g.BetChange = amount;
     PlaceBetOnTable(g, id);

@@ -9,7 +9,7 @@ namespace {
 Currency Money(double v) { return Currency::FromDouble(v); }
 
 TEST(Vig, RoundsByModeAndNeverBelowOneCheck) {
-  Table t;  // 5%, chip 1
+  TestTable t;  // 5%, chip 1
   // Buy 10: 0.50 goes to 0 or 1 and is raised to 1. A half goes down normally.
   const struct { int id, amount, mode; double vig; } cases[] = {
       {bet::Buy(4), 10, 0, 1}, {bet::Buy(4), 10, 1, 1}, {bet::Buy(4), 10, 2, 1}, {bet::Buy(6), 30, 0, 1},
@@ -38,7 +38,7 @@ TEST(Vig, RoundsByModeAndNeverBelowOneCheck) {
 }
 
 TEST(Vig, RefigureVigsRebuildsTheTotal) {
-  Table t;
+  TestTable t;
   t.g.BetAmount[bet::Buy(4)] = 20;
   t.g.BetAmount[bet::Lay(4)] = 40;
   t.g.BetAmount[bet::kField] = 5;
@@ -61,7 +61,7 @@ TEST(Vig, ChangeVigRuleIsRefusedWhenUpFrontVigOutrunsTheBankroll) {
       " -- Make a withdrawal from the ATM, or\r"
       " -- Win some more money, or\r"
       " -- Reduce the amount of your current bets.";
-  Table t;
+  TestTable t;
   t.g.AllowNegativeBankroll = false;
   t.g.ChargeAllBuy = false;
   t.g.Bankroll() = 20;
@@ -98,7 +98,7 @@ TEST(Vig, ChangeVigRuleIsRefusedWhenUpFrontVigOutrunsTheBankroll) {
 }
 
 TEST(Rules, UncheckingAllowNegativeBankroll) {
-  Table t;
+  TestTable t;
   t.g.Bankroll() = -5;
   EXPECT_FALSE(SetAllowNegativeBankroll(t.g, false));
   EXPECT_TRUE(t.g.AllowNegativeBankroll);
@@ -123,7 +123,7 @@ TEST(Rules, UncheckingAllowNegativeBankroll) {
 }
 
 TEST(Rules, ValidateConfigurationStopsAtTheFirstFault) {
-  Table t;
+  TestTable t;
   EXPECT_TRUE(ValidateConfiguration(t.g).ok);
   const std::string checks = "Check Values", limits = "Configuration Limits";
   const struct { double chips[3], minimum, maximum; std::string title, text, tab, control; int index; } cases[] = {

@@ -20,7 +20,7 @@ TEST(SeedRNG, LimitsAreTestedBeforeRounding) {
 }
 
 TEST(SeedRNG, OverflowingSeedIsReportedAndSeedsWhatCameBefore) {
-  Table t;
+  TestTable t;
   Game& g = t.g;
   SeedSilently(g, 5, 2'147'428'875);
   ASSERT_EQ(t.ui.messages.size(), 1u);
@@ -42,7 +42,7 @@ TEST(SeedRNG, OverflowingSeedIsReportedAndSeedsWhatCameBefore) {
 }
 
 TEST(SeedRNG, PromptAsksUntilTheSeedIsWithinLimits) {
-  Table t;
+  TestTable t;
   Game& g = t.g;
   g.UserSeedMode = g.KeepRolling = true;
   g.RngChoice = 2;

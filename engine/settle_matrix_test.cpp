@@ -148,7 +148,7 @@ TEST_P(SettleMatrix, EveryBetOnEveryPairAndPoint) {
       if ((id == bet::kPassOdds || id == bet::kDontPassOdds) && point == 0) continue;
       for (int a = 1; a <= 6; ++a) {
         for (int b = 1; b <= 6; ++b) {
-          Table t;
+          TestTable t;
           Game& g = t.g;
           g.BuyVigRate = g.LayVigRate = Currency::FromRaw(v.vigPercent * 100);
           g.ChargeAllBuy = g.ChargeAllLay = v.chargeAll;

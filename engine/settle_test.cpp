@@ -25,7 +25,7 @@ TEST(SettleBet, WonNoticesAndRounding) {
        {{"1/5 of bet:", "$1"}, {"Payoff at 4 to 1:", "$4"}, {"Less 4/5 of bet:", "$-4"}, {"Net payoff: ", "$0"}}},
   };
   for (const auto& c : cases) {
-    Table t;
+    TestTable t;
     t.g.BetStreak[1][c.id] = -3;
     t.Stand(c.id, Currency::FromDouble(c.amount));
     RefigureVigs(t.g);
@@ -36,7 +36,7 @@ TEST(SettleBet, WonNoticesAndRounding) {
     EXPECT_EQ(t.ui.notices[0].title, c.title);
     EXPECT_EQ(t.ui.notices[0].rows, c.rows);
   }
-  Table t;
+  TestTable t;
   t.Stand(bet::Place(6), 12);
   t.g.Payoff[bet::Place(6)].Form = 0;  // the "for" form pays the same and says so
   t.Dice(2, 4, 5);
@@ -61,7 +61,7 @@ TEST(SettleBet, WonNoticesAndRounding) {
 
 TEST(SettleBet, NoDecisionsStreaksAndSilentTables) {
   // A payoff of zero, or an empty spot, is no decision at all.
-  Table t;
+  TestTable t;
   t.g.FieldPayoff[9] = {0, -1, 1};
   t.Stand(bet::kField, 5);
   t.g.BetStatus[bet::Place(6)] = 1;
@@ -90,7 +90,7 @@ TEST(SettleBet, NoDecisionsStreaksAndSilentTables) {
 }
 
 TEST(SettleBet, OffBetsStandAndOffOddsComeBack) {
-  Table t;
+  TestTable t;
   t.Stand(bet::Place(6), 6);
   t.g.BetStatus[bet::Place(6)] = 0;
   t.Dice(3, 4, 0);
@@ -135,7 +135,7 @@ TEST(SettleBet, BuyAndLayVig) {
   const struct { bool upFront; Outcome outcome; int net; } cases[] = {
       {true, kLoss, -21}, {false, kLoss, -20}, {true, kWin, 39}, {false, kWin, 39}};
   for (const auto& c : cases) {
-    Table t;
+    TestTable t;
     t.g.ChargeAllBuy = c.upFront;
     t.g.WonBetAction = 1;
     t.Stand(bet::Buy(4), 20);
@@ -147,7 +147,7 @@ TEST(SettleBet, BuyAndLayVig) {
   }
   // The phantom unit pays the rate: on the unit for a Buy, on what the Lay
   // would win for a Lay.
-  Table t;
+  TestTable t;
   const struct { int id; Outcome outcome; bool upFront; double raw; } phantom[] = {
       {bet::Buy(4), kWin, true, 1.95}, {bet::Lay(4), kWin, true, 0.475}, {bet::Lay(4), kLoss, true, -1.025},
       {bet::Lay(4), kLoss, false, -1}};
@@ -160,7 +160,7 @@ TEST(SettleBet, BuyAndLayVig) {
 
 TEST(SettleBet, WhatComesDownAfterAWin) {
   // Don't Come numbers come down, and are no longer held by their contract.
-  Table t;
+  TestTable t;
   t.Stand(bet::DontCome(4), 10);
   t.Dice(3, 4, 6);
   t.Settle(Outcome::Win, bet::DontCome(4));
@@ -194,7 +194,7 @@ TEST(SettleBet, WhatComesDownAfterAWin) {
 }
 
 TEST(FigureUnit, LargestCheckThatDividesTheBet) {
-  Table t;
+  TestTable t;
   // Nothing divides 7 or 3 at 6: the smallest check's unit stands.
   const struct { int amount, per, unit; } cases[] = {
       {30, 6, 30}, {12, 6, 6}, {25, 1, 25}, {1000, 1, 500}, {7, 1, 1}, {7, 6, 6}, {3, 6, 6}};

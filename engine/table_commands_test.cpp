@@ -9,7 +9,7 @@
 
 namespace {
 
-struct Commands : Table {
+struct Commands : TestTable {
   // Come numbers only arrive by travelling from the box.
   void Put(int id, int amount) {
     g.MovingBet = bet::IsComeNumber(id);

@@ -74,11 +74,11 @@ class RecordingFrontEnd : public FrontEnd {
 };
 
 // A new game: chips 1..500, default payoffs, a bankroll of 500.
-struct Table {
+struct TestTable {
   Game g;
   RecordingFrontEnd ui;
 
-  Table() {
+  TestTable() {
     AssembleGame(g);
     g.ReSeedNewGames = false;
     g.AutoAdjustMode = 0;

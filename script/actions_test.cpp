@@ -32,7 +32,7 @@ bool SameRun(const ScriptLine& a, const ScriptLine& b) {
 
 // A table with a script: Run appends lines and carries them out in order,
 // zeroing the run where the interpreter would.
-struct ScriptTable : Table {
+struct ScriptTable : TestTable {
   PassState pass;
 
   void Run(const std::vector<ScriptLine>& lines) {

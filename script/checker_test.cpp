@@ -101,7 +101,7 @@ TEST(ScriptChecker, WellBuiltScriptsPass) {
 }
 
 TEST(ScriptChecker, CheckCommandTellsEmptyGoodAndFaulty) {
-  Table t;
+  TestTable t;
   EXPECT_FALSE(CheckBetsCommand(t.g));
   EXPECT_EQ(t.Last(), (RecordedMessage{"Auto-Bet",
                                        "This feature checks to see that your Auto-Bet script is properly structured, "

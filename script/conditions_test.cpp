@@ -140,12 +140,12 @@ TEST(Conditions, EachPassAndEachMissFollowTheThrow) {
       {{{2, 2}}, false, false},         // point set
   };
   for (const Case& c : cases) {
-    Table t;
+    TestTable t;
     for (auto [d1, d2] : c.throws) t.Roll(d1, d2);
     EXPECT_EQ(Evaluate(t.g, Condition(1313, 0)), (Outcome{c.pass, c.pass})) << c.throws.back().first;
     EXPECT_EQ(Evaluate(t.g, Condition(1316, 0)), (Outcome{c.miss, c.miss})) << c.throws.back().first;
   }
-  Table fresh;
+  TestTable fresh;
   EXPECT_EQ(Evaluate(fresh.g, Condition(1313, 0)), kFalse) << "no roll yet";
   EXPECT_EQ(Evaluate(fresh.g, Condition(1316, 0)), kFalse);
 }
@@ -364,7 +364,7 @@ TEST(Conditions, DiceEvents) {
         << c.sinceBefore << "->" << c.since;
   }
 
-  Table t;
+  TestTable t;
   t.Roll(1, 6);
   EXPECT_EQ(Evaluate(t.g, Condition(2078, 5)), kTrueNew) << "die 1 showed a 1";
   EXPECT_EQ(Evaluate(t.g, Condition(2039, 5)), kTrueNew) << "number 7 (1-6)";

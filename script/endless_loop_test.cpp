@@ -32,7 +32,7 @@ TEST(EndlessLoop, APassThatLoopsIsAbortedNamingItsLines) {
     if (entry.path().extension() != ".txt" || !loops)
       continue;
     ++files;
-    Table t;
+    TestTable t;
     const FileStatus loaded = LoadScriptFile(entry.path().string(), t.g.AutoBet);
     ASSERT_TRUE(loaded) << loaded.FirstMessage();
     t.g.HyperDriveOn = true;
@@ -50,7 +50,7 @@ TEST(EndlessLoop, APassThatLoopsIsAbortedNamingItsLines) {
   }
   EXPECT_EQ(files, 14);
 
-  Table t;
+  TestTable t;
   t.g.AutoBet = FromText("Label \"A\"\nWhen\n  On each roll\nthen\n  Go to \"A\"\n");
   t.g.HyperDriveOn = true;
   t.g.RollCounts[0] = 1;  // a roll since the last pass

@@ -24,7 +24,7 @@ std::vector<ScriptLine> Read(const std::string& text) {
 
 // A table in a data folder, playing a script of its own, with a Hot-Key to a
 // file that bets the Pass Line and sets a flag of its own.
-struct HotKeyTable : Table {
+struct HotKeyTable : TestTable {
   TempFolder folder;
   HotKeyTable() {
     g.DataFolder = folder.path().string();

@@ -60,7 +60,7 @@ ScriptLine Label(const std::string& name) { return Line(kLabel, 0, name); }
 constexpr const char* kTaken = "Action taken.";
 
 struct Pass {
-  Table t;
+  TestTable t;
   StepsFrontEnd ui;
 
   explicit Pass(std::vector<ScriptLine> lines) {

@@ -63,7 +63,7 @@ void RunSample(const Sample& sample, const std::string& extension) {
   const std::string path =
       (std::filesystem::path(DICEMILL_SOURCE_DIR) / "samples" / sample.name).string() + extension;
   SCOPED_TRACE(path);
-  Table t;
+  TestTable t;
   const FileStatus loaded = LoadScriptFile(path, t.g.AutoBet);
   ASSERT_TRUE(loaded) << loaded.FirstMessage();
   t.g.AutoBetActivated = true;

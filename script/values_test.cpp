@@ -5,7 +5,7 @@
 #include "engine/table_for_test.h"
 
 TEST(ScriptValues, GroupsReferencesPointsAndDecidedWagers) {
-  Table t;
+  TestTable t;
   for (int n : {4, 5, 6, 8, 9, 10}) t.Stand(bet::Place(n), n);
   EXPECT_EQ(GetValue(t.g, 1006, 0), Currency(42));
   EXPECT_EQ(GetValue(t.g, 1007, 0), Currency(5 + 6 + 8 + 9));  // inside: 5, 6, 8, 9
@@ -45,7 +45,7 @@ TEST(ScriptValues, AverageBankrollIsRoundedNotCut) {
       {5, 2, 2}, {7, 2, 4},          // halves go to the even side
   };
   for (const auto& c : cases) {
-    Table t;
+    TestTable t;
     t.g.BankrollSum = Currency::FromRaw(c.sumRaw);
     t.g.RollCounts[0] = c.rolls;
     EXPECT_EQ(AverageBankroll(t.g).raw, c.averageRaw) << c.sumRaw;

@@ -20,7 +20,7 @@ TEST(RollRate, UnitsLimitsAndTexts) {
       {600'001, RateUnit::MinutesPerRoll, 100, "The maximum simulated Mins / roll rate is 600,000."},
   };
   for (const Case& c : cases) {
-    Table t;
+    TestTable t;
     t.g.SimRollRate = 100;
     EXPECT_EQ(SetRollsPerHour(t.g, c.value, c.unit), *c.refusal == 0) << RateUnitName(c.unit);
     EXPECT_EQ(t.g.SimRollRate, c.rate) << RateUnitName(c.unit);
@@ -37,7 +37,7 @@ TEST(RollRate, UnitsLimitsAndTexts) {
 }
 
 TEST(HyperDrive, SecondPressStopsAndAStartRunsToTheCount) {
-  Table t;
+  TestTable t;
   t.g.KeepRolling = true;
   StartHyperDrive(t.g);
   EXPECT_FALSE(t.g.KeepRolling);

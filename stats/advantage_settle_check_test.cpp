@@ -23,7 +23,7 @@ void OddPayoffs(Game& g) {
   for (int row = 1; row <= 21; ++row) g.FieldPayoff[row] = {row % 3 - 1, -1, 1 + row % 2};
 }
 
-void Prepare(Table& t, const TableSetup& s, int point) {
+void Prepare(TestTable& t, const TableSetup& s, int point) {
   Game& g = t.g;
   g.BetAmount[bet::kFirstChip] = Currency::FromRaw(1);  // no rounding to chips
   g.BarNumber = s.barNumber;
@@ -35,7 +35,7 @@ void Prepare(Table& t, const TableSetup& s, int point) {
 // What one throw of (a, b) does to a unit of the bet, with `point` on before
 // it: the bankroll's change over the bet plus any vig paid up front.
 double NetOfThrow(const TableSetup& s, int betId, int point, int a, int b) {
-  Table t;
+  TestTable t;
   Prepare(t, s, point);
   Game& g = t.g;
   t.Stand(betId, kStake);
@@ -96,7 +96,7 @@ TEST(AdvantageAgainstTheTable, EveryBetOnFairDice) {
   for (const TableSetup& s : setups) {
     for (int id = 1; id <= bet::kLastTableBet; ++id) {
       if (id == bet::kCome || id == bet::kDontCome) continue;  // they are the line bets moved along
-      Table t;
+      TestTable t;
       // Line odds are figured on the point that stands.
       const int point = id == bet::kPassOdds || id == bet::kDontPassOdds ? 9 : 0;
       Prepare(t, s, point);

@@ -83,7 +83,7 @@ const Exact kExact[] = {
 
 TEST(Advantage, DefaultPayoffsGiveTheCasinoFigures) {
   for (const Exact& e : kExact) {
-    Table t;
+    TestTable t;
     if (e.setup) e.setup(t.g);
     const Advantage a = FigureAdvantage(t.g, e.betId);
     EXPECT_NEAR(a.EvPerDecision, e.evPerDecision, 1e-12) << e.name;
@@ -94,7 +94,7 @@ TEST(Advantage, DefaultPayoffsGiveTheCasinoFigures) {
 }
 
 TEST(Advantage, RollsPerDecisionAndSpread) {
-  Table t;
+  TestTable t;
   const Advantage pass = FigureAdvantage(t.g, bet::kPassLine);
   EXPECT_NEAR(pass.RollsPerDecision, 557.0 / 165, 1e-12);
   EXPECT_NEAR(pass.VarPerDecision, 1 - std::pow(7.0 / 495, 2), 1e-12);
@@ -131,7 +131,7 @@ TEST(Advantage, RollsPerDecisionAndSpread) {
 }
 
 TEST(Advantage, APointWithAPointOnReadsItsOwnOddsRecord) {
-  Table t;
+  TestTable t;
   t.SetPoint(4);
   t.g.Payoff[bet::ComeOdds(4)] = {3, -1, 1};  // 3 to 1 on the 4: +1/3 a decision
   t.g.Payoff[bet::DontComeOdds(4)] = {1, -1, 4};  // 1 to 4 against it
@@ -143,7 +143,7 @@ TEST(Advantage, APointWithAPointOnReadsItsOwnOddsRecord) {
 }
 
 TEST(Advantage, PayoffsAboveTrueOddsTurnTheRowPositive) {
-  Table t;
+  TestTable t;
   t.g.Payoff[bet::Place(6)] = {13, -1, 10};  // 13 to 10 beats 6 to 5
   EXPECT_NEAR(FigureAdvantage(t.g, bet::Place(6)).EvPerDecision, (5 * 1.3 - 6) / 11, 1e-12);
   t.g.Payoff[bet::Come(5)] = {8, -1, 5};  // the Pass Line then pays 8 to 5 on a 5
@@ -167,7 +167,7 @@ void SetWeights(Game& g, const std::function<int32_t(int, int)>& weight) {
 
 TEST(Advantage, PercentageDice) {
   // The true table sums to 100,008 but its outcomes are equal: true odds.
-  Table t;
+  TestTable t;
   t.g.UseSkewedProbability = true;
   EXPECT_NEAR(FigureAdvantage(t.g, bet::kPassLine).EvPerDecision, -7.0 / 495, 1e-15);
   EXPECT_NEAR(FigureAdvantage(t.g, bet::kDontPass).EvPerRoll, -9.0 / 2228, 1e-15);

@@ -178,7 +178,7 @@ TEST(BankrollGraph, ManualWindowPlacementAndReferenceLines) {
 }
 
 TEST(BankrollGraph, TheRollTakesAPointAndANewGameClearsThem) {
-  Table t;
+  TestTable t;
   t.g.AutoAdjustType = 1;
   t.Roll(3, 4);
   t.Roll(2, 2);

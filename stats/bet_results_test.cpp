@@ -18,14 +18,14 @@ const std::array<Currency, kMeasures>& Wagers(const Game& g, int kind, int id) {
 Currency Entries(const Game& g, int kind, int id) { return g.BetWagers[kind][id][kCount]; }
 
 // Rolls each total as a non-double pair.
-void RollTotals(Table& t, const std::vector<int>& totals) {
+void RollTotals(TestTable& t, const std::vector<int>& totals) {
   for (int total : totals) t.Roll(total <= 7 ? 1 : total - 6, total <= 7 ? total - 1 : 6);
 }
 
 }  // namespace
 
 TEST(BetResults, PhantomUnitOnASpotNeverBet) {
-  Table t;
+  TestTable t;
   RollTotals(t, {5, 6, 6, 7});  // point 5, two sixes, seven-out
   const int place6 = bet::Place(6);
   EXPECT_EQ(t.g.BetAmount[place6], 0);
@@ -53,7 +53,7 @@ TEST(BetResults, PhantomComeUnitsTravel) {
       {{6, 5, 7, 7}, 0, 1, 1, 1},  // the seven took every mark down
   };
   for (const auto& c : cases) {
-    Table t;
+    TestTable t;
     RollTotals(t, c.totals);
     SCOPED_TRACE(::testing::PrintToString(c.totals));
     EXPECT_EQ(t.g.BetWins[kPhantom][come5][kCount], c.comeWins);
@@ -62,7 +62,7 @@ TEST(BetResults, PhantomComeUnitsTravel) {
     EXPECT_EQ(t.g.BetLosses[kPhantom][comeOdds5][kCount], c.comeOddsLosses);
   }
   // With Put bets a unit may stand on a Come number whenever it works.
-  Table t;
+  TestTable t;
   t.g.AllowPutBets = true;
   RollTotals(t, {6, 5});
   EXPECT_EQ(t.g.BetWins[kPhantom][come5][kCount], 1);
@@ -75,7 +75,7 @@ TEST(BetResults, MarksMoveAtTheTopOfEachRoll) {
     Currency mark;  // of the four bets of the number 8
   } cases[] = {{8, 5, 1}, {8, 0, 0}, {7, 5, 0}, {7, 0, 0}, {11, 5, 1}, {2, 0, 1}, {6, 5, 1}};
   for (const auto& c : cases) {
-    Table t;
+    TestTable t;
     for (int n : {6, 8}) {
       for (int id : {bet::DontCome(n), bet::DontComeOdds(n), bet::Come(n), bet::ComeOdds(n)})
         t.g.BetWagers[kPhantom][id][kMark] = 1;
@@ -91,7 +91,7 @@ TEST(BetResults, MarksMoveAtTheTopOfEachRoll) {
 }
 
 TEST(BetResults, PushesBookNothing) {
-  Table t;
+  TestTable t;
   BookBetResult(t.g, kActual, bet::kField, 5, 0);
   BookBetResult(t.g, kPhantom, bet::kField, 1, 0);
   EXPECT_EQ(t.g.BetWagers, Game::BetResultTable{});
@@ -119,7 +119,7 @@ TEST(BetResults, VigIsStakedWhereItIsPaid) {
       {kActual, bet::Place(4), true, -20, 20},
   };
   for (const auto& c : cases) {
-    Table t;
+    TestTable t;
     t.g.ChargeAllLay = t.g.ChargeAllBuy = c.chargeAll;
     t.g.LayVigOnBet[0] = 1;
     t.g.BuyVigOnBet[0] = 1;
@@ -133,7 +133,7 @@ TEST(BetResults, VigIsStakedWhereItIsPaid) {
 }
 
 TEST(BetResults, MeasuresAndTheLastRollColumns) {
-  Table t;
+  TestTable t;
   const int id = bet::kField;
   EXPECT_EQ(Wagers(t.g, kActual, id)[kLow], 0);
   const struct { int stake, net; } entries[] = {{5, 5}, {3, -3}, {8, 16}, {4, -4}};
@@ -168,7 +168,7 @@ TEST(BetResults, MeasuresAndTheLastRollColumns) {
 }
 
 TEST(BetResults, ActualResultsAreBookedAtSettlement) {
-  Table t;
+  TestTable t;
   t.Place(bet::kPassLine, 10);
   t.Place(bet::kField, 5);
   t.Roll(3, 4);  // a natural: the line wins 10, the field loses 5

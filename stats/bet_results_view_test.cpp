@@ -34,7 +34,7 @@ TEST(BetResultsView, NoRollsNoSelectionNoRateDivideByNothing) {
   for (const Currency rate : {Currency(100), Currency(0)}) {
     for (const auto& ids : {AllBets(), std::vector<int>{}}) {
       for (int kind : {kPhantom, kActual}) {
-        Table t;
+        TestTable t;
         t.g.SimRollRate = rate;
         const BetResultsView view = CombinedBetResults(t.g, ids, kind);
         std::vector<std::string> seen;
@@ -51,7 +51,7 @@ TEST(BetResultsView, NoRollsNoSelectionNoRateDivideByNothing) {
 }
 
 TEST(BetResultsView, CombinedRowsAddTheSelectedBets) {
-  Table t;
+  TestTable t;
   const int place6 = bet::Place(6), place8 = bet::Place(8);
   BookBetResult(t.g, kActual, place6, 6, 7);
   BookBetResult(t.g, kActual, place6, 12, -12);
@@ -94,7 +94,7 @@ TEST(BetResultsView, CombinedRowsAddTheSelectedBets) {
 }
 
 TEST(BetResultsView, ReportWording) {
-  Table t;
+  TestTable t;
   const std::vector<std::string> one = BetResultsReport(t.g, {bet::Place(6)}, kActual);
   ASSERT_GE(one.size(), 2u);
   EXPECT_EQ(one[0], "Results of actual decided wagers for this bet:");
@@ -115,7 +115,7 @@ TEST(BetResultsView, ReportWording) {
 }
 
 TEST(BetResultsView, ActualBetLinesListDecidedBets) {
-  Table t;
+  TestTable t;
   BookBetResult(t.g, kActual, bet::kPassLine, 10, 10);
   BookBetResult(t.g, kActual, bet::kPassLine, 10, -10);
   BookBetResult(t.g, kActual, bet::kPassLine, 10, -10);

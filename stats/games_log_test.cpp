@@ -149,7 +149,7 @@ TEST(GamesLog, ASumBeyondCurrencyFailsWithTheMessage) {
 }
 
 TEST(GamesLog, AFinishedGameFillsItsRecord) {
-  Table t;
+  TestTable t;
   t.Roll(3, 4);
   t.Roll(2, 2);
   const GameLogRecord r = FinishedGameRecord(t.g);
@@ -163,7 +163,7 @@ TEST(GamesLog, AFinishedGameFillsItsRecord) {
 }
 
 TEST(GamesLog, ANewGameAddsTheFinishedGameToTheActiveLog) {
-  Table t;
+  TestTable t;
   TempFolder dir;
   const auto path = dir.path() / "games.glg";
   ASSERT_TRUE(OpenGamesFile(t.g, path.string()));

@@ -12,7 +12,7 @@
 #include "stats/bet_results.h"
 
 TEST(PhantomRun, EveryBetAgreesWithItsExpectedValue) {
-  Table t;
+  TestTable t;
   SeedSilently(t.g, 0, 20261121);
   constexpr int kRolls = 400'000;
   t.g.RollCountStop = t.g.RollCountLeft = kRolls;

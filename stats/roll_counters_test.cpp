@@ -59,7 +59,7 @@ TEST(RollCounters, GapsGrowUntilTheSelectionComesAgain) {
 }
 
 TEST(RollCounters, TheRollKeepsTheValuesBeforeItAndANewGameClearsAll) {
-  Table t;
+  TestTable t;
   t.Roll(2, 2);
   t.Roll(1, 1);
   EXPECT_EQ(t.g.RollCounts[0], 2);

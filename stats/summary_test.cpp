@@ -39,7 +39,7 @@ TEST(Summary, NumberPatterns) {
 }
 
 TEST(Summary, LabelsInOrderAndAveragesOfZeroBeforeAHandEnds) {
-  Table t;
+  TestTable t;
   const std::vector<SummaryRow> rows = ShowSummary(t.g);
   std::vector<std::string> labels;
   for (const SummaryRow& row : rows) labels.push_back(row.Label);
@@ -68,7 +68,7 @@ TEST(Summary, LabelsInOrderAndAveragesOfZeroBeforeAHandEnds) {
 }
 
 TEST(Summary, FiguresOfAPlayedGame) {
-  Table t;
+  TestTable t;
   t.g.SimRollRate = 100;
   t.Place(bet::kField, 5);
   t.Roll(1, 2);  // a 3: the field wins 5

@@ -51,7 +51,7 @@ TEST(BetFile, LayoutOfTheBytes) {
 TEST(BetFile, RoundTripKeepsEveryCodeAndIsByteIdentical) {
   TempFolder folder;
   const std::string path = (folder.path() / "a.bet").string(), again = (folder.path() / "b.bet").string();
-  Table t;
+  TestTable t;
   t.g.AutoBet = Sample();
   ASSERT_TRUE(SaveAutoBetFile(t.g, path));
   EXPECT_FALSE(std::filesystem::exists(path + ".tmp"));
@@ -85,7 +85,7 @@ TEST(BetFile, RefusalsLeaveTheScriptAsItWas) {
       {EncodeBetFile(Sample(), false).substr(0, 600),
        "has either been corrupted or is not a true Dicemill Auto-Bet file."},
   };
-  Table t;
+  TestTable t;
   t.g.AutoBet = Sample();
   // A refusal is one message, for the caller to show; nothing is shown here.
   auto refusal = [&t](const FileStatus& s) {

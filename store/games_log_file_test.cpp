@@ -95,7 +95,7 @@ TEST(GamesLogFile, ACorruptFileIsRefusedAndLeftAlone) {
   }
 
   // The table keeps its log when another file is refused, and is told.
-  Table t;
+  TestTable t;
   WriteBytes(dir.path() / "good.glg", good);
   ASSERT_TRUE(OpenGamesFile(t.g, (dir.path() / "good.glg").string()));
   const FileStatus refused = OpenGamesFile(t.g, (dir.path() / "title.glg").string());

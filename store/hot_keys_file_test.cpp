@@ -74,7 +74,7 @@ TEST(HotKeysFile, CorruptFilesBindNothing) {
 
 TEST(HotKeysFile, MissingCorruptAndFailedFiles) {
   TempFolder folder;
-  Table t;
+  TestTable t;
   t.g.DataFolder = folder.path().string();
   const auto path = folder.path() / kHotKeysFileName;
   t.g.HotKeys = kKeys;
@@ -127,7 +127,7 @@ TEST(HotKeysFile, AFileThatIsNoRegularFileBindsNothing) {
   };
   for (const auto& c : cases) {
     TempFolder folder;
-    Table t;
+    TestTable t;
     t.g.DataFolder = folder.path().string();
     const auto path = folder.path() / kHotKeysFileName;
     c.make(path);
@@ -141,7 +141,7 @@ TEST(HotKeysFile, AFileThatIsNoRegularFileBindsNothing) {
 }
 
 TEST(HotKeysFile, DefiningAndClearing) {
-  Table t;
+  TestTable t;
   EXPECT_TRUE(DefineHotKey(t.g, 'b', "one.bet", "first"));
   EXPECT_TRUE(DefineHotKey(t.g, 'B', "two.bet", ""));  // rebinds
   EXPECT_FALSE(DefineHotKey(t.g, '#', "x.bet", ""));

@@ -48,7 +48,7 @@ TEST(ProbFile, LayoutOfTheBytes) {
 
 TEST(ProbFile, SaveOpenAndRefusals) {
   TempFolder folder;
-  Table table;
+  TestTable table;
   Game& g = table.g;
   const std::string path = (folder.path() / "shooter.prb").string();
   SetCell(g.Prob, 1, 6, 30000);
@@ -104,7 +104,7 @@ TEST(ProbFile, SaveOpenAndRefusals) {
 }
 
 TEST(ProbFile, NewAsksAboutUnsavedNumbers) {
-  Table table;
+  TestTable table;
   Game& g = table.g;
   SetCell(g.Prob, 1, 6, 30000);
   g.ProbModified = true;

@@ -35,7 +35,7 @@ struct Fixture {
 };
 
 // One pass of a script in its text form.
-void Pass(Table& t, const std::string& text) {
+void Pass(TestTable& t, const std::string& text) {
   std::string error;
   ASSERT_TRUE(ReadScriptText(text, t.g.AutoBet, error)) << error;
   RunAutoBet(t.g);
@@ -205,20 +205,20 @@ TEST(SavePrompts, AStopDuringARunAsksToEndItFirst) {
 }
 
 TEST(SavePrompts, DirtyFlagsFollowTheChanges) {
-  Table t;
+  TestTable t;
   EXPECT_FALSE(t.g.GameChanged);
   const struct {
     const char* what;
-    std::function<void(Table&)> change;
+    std::function<void(TestTable&)> change;
     bool dirties;
   } cases[] = {
-      {"a bet placed", [](Table& table) { table.Place(bet::kPassLine, 5); }, true},
-      {"nothing to take down", [](Table& table) { table.Place(bet::kPlaceBase + 3, -5); }, false},
-      {"a Chip-Stack", [](Table& table) { table.Place(101, 5); }, true},
-      {"a bet called off", [](Table& table) { table.Stand(bet::kPlaceBase + 2, 6); table.g.GameChanged = false; CallBet(table.g, bet::kPlaceBase + 2, kToolCallOff); }, true},
-      {"a roll", [](Table& table) { table.Roll(2, 3); }, true},
-      {"a script's setting", [](Table& table) { Pass(table, "Do this\n  Set Auto-Take Full Odds on\n"); }, true},
-      {"a script's comment", [](Table& table) { Pass(table, "'nothing\n"); }, false},
+      {"a bet placed", [](TestTable& table) { table.Place(bet::kPassLine, 5); }, true},
+      {"nothing to take down", [](TestTable& table) { table.Place(bet::kPlaceBase + 3, -5); }, false},
+      {"a Chip-Stack", [](TestTable& table) { table.Place(101, 5); }, true},
+      {"a bet called off", [](TestTable& table) { table.Stand(bet::kPlaceBase + 2, 6); table.g.GameChanged = false; CallBet(table.g, bet::kPlaceBase + 2, kToolCallOff); }, true},
+      {"a roll", [](TestTable& table) { table.Roll(2, 3); }, true},
+      {"a script's setting", [](TestTable& table) { Pass(table, "Do this\n  Set Auto-Take Full Odds on\n"); }, true},
+      {"a script's comment", [](TestTable& table) { Pass(table, "'nothing\n"); }, false},
   };
   for (const auto& c : cases) {
     t.g.GameChanged = false;

@@ -36,7 +36,7 @@ TEST(SmallFiles, ActiveScriptLifecycle) {
     ASSERT_TRUE(fs::exists(active));
     EXPECT_EQ(ReadBytes(active), EncodeBetFile(g.AutoBet, false));
   }
-  Table t;
+  TestTable t;
   t.g.DataFolder = folder.path().string();
   t.g.AutoBet.Lines = {Comment("'one"), Comment("'two")};
   ScriptEditorClosed(t.g, false);  // no changes: nothing moves
