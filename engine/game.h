@@ -32,7 +32,14 @@ struct PayoffRecord {
   Currency Per = 1;
 };
 
-constexpr int32_t kTrue = -1;  // booleans stored as 32-bit integers use -1
+constexpr int32_t kTrue = -1;
+
+// The roll count of the game is element 0 of the dice events: the table keeps
+// it itself, since its ceiling and the generators that alternate by roll
+// depend on it; the other selections are the statistics' to count.
+namespace event {
+constexpr int kAllRolls = 0;
+}  // namespace event  // booleans stored as 32-bit integers use -1
 
 constexpr int64_t MaxRolls = 100'000'000;
 constexpr int BankLimit = 9'999'999;

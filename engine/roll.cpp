@@ -151,6 +151,7 @@ void Throw(Game& g) {
   if (Doubles(g) && g.DiceTotal != 2 && g.DiceTotal != 12) Sound(g, kSoundDouble);
   MovePoint(g);
 
+  ++g.RollCounts[event::kAllRolls];
   if (g.Hooks.DiceCounted) g.Hooks.DiceCounted(g);
   g.GameChanged = true;
   ++g.HandStats[hand::kRolls];

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "engine/new_game.h"
 #include "engine/table_for_test.h"
 
 namespace {
@@ -153,3 +154,18 @@ TEST_F(RollTest, SoundsFollowTheThrow) {
 }
 
 }  // namespace
+
+// The table counts its own rolls: its ceiling and the generators that
+// alternate by roll read the count even where no statistics hang on the roll.
+TEST(Roll, ATableWithNothingHungOnItCountsItsOwnRolls) {
+  Game g;
+  FillDefaults(g);
+  NewGame(g, false);
+  for (int i = 0; i < 3; ++i) {
+    g.Die1 = 2;
+    g.Die2 = 3;
+    g.DiceAlreadySet = true;
+    RollDice(g);
+  }
+  EXPECT_EQ(g.RollCounts[event::kAllRolls], 3);
+}

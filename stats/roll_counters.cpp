@@ -157,7 +157,6 @@ bool SatisfiesEvent(int index, int die1, int die2) {
 }
 
 void UpdateRollCounters(Game& g) {
-  ++g.RollCounts[event::kAllRolls];
   for (int i = 1; i < event::kCount; ++i) ++g.RollsSinceLast[i];
   if (g.Die1 < 1 || g.Die1 > 6 || g.Die2 < 1 || g.Die2 > 6) return;
   const ThrowMask& m = kThrowMasks[(g.Die1 - 1) * 6 + g.Die2 - 1];

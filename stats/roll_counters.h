@@ -6,7 +6,6 @@
 
 // Selections by index (the dice event code less 2000).
 namespace event {
-constexpr int kAllRolls = 0;
 constexpr int kAllNumbers = 1;
 constexpr int kFirstDie1Face = 78;  // + face - 1
 constexpr int kFirstDie2Face = 84;

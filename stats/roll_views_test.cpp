@@ -13,6 +13,7 @@ namespace {
 void Throw(Game& g, int die1, int die2) {
   g.Die1 = die1;
   g.Die2 = die2;
+  ++g.RollCounts[event::kAllRolls];  // the table's own count, as a roll keeps it
   UpdateRollCounters(g);
 }
 
