@@ -31,11 +31,10 @@ TableResult Table::SetGraphAverage(int32_t rolls) {
 TableResult Table::StepGraph(GraphStep step) {
   // No gate: the window is moved while the dice roll.
   if (LiveRunning()) {
-    const bool larger = step == GraphStep::ScaleLarger, up = step == GraphStep::MoveUp;
     if (step == GraphStep::ScaleLarger || step == GraphStep::ScaleSmaller)
-      live_->StepGraphScale(larger);
+      live_->StepGraphScale(step == GraphStep::ScaleLarger);
     else
-      live_->MoveGraphWindow(up);
+      live_->MoveGraphWindow(step == GraphStep::MoveUp);
     return {};
   }
   Game& g = *game_;

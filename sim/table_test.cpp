@@ -226,8 +226,11 @@ TEST(Table, LiveRunsLeaveTheScreenAnsweringAndEndWhereTheyAreTold) {
 
   ASSERT_TRUE(f.table.Set("RollCountLeft", 0).Done());  // no count: only Stop ends it
   ASSERT_TRUE(f.table.StartLive(RunKind::HyperDrive, screen.Poster()).Done());
+  EXPECT_TRUE(f.table.SetThrottle(7).Done());  // reaches the run, not the game under it
+  EXPECT_TRUE(f.table.StepGraph(GraphStep::MoveUp).Done());
   EXPECT_TRUE(f.table.Stop().Done());
   ASSERT_TRUE(screen.PumpUntil(ended));
+  EXPECT_EQ(f.table.State().ThrottleValue, 7);
   EXPECT_TRUE(f.table.Bet(bet::kField, 5).Done());
   f.table.Unsubscribe(&heard);
 }
