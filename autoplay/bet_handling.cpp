@@ -87,7 +87,7 @@ void PlaceAgain(Game& g, int betId, Currency amount) {
   const int32_t status = g.BetStatus[betId];
   if (bet::IsBuy(betId) || bet::IsLay(betId)) TakeDown(g, betId);
   ChangeBetTo(g, betId, amount);
-  if (g.BetAmount[betId] > 0) g.BetStatus[betId] = status;
+  if (g.BetAmount[betId] > 0) g.BetStatus.Set(betId, status);
 }
 
 // The amount of a "Same Bet:" or "Bet:" form from `base`, the bet it starts

@@ -26,7 +26,7 @@ Currency AfterPlace6Win(int wonBetAction, std::optional<int> button = std::nullo
 Currency AfterFieldLoss(int handleLosingBets, int per, std::optional<int> button = std::nullopt) {
   TestTable t;
   t.g.HandleLosingBets = handleLosingBets;
-  t.g.FieldPayoff[5] = {-1, -1, per};
+  t.g.FieldPayoff.Set(5, {-1, -1, per});
   t.ui.settleReplies.push_back(button);
   t.Stand(bet::kField, 10);
   t.Dice(1, 4, 0);
@@ -148,7 +148,7 @@ TEST(LostBetHandling, ByOptionAndByButton) {
 TEST(LostBetHandling, TheNotice) {
   TestTable t;
   t.g.HandleLosingBets = 0;
-  t.g.FieldPayoff[5] = {-1, -1, 2};
+  t.g.FieldPayoff.Set(5, {-1, -1, 2});
   t.Stand(bet::kField, 10);
   t.Dice(1, 4, 0);
   SettleBet(t.g, Outcome::Win, bet::kField);
@@ -253,7 +253,7 @@ TEST(BetHandling, ParlayAndSameBetAcrossTheFamilies) {
     if (c.action == kParlay) t.g.AutoAdjustMode = 2;
     t.g.WonBetAction = c.action;
     t.Stand(c.id, c.amount);
-    if (c.status) t.g.BetStatus[c.id] = c.status;
+    if (c.status) t.g.BetStatus.Set(c.id, c.status);
     t.Dice(c.die1, c.die2, c.point);
     t.Settle(Outcome::Win, c.id);
     EXPECT_EQ(t.g.BetAmount[c.id], c.left) << t.g.BetName[c.id] << " action " << c.action;

@@ -8,7 +8,7 @@ namespace {
 void Set(Game& g, int id, int32_t value) {
   if (!bet::IsTableBet(id)) return;
   g.WorkOnComeOut[id] = value;
-  if (g.Point == 0 && g.BetStatus[id] != 2 && g.BetStatus[id] != -1) g.BetStatus[id] = value;
+  if (g.Point == 0 && g.BetStatus[id] != 2 && g.BetStatus[id] != -1) g.BetStatus.Set(id, value);
 }
 
 }  // namespace

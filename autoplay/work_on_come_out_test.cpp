@@ -7,7 +7,7 @@
 TEST(WorkOnComeOut, YesNoDefaultOverASelection) {
   TestTable t;
   const int place6 = bet::Place(6), odds = bet::ComeOdds(8);
-  t.g.BetStatus[odds] = -1;  // called OFF: the call outlives the edit
+  t.g.BetStatus.Set(odds, -1);  // called OFF: the call outlives the edit
   SetWorkOnComeOut(t.g, {place6, odds, 0, 150}, true);
   EXPECT_EQ(t.g.WorkOnComeOut[place6], 1);
   EXPECT_EQ(t.g.BetStatus[place6], 1);

@@ -57,7 +57,7 @@ TEST(AdvantageTool, TextJsonAndRefusals) {
     Game g;
     FillDefaults(g);
     NewGame(g, false);
-    g.Payoff[bet::Place(6)] = {8, -1, 6};
+    g.Payoff.Set(bet::Place(6), {8, -1, 6});
     ASSERT_TRUE(SaveGame(g, saved));
   }
   AdvantageToolOptions game;

@@ -48,7 +48,7 @@ TEST(SettingsRegistry, SetsEachTypeAndReadsItBack) {
   ApplySetting(table, "WorkOnComeOut.31", "1");
   EXPECT_EQ(g.WorkOnComeOut[31], 1);
   EXPECT_EQ(g.BetStatus[31], 1);
-  TableForTest::Staged(table).BetStatus[32] = -1;
+  TableForTest::Staged(table).BetStatus.Set(32, -1);
   ApplySetting(table, "WorkOnComeOut.32", "true");
   EXPECT_EQ(g.WorkOnComeOut[32], 1);
   EXPECT_EQ(g.BetStatus[32], -1);

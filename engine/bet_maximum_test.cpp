@@ -12,13 +12,13 @@ TEST(BetMaximum, TableMaximumPropositionsAndOdds) {
                                        {bet::kHard4, 428},    {bet::kTwo, 100},    {bet::kFirstHop, 200},
                                        {bet::kCandE, 428},    {bet::kHorn, 444},   {bet::kWorld, 576}};
   for (const auto& [id, maximum] : props) EXPECT_EQ(GetBetMaximum(g, id), maximum) << id;
-  g.Payoff[bet::kFirstHop] = {1, -1, 1};
+  g.Payoff.Set(bet::kFirstHop, {1, -1, 1});
   EXPECT_EQ(GetBetMaximum(g, bet::kFirstHop), 3000);  // the payoff limit, not the table maximum
-  g.Payoff[bet::kSeven] = {60, -1, 1};                // World includes the Seven
+  g.Payoff.Set(bet::kSeven, {60, -1, 1});                // World includes the Seven
   EXPECT_EQ(GetBetMaximum(g, bet::kWorld), 267);
   g.BetAmount[bet::kFirstChip] = 5;
   EXPECT_EQ(GetBetMaximum(g, bet::kHard6), 330);
-  g.Payoff[bet::kHard6] = {0, -1, 1};  // cannot win: the table maximum
+  g.Payoff.Set(bet::kHard6, {0, -1, 1});  // cannot win: the table maximum
   EXPECT_EQ(GetBetMaximum(g, bet::kHard6), 1000);
   g.TableMaximum = Currency::FromDouble(1003.5);
   EXPECT_EQ(GetBetMaximum(g, bet::kPassLine), 1000);

@@ -12,6 +12,7 @@
 #include "dice/dice_roll_file.h"
 #include "dice/dice_state.h"
 #include "dice/money.h"
+#include "engine/bet_status_table.h"
 #include "engine/catalogue.h"
 #include "engine/hand_counters.h"
 #include "engine/frontend.h"
@@ -19,18 +20,13 @@
 #include "engine/game_hooks.h"
 #include "engine/hot_key_binding.h"
 #include "engine/notices.h"
+#include "engine/payoff_rows.h"
 #include "engine/script.h"
 #include "engine/settlement_log.h"
 #include "engine/sound_sets.h"
+#include "engine/statistics_ledger.h"
 #include "engine/stop_reason.h"
 
-// A payoff: a winner nets Win for each Per bet. Form -1 shows it as "Win to
-// Per", 0 as "Win+Per for Per"; it never changes the money.
-struct PayoffRecord {
-  Currency Win = 1;
-  Currency Form = -1;
-  Currency Per = 1;
-};
 
 constexpr int32_t kTrue = -1;
 
@@ -50,7 +46,7 @@ struct Game : DiceState {
   // --- Money slots and per-bet arrays -------------------------------------
   std::array<Currency, bet::kSlots> BetAmount{};
   std::array<std::string, bet::kSlots> BetName{};
-  std::array<int32_t, 101> BetStatus{};      // 0 off, 1 working, 2 called ON, -1 called OFF
+  BetStatusTable BetStatus;
   std::array<int32_t, 101> WorkOnComeOut{};  // status while no point is on
   std::array<std::array<int32_t, 101>, 2> BetStreak{};  // [1] now, [0] at the top of the roll
   std::array<Currency, 47> BetCommitted{};   // contract baseline: amounts as the dice went out
@@ -60,8 +56,8 @@ struct Game : DiceState {
   std::array<float, bet::kSlots> BetY{};
   std::array<Currency, 6> BuyVigOnBet{};     // index BetId-37
   std::array<Currency, 6> LayVigOnBet{};     // index BetId-1
-  std::array<PayoffRecord, 101> Payoff{};    // row 0: the bet being settled
-  std::array<PayoffRecord, 22> FieldPayoff{};  // rows 1..21 by dice pair
+  PayoffRows<101> Payoff;      // row 0: the bet being settled
+  PayoffRows<22> FieldPayoff;  // rows 1..21 by dice pair
 
   // --- Scalars of the table -----------------------------------------------
   int32_t DiceTotal = 7;
@@ -172,6 +168,16 @@ struct Game : DiceState {
   std::array<int32_t, 91> RollsSinceLast{};
   std::array<int32_t, 91> PreviousRollCounts{};
   std::array<int32_t, 91> PreviousRollsSinceLast{};
+  // The rolls and phantom units counted in bulk since the figures above and
+  // the result cells below were last written (stats/statistics_sync.h).
+  RollTally Tally;
+  PhantomLedger Phantoms;
+  // This throw's phantom units are counted whole by the statistics; false:
+  // the settling books each one itself.
+  bool PhantomsDeferred = false;
+  // Book every roll in full as it comes, never in bulk: slower, and the
+  // measure that the bulk counting is checked against.
+  bool StatisticsInFull = false;
   Currency SimRollRate = 100;  // simulated rolls per hour
   bool IncludeZeroOutcomes = false;  // the advantage table counts a push as a decision
 

@@ -18,8 +18,15 @@ struct GameHooks {
   // --- The roll, in the order it calls them ---------------------------------
   // The top of a roll, before its dice: what the last roll booked is aged.
   void (*RollStarting)(Game& g) = nullptr;
-  // The dice are read and the point has moved: the roll is counted.
+  // The dice are read and the point has moved: the roll is counted, and
+  // the statistics say whether they count the throw's phantom units whole
+  // (Game::PhantomsDeferred) or the settling books each as it goes.
   void (*DiceCounted)(Game& g) = nullptr;
+  // Every bet of the throw is settled: a throw counted whole is counted.
+  void (*ThrowSettled)(Game& g) = nullptr;
+  // A throw counted whole must be booked piece by piece after all: what was
+  // counted before it goes into the results first, so they stay in order.
+  void (*PhantomsDue)(Game& g) = nullptr;
   // A working bet with money on it is decided; net is what it won or lost.
   void (*BetDecided)(Game& g, int betId, Currency stake, Currency net) = nullptr;
   // What becomes of a bet that won (or odds returned) or lost; the notice
@@ -31,6 +38,9 @@ struct GameHooks {
   // The Auto-Bet pass after a roll; called only when the script is on and
   // has lines.
   void (*ScriptPass)(Game& g) = nullptr;
+  // The roll or run is over: what was counted in bulk is written out to the
+  // figures that screens, reports and files read.
+  void (*RollsFinished)(Game& g) = nullptr;
 
   // --- A new game --------------------------------------------------------------
   // The finished game, before anything of it is cleared.

@@ -54,6 +54,8 @@ void NewGame(Game& g, bool keepChipStacks) {
     g.BetAmount[id] = g.BetAtRollStart[id] = g.BetAfterRoll[id] = 0;
     g.BetName[id] = id > bet::kFirstStack ? bet::StackName(id) : "";
   }
+  g.Tally = {};
+  g.Phantoms = {};
   g.RollCounts.fill(0);
   g.RollsSinceLast.fill(0);
   g.PreviousRollCounts.fill(0);
@@ -63,7 +65,7 @@ void NewGame(Game& g, bool keepChipStacks) {
   g.HandStats.fill(0);
   g.BuyVigOnBet.fill(0);
   g.LayVigOnBet.fill(0);
-  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) g.BetStatus[id] = g.WorkOnComeOut[id];
+  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) g.BetStatus.Set(id, g.WorkOnComeOut[id]);
   for (Flag& f : g.AutoBet.Flags) f.FlagValue = f.FlagPrevious = 0;
   if (g.Hooks.CountersCleared) g.Hooks.CountersCleared(g);
   if (g.ReSeedNewGames) SeedRNG(g, false);

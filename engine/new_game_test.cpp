@@ -15,7 +15,7 @@ TEST(NewGame, ClearsTheTableAndKeepsTheSettings) {
   g.RollCountStop = 4;
   g.Point = 6;
   g.WorkOnComeOut[bet::Place(6)] = 1;
-  g.Payoff[bet::Place(6)].Win = 8;
+  g.Payoff.Edit()[bet::Place(6)].Win = 8;
   NewGame(g, true);
   EXPECT_EQ(g.BetAmount[bet::kField] + g.TotalOnTable + g.RollCounts[0] + g.HandStats[hand::kRolls], 0);
   EXPECT_EQ(g.Point, 0);

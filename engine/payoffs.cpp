@@ -30,11 +30,11 @@ constexpr std::array<Ratio, 6> kTrueOdds = {{{2, 1}, {3, 2}, {6, 5}, {6, 5}, {3,
 constexpr std::array<Ratio, 6> kPlaceOdds = {{{9, 5}, {7, 5}, {7, 6}, {7, 6}, {7, 5}, {9, 5}}};
 
 void SetGroup(Game& g, int base, const std::array<Ratio, 6>& ratios) {
-  for (int i = 0; i < 6; ++i) g.Payoff[base + i] = Record(ratios[i].win, ratios[i].per);
+  for (int i = 0; i < 6; ++i) g.Payoff.Set(base + i, Record(ratios[i].win, ratios[i].per));
 }
 
 void SetBets(Game& g, std::initializer_list<int> ids, int win, int per = 1) {
-  for (int id : ids) g.Payoff[id] = Record(win, per);
+  for (int id : ids) g.Payoff.Set(id, Record(win, per));
 }
 
 // --- Field presets -------------------------------------------------------------
@@ -128,8 +128,8 @@ bool InGrid(int betId) {
 }
 
 PayoffRecord* EditableRecord(Game& g, PayoffTable table, int record) {
-  if (table == PayoffTable::Field) return record >= 1 && record <= 21 ? &g.FieldPayoff[record] : nullptr;
-  return InGrid(record) ? &g.Payoff[record] : nullptr;
+  if (table == PayoffTable::Field) return record >= 1 && record <= 21 ? &g.FieldPayoff.Edit()[record] : nullptr;
+  return InGrid(record) ? &g.Payoff.Edit()[record] : nullptr;
 }
 
 bool IsForForm(const PayoffRecord& p) { return p.Form == 0; }
@@ -163,8 +163,8 @@ bool Fail(Game& g, PayoffFault* fault, PayoffTable table, int row, const std::st
 }  // namespace
 
 void RestoreDefaultPayoffs(Game& g) {
-  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) g.Payoff[id] = Record(1, 1);
-  for (int row = 1; row <= 21; ++row) g.FieldPayoff[row] = Record(1, 1);
+  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) g.Payoff.Set(id, Record(1, 1));
+  for (int row = 1; row <= 21; ++row) g.FieldPayoff.Set(row, Record(1, 1));
 
   SetGroup(g, bet::kLayBase, kLayOdds);
   SetGroup(g, bet::kDontComeOddsBase, kLayOdds);
@@ -182,7 +182,7 @@ void RestoreDefaultPayoffs(Game& g) {
   SetBets(g, {bet::kWorld}, 1, 5);
   for (int id = bet::kFirstHop; id <= bet::kLastHop; ++id) {
     bet::HopPair faces = bet::HopFaces(id);
-    g.Payoff[id] = Record(faces.low == faces.high ? 30 : 15, 1);
+    g.Payoff.Set(id, Record(faces.low == faces.high ? 30 : 15, 1));
   }
 
   if (g.Point != 0) SyncOddsPayoffs(g);
@@ -193,8 +193,10 @@ void RestoreDefaultPayoffs(Game& g) {
 bool SetFieldPreset(Game& g, int preset) {
   if (preset < 0 || preset >= kFieldPresetCount) return false;
   const FieldPreset& p = FieldPresets()[preset];
-  for (int row = 1; row <= 21; ++row) g.FieldPayoff[row] = p.base;
-  for (const RowGroup& group : p.groups) SetRows(g.FieldPayoff, group.rows, group.value);
+  std::array<PayoffRecord, 22> rows = g.FieldPayoff.Rows();
+  for (int row = 1; row <= 21; ++row) rows[row] = p.base;
+  for (const RowGroup& group : p.groups) SetRows(rows, group.rows, group.value);
+  if (rows != g.FieldPayoff.Rows()) g.FieldPayoff.Edit() = rows;
   return true;
 }
 
@@ -206,8 +208,9 @@ const char* FieldPresetCaption(int preset) {
 void SyncOddsPayoffs(Game& g) {
   if (!bet::IsPointNumber(g.Point)) return;
   int i = bet::NumberIndex(g.Point);
-  g.Payoff[bet::kPassOdds] = g.Payoff[bet::kComeOddsBase + i];
-  g.Payoff[bet::kDontPassOdds] = g.Payoff[bet::kDontComeOddsBase + i];
+  // Shown with the line odds; their decisions pay by the number's own rows.
+  g.Payoff.Quiet(bet::kPassOdds) = g.Payoff[bet::kComeOddsBase + i];
+  g.Payoff.Quiet(bet::kDontPassOdds) = g.Payoff[bet::kDontComeOddsBase + i];
 }
 
 int PayoffGridBet(int row) { return row >= 1 && row <= kPayoffGridRows ? GridBets()[row - 1] : 0; }

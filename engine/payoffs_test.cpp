@@ -53,8 +53,8 @@ TEST(Payoffs, DefaultTableAndRestoring) {
   for (int row = 1; row <= 21; ++row)
     EXPECT_TRUE(Is(g.FieldPayoff[row], row >= 5 && row <= 15 ? -1 : row == 1 || row == 21 ? 2 : 1, 1)) << row;
 
-  g.Payoff[33] = {3, 0, 4};
-  g.FieldPayoff[21] = {5, 0, 1};
+  g.Payoff.Set(33, {3, 0, 4});
+  g.FieldPayoff.Set(21, {5, 0, 1});
   RestoreDefaultPayoffs(g);
   EXPECT_TRUE(Is(g.Payoff[33], 7, 6));
   EXPECT_TRUE(Is(g.FieldPayoff[21], 2, 1));
@@ -72,7 +72,7 @@ TEST(Payoffs, LineOddsFollowThePoint) {
   EXPECT_TRUE(Is(t.g.Payoff[44], 2, 1));
   EXPECT_TRUE(Is(t.g.Payoff[47], 1, 2));
   // Changed Come odds travel with all three fields; the come-out keeps them.
-  t.g.Payoff[27] = {4, 0, 3};
+  t.g.Payoff.Set(27, {4, 0, 3});
   t.g.Point = 6;
   SyncOddsPayoffs(t.g);
   t.g.Point = 0;
@@ -124,7 +124,7 @@ TEST(Payoffs, GridRowsAndLabels) {
 TEST(Payoffs, EditingCells) {
   TestTable t;
   Game& g = t.g;
-  PayoffRecord& p = g.Payoff[33];
+  PayoffRecord& p = g.Payoff.Edit()[33];
   // Switching 7 to 6 to the "for" form shows 13 for 6 and pays the same.
   EXPECT_TRUE(EditPayoff(g, PayoffTable::Bets, 33, 1, 'f'));
   EXPECT_TRUE(Is(p, 7, 6, 0));
@@ -159,8 +159,8 @@ TEST(Payoffs, Validation) {
     TestTable t;
     EXPECT_TRUE(ValidatePayoffs(t.g));
     // A negative payoff in the grid is let through; records outside it are not looked at.
-    t.g.Payoff[33].Win = -1;
-    t.g.Payoff[44].Win = 0;
+    t.g.Payoff.Edit()[33].Win = -1;
+    t.g.Payoff.Edit()[44].Win = 0;
     EXPECT_TRUE(ValidatePayoffs(t.g));
     EXPECT_TRUE(t.ui.messages.empty());
   }
@@ -169,7 +169,7 @@ TEST(Payoffs, Validation) {
       {26, "Come 5 Odds"},          {15, "Don't Come 6 Odds"}, {33, "Place 6"},             {83, "Hop 5-5"}};
   for (const auto& [id, label] : faults) {
     TestTable t;
-    t.g.Payoff[id].Win = 0;
+    t.g.Payoff.Edit()[id].Win = 0;
     PayoffFault where;
     EXPECT_FALSE(ValidatePayoffs(t.g, &where));
     ASSERT_EQ(t.ui.messages.size(), 1u);
@@ -179,7 +179,7 @@ TEST(Payoffs, Validation) {
     EXPECT_EQ(PayoffGridBet(where.row), id);
   }
   TestTable t;
-  t.g.FieldPayoff[7] = {-2, -1, 1};
+  t.g.FieldPayoff.Set(7, {-2, -1, 1});
   PayoffFault where;
   EXPECT_FALSE(ValidatePayoffs(t.g, &where));
   EXPECT_EQ(t.Last(), (RecordedMessage{"Payoff ratio error on Field",
@@ -188,11 +188,11 @@ TEST(Payoffs, Validation) {
   EXPECT_EQ(where.row, 7);
 
   // -5/5 and 0/1 are accepted, but 0/1 is not a winning row.
-  t.g.FieldPayoff[7] = {-5, -1, 5};
-  for (int row : {1, 2, 3, 4, 16, 17, 18, 19, 20, 21}) t.g.FieldPayoff[row] = {0, -1, 1};
-  t.g.FieldPayoff[2] = {1, -1, 1};
+  t.g.FieldPayoff.Set(7, {-5, -1, 5});
+  for (int row : {1, 2, 3, 4, 16, 17, 18, 19, 20, 21}) t.g.FieldPayoff.Set(row, {0, -1, 1});
+  t.g.FieldPayoff.Set(2, {1, -1, 1});
   EXPECT_TRUE(ValidatePayoffs(t.g));
-  t.g.FieldPayoff[2] = {0, -1, 1};
+  t.g.FieldPayoff.Set(2, {0, -1, 1});
   EXPECT_FALSE(ValidatePayoffs(t.g));
   EXPECT_EQ(t.Last(),
             (RecordedMessage{"Payoff error on Field", "At least one of the Field payoffs must be postiive."}));

@@ -6,8 +6,8 @@ const Currency kUnit = 1;
 
 // The record that pays a won line bet: the Come or Don't Come record of the
 // point, or of the come-out.
-const PayoffRecord& LineRecord(const Game& g, int betId) {
-  const int point = g.PointBeforeRoll;
+const PayoffRecord& LineRecord(const Game& g, const ThrowFacts& t, int betId) {
+  const int point = t.pointBefore;
   const bool onPoint = bet::IsPointNumber(point);
   switch (betId) {
     case bet::kPassLine: return g.Payoff[onPoint ? bet::Come(point) : bet::kCome];
@@ -18,8 +18,8 @@ const PayoffRecord& LineRecord(const Game& g, int betId) {
 }
 
 // The winning part pays by its own record, the other parts lose.
-Currency SplitShare(const Game& g, int betId) {
-  const int total = g.DiceTotal;
+Currency SplitShare(const Game& g, const ThrowFacts& t, int betId) {
+  const int total = t.Total();
   const int parts = betId == bet::kCandE ? 2 : betId == bet::kHorn ? 4 : 5;
   int part = bet::kTwelve;
   if (betId == bet::kCandE) part = total == 11 ? bet::kEleven : bet::kCraps;
@@ -41,7 +41,7 @@ PhantomFigure WithVig(Currency raw, Currency vig, bool chargeAll) {
 
 }  // namespace
 
-PhantomFigure FigurePhantomInFull(const Game& g, int betId, Outcome outcome) {
+PhantomFigure FigurePhantomInFull(const Game& g, const ThrowFacts& t, int betId, Outcome outcome) {
   const bool won = IsWin(outcome);
   if (bet::IsLay(betId)) {
     const Currency share = UnitShare(g.Payoff[betId]);
@@ -50,6 +50,6 @@ PhantomFigure FigurePhantomInFull(const Game& g, int betId, Outcome outcome) {
   if (bet::IsBuy(betId))
     return WithVig(won ? UnitShare(g.Payoff[betId]) : -kUnit, MulRatio(kUnit, g.BuyVigRate.ToDouble()),
                    g.ChargeAllBuy);
-  if (betId == bet::kCandE || betId == bet::kHorn || betId == bet::kWorld) return {kUnit, SplitShare(g, betId)};
-  return {kUnit, UnitShare(LineRecord(g, betId))};
+  if (betId == bet::kCandE || betId == bet::kHorn || betId == bet::kWorld) return {kUnit, SplitShare(g, t, betId)};
+  return {kUnit, UnitShare(LineRecord(g, t, betId))};
 }

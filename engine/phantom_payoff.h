@@ -10,6 +10,14 @@
 #include "engine/result_cells.h"
 #include "engine/settle.h"
 
+// The throw a phantom unit is figured for.
+struct ThrowFacts {
+  int die1 = 1, die2 = 1;
+  int pointBefore = 0;
+  int Total() const { return die1 + die2; }
+};
+inline ThrowFacts FactsOf(const Game& g) { return {g.Die1, g.Die2, g.PointBeforeRoll}; }
+
 struct PhantomFigure {
   Currency Stake;  // 1, plus the vig where it is paid
   Currency Net;    // the raw payoff
@@ -23,13 +31,13 @@ inline Currency UnitShare(const PayoffRecord& record) {
 }
 
 // The rarer cases: a Lay or Buy, and a won line or split bet.
-PhantomFigure FigurePhantomInFull(const Game& g, int betId, Outcome outcome);
+PhantomFigure FigurePhantomInFull(const Game& g, const ThrowFacts& t, int betId, Outcome outcome);
 
-inline PhantomFigure FigurePhantom(const Game& g, int betId, Outcome outcome) {
+inline PhantomFigure FigurePhantom(const Game& g, const ThrowFacts& t, int betId, Outcome outcome) {
   const Currency unit = 1;
-  if (betId == bet::kField) return {unit, UnitShare(g.FieldPayoff[bet::FieldRow(g.Die1, g.Die2)])};
+  if (betId == bet::kField) return {unit, UnitShare(g.FieldPayoff[bet::FieldRow(t.die1, t.die2)])};
   if (betId <= bet::kBuyBase + 5) {
-    if (bet::IsLay(betId) || bet::IsBuy(betId)) return FigurePhantomInFull(g, betId, outcome);
+    if (bet::IsLay(betId) || bet::IsBuy(betId)) return FigurePhantomInFull(g, t, betId, outcome);
   }
   if (!IsWin(outcome)) return {unit, -unit};
   switch (betId) {
@@ -39,7 +47,7 @@ inline PhantomFigure FigurePhantom(const Game& g, int betId, Outcome outcome) {
     case bet::kDontPassOdds:
     case bet::kCandE:
     case bet::kHorn:
-    case bet::kWorld: return FigurePhantomInFull(g, betId, outcome);
+    case bet::kWorld: return FigurePhantomInFull(g, t, betId, outcome);
     default: return {unit, UnitShare(g.Payoff[betId])};
   }
 }
@@ -47,6 +55,6 @@ inline PhantomFigure FigurePhantom(const Game& g, int betId, Outcome outcome) {
 // Figures and books the phantom unit of betId, when one stands there.
 inline void BookPhantomResult(Game& g, int betId, Outcome outcome) {
   if (!results::PhantomStands(g, betId)) return;
-  const PhantomFigure f = FigurePhantom(g, betId, outcome);
+  const PhantomFigure f = FigurePhantom(g, FactsOf(g), betId, outcome);
   results::BookEntry(g, results::kPhantom, betId, f.Stake, f.Net);
 }

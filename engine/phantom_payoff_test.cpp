@@ -15,12 +15,12 @@ TEST(PhantomPayoff, FiguresAsTheSettlingAndStakesAsTheBooking) {
   for (int variant = 0; variant < 4; ++variant) {
     TestTable t;
     if (variant > 0) {  // odd payoffs, Pers that divide, vig on every decision or none
-      t.g.Payoff[bet::kHard4] = {Currency(15), -1, Currency(2)};
-      t.g.Payoff[bet::kTwo] = {Currency::FromDouble(29.5), 0, Currency(1)};
-      t.g.Payoff[bet::Come(5)] = {Currency(7), -1, Currency(3)};
-      t.g.Payoff[bet::kEleven] = {Currency(16), -1, Currency(3)};
-      t.g.Payoff[bet::Lay(9)] = {Currency(2), -1, Currency(7)};
-      t.g.FieldPayoff[4] = {Currency(5), -1, Currency(3)};
+      t.g.Payoff.Set(bet::kHard4, {Currency(15), -1, Currency(2)});
+      t.g.Payoff.Set(bet::kTwo, {Currency::FromDouble(29.5), 0, Currency(1)});
+      t.g.Payoff.Set(bet::Come(5), {Currency(7), -1, Currency(3)});
+      t.g.Payoff.Set(bet::kEleven, {Currency(16), -1, Currency(3)});
+      t.g.Payoff.Set(bet::Lay(9), {Currency(2), -1, Currency(7)});
+      t.g.FieldPayoff.Set(4, {Currency(5), -1, Currency(3)});
       t.g.ChargeAllLay = t.g.ChargeAllBuy = variant == 2;
       t.g.LayVigRate = Currency::FromDouble(variant == 3 ? 0.0333 : 0.05);
       t.g.BuyVigRate = Currency::FromDouble(variant == 3 ? 0.0125 : 0.05);
@@ -31,7 +31,7 @@ TEST(PhantomPayoff, FiguresAsTheSettlingAndStakesAsTheBooking) {
           t.Dice(d1, d2, point);
           for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id)
             for (Outcome outcome : {Outcome::Win, Outcome::OddsWin, Outcome::Loss, Outcome::OddsLoss}) {
-              const PhantomFigure f = FigurePhantom(t.g, id, outcome);
+              const PhantomFigure f = FigurePhantom(t.g, FactsOf(t.g), id, outcome);
               FigurePayoff(t.g, 0, id, outcome, 1);
               ASSERT_EQ(f.Net, t.g.RawPayoff) << "bet " << id << " outcome " << static_cast<int>(outcome) << " dice " << d1 << d2
                                               << " point " << point << " variant " << variant;

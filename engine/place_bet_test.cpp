@@ -28,7 +28,7 @@ TEST(PlaceBet, ChangesMoveInWholeChips) {
   EXPECT_TRUE(t.ui.messages.empty());
   EXPECT_TRUE(t.g.MsgText.empty());
   // Taking a bet down puts its status back to the default.
-  t.g.BetStatus[bet::Place(6)] = 2;
+  t.g.BetStatus.Set(bet::Place(6), 2);
   t.Place(bet::Place(6), -10);
   EXPECT_EQ(t.g.BetStatus[bet::Place(6)], 0);
 

@@ -91,6 +91,7 @@ void AutoRollWait(Game& g) {
 }
 
 void Finish(Game& g) {
+  if (g.Hooks.RollsFinished) g.Hooks.RollsFinished(g);
   if (g.StopReason == StopReason::EndOfRollFile && !g.Ui->IsMinimised()) OfferRewind(g);
   g.Ui->RollFinished(g.StopReason);
   if (!g.Ui->IsMinimised()) g.StopReason = StopReason::None;
@@ -104,9 +105,6 @@ void TakeSnapshots(Game& g) {
   g.BetStreak[0] = g.BetStreak[1];
   // Reads the last roll's DiceTotal and PointBeforeRoll.
   if (g.Hooks.RollStarting) g.Hooks.RollStarting(g);
-  // What the script's dice-event conditions compare with.
-  g.PreviousRollCounts = g.RollCounts;
-  g.PreviousRollsSinceLast = g.RollsSinceLast;
   std::copy_n(g.BetAmount.begin(), g.BetCommitted.size(), g.BetCommitted.begin());
   g.PointTwoRollsAgo = g.PointBeforeRoll;
   g.PointBeforeRoll = g.Point;
@@ -157,7 +155,9 @@ void Throw(Game& g) {
   ++g.HandStats[hand::kRolls];
   if (g.PointBeforeRoll == 0) ++g.HandStats[hand::kComeOutRolls];
 
-  TestStopOnRoll(g, SettleTheThrow(g));
+  const ThrowDecisions decided = SettleTheThrow(g);
+  if (g.Hooks.ThrowSettled) g.Hooks.ThrowSettled(g);
+  TestStopOnRoll(g, decided);
 
   if (g.Point != g.PointBeforeRoll) AfterPointMoved(g);
   if (g.TableDirty && !g.HyperDriveOn) {

@@ -54,7 +54,7 @@ TEST_F(RollTest, StatusesAndSnapshotsFollowThePoint) {
   Roll(3, 3);
   EXPECT_EQ(g.BetStatus[bet::Place(6)], 1);
   EXPECT_EQ(g.BetStatus[bet::kPassOdds], 1);
-  g.BetStatus[bet::Place(8)] = -1;  // called OFF: outlives the point
+  g.BetStatus.Set(bet::Place(8), -1);  // called OFF: outlives the point
   Bet(bet::Place(5), 10);
   EXPECT_EQ(g.BetCommitted[bet::Place(5)], 0);  // placed after the dice came to rest
   Roll(4, 2);  // point made: default-off bets are off again

@@ -117,34 +117,35 @@ void KeepStreak(Game& g, int betId) {
   g.Settlements.Add(betId, outcome, g.BetAmount[betId], Currency{});
   g.BetComesDown = g.BetAmount[bet::ParentOf(betId)] == 0 || !g.AllowPutBets;
   if (!g.BetComesDown) {
-    g.Payoff[0].Per = g.Payoff[betId].Per;
+    g.Payoff.Quiet(0).Per = g.Payoff[betId].Per;
     FigureUnit(g, betId);
   }
   std::optional<SettleNotice> notice;
   if (g.Visible() && g.WonBetAction == 0) notice = OddsReturnedNotice(g, betId);
   if (g.Hooks.WonBet) g.Hooks.WonBet(g, betId, notice ? &*notice : nullptr);
-  g.BetStatus[betId] = 1;
+  g.BetStatus.Set(betId, status::kWorking);
 }
 
 }  // namespace
 
 void SettleBet(Game& g, Outcome outcome, int betId) {
-  g.SettlingBetId = betId;
-  if (!bet::IsTableBet(betId)) return;
   // The phantom unit of a working bet, FigurePayoff (0, BetId, Outcome, 1),
-  // figured and booked for empty spots too. Beyond it an empty spot has
-  // nothing to settle, working or not.
-  const bool working = g.BetStatus[betId] >= 1;
-  if (working) BookPhantomResult(g, betId, outcome);
-  if (g.BetAmount[betId] == 0) return;
-  if (working)
+  // figured and booked for empty spots too.
+  if (bet::IsTableBet(betId) && g.BetStatus[betId] >= status::kWorking) BookPhantomResult(g, betId, outcome);
+  SettleMoneyBet(g, outcome, betId);
+}
+
+void SettleMoneyBet(Game& g, Outcome outcome, int betId) {
+  g.SettlingBetId = betId;
+  if (!bet::IsTableBet(betId) || g.BetAmount[betId] == 0) return;
+  if (g.BetStatus[betId] >= status::kWorking)
     SettleWorkingBet(g, outcome, betId);
   else
     ReturnIdleOdds(g, outcome, betId);
 }
 
 void FigurePayoff(Game& g, int realBet, int betId, Outcome outcome, Currency amount) {
-  PayoffRecord& row0 = g.Payoff[0];
+  PayoffRecord& row0 = g.Payoff.Quiet(0);
   const PayoffRecord& own = g.Payoff[betId];
   row0 = IsWin(outcome) ? own : PayoffRecord{-1, own.Form, 1};
   g.RawPayoff = Share(amount, row0.Win, row0.Per);

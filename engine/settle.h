@@ -12,6 +12,8 @@ struct Game;
 // Settles betId if it is working (and gives back odds that are off), then
 // hands a decided bet to the won or lost handling.
 void SettleBet(Game& g, Outcome outcome, int betId);
+// The same without the phantom unit, when the statistics count it apart.
+void SettleMoneyBet(Game& g, Outcome outcome, int betId);
 // Sets g.RawPayoff, g.NetPayoff and row 0 of g.Payoff. realBet 0 figures the
 // phantom one-unit wager with the rate's vig; 1 the real bet with its own vig.
 void FigurePayoff(Game& g, int realBet, int betId, Outcome outcome, Currency amount);

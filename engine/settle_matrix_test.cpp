@@ -133,11 +133,11 @@ class SettleMatrix : public ::testing::TestWithParam<Variation> {};
 // bet read through the wrong row shows up.
 void ChangePayoffs(Game& g) {
   for (int id = 1; id <= bet::kLastTableBet; ++id) {
-    g.Payoff[id].Win = 2 + id % 7;
-    g.Payoff[id].Per = 1 + id % 3;
-    g.Payoff[id].Form = id % 2 == 0 ? 0 : -1;
+    g.Payoff.Edit()[id].Win = 2 + id % 7;
+    g.Payoff.Edit()[id].Per = 1 + id % 3;
+    g.Payoff.Edit()[id].Form = id % 2 == 0 ? 0 : -1;
   }
-  for (int row = 1; row <= 21; ++row) g.FieldPayoff[row] = {(row * 5) % 4 - 1, -1, 1 + row % 2};
+  for (int row = 1; row <= 21; ++row) g.FieldPayoff.Set(row, {(row * 5) % 4 - 1, -1, 1 + row % 2});
 }
 
 TEST_P(SettleMatrix, EveryBetOnEveryPairAndPoint) {

@@ -1,189 +1,76 @@
 #include "engine/settle_order.h"
 
-#include <array>
-
 #include "engine/game.h"
 #include "engine/hand_counters.h"
+#include "engine/phantom_payoff.h"
 #include "engine/roll.h"
 #include "engine/settle.h"
+#include "engine/throw_plan.h"
 
 namespace {
 
-constexpr Outcome kWin = Outcome::Win, kLoss = Outcome::Loss;
-constexpr Outcome kOddsWin = Outcome::OddsWin, kOddsLoss = Outcome::OddsLoss;
+bool DiceOnTheTable(const Game& g) { return g.Die1 >= 1 && g.Die1 <= 6 && g.Die2 >= 1 && g.Die2 <= 6; }
 
-// One throw's settling: every SettleBet call in its order, with the Hop
-// winners remembered so that the rest of the Hops lose at the end, and the
-// won and lost events noted for the Auto-Roll stops.
-class Settler {
- public:
-  explicit Settler(Game& g) : g_(g) {}
-
-  void operator()(Outcome outcome, int betId) {
-    bool real = g_.BetAmount[betId] > 0 && g_.BetStatus[betId] >= 1;
-    if (IsWin(outcome) && bet::IsHop(betId)) hopWon_[betId - bet::kFirstHop] = true;
-    SettleBet(g_, outcome, betId);
-    if (real && g_.NetPayoff > 0) anyWon_ = true;
-    if (real && g_.NetPayoff < 0) anyLost_ = true;
+// Whether a bet still to settle in this throw works otherwise than it did
+// as the dice went out. Handling mostly changes the bet just settled (odds
+// returned work again, a bet placed again keeps its call): that leaves the
+// throw's phantom units as they were counted.
+bool ChangedAhead(const Game& g, const ThrowPlan& plan, int step, const WorkingSet& atStart) {
+  const WorkingSet& now = g.BetStatus.Working();
+  for (int i = step + 1; i < plan.count; ++i) {
+    const ThrowStep& s = plan.steps[i];
+    if (s.kind == StepKind::Settle && atStart.Has(s.bet) != now.Has(s.bet)) return true;
   }
-  void Range(Outcome outcome, int first, int last) {
-    for (int id = first; id <= last; ++id) (*this)(outcome, id);
-  }
-  bool HopWon(int hopId) const { return hopWon_[hopId - bet::kFirstHop]; }
-  bool AnyWon() const { return anyWon_; }
-  bool AnyLost() const { return anyLost_; }
-
- private:
-  Game& g_;
-  std::array<bool, 17> hopWon_{};
-  bool anyWon_ = false, anyLost_ = false;
-};
-
-bool Has(const Game& g, int face) { return g.Die1 == face || g.Die2 == face; }
-bool Doubles(const Game& g) { return g.Die1 == g.Die2; }
-
-// The bets of the total, in the order of settling.
-void SettleTotal(Game& g, Settler& settle) {
-  const int total = g.DiceTotal;
-  const bool comeOut = g.PointBeforeRoll == 0;
-  switch (total) {
-    case 2:
-    case 12: {
-      // Don't Pass and Don't Come win on the crap that is not barred.
-      const bool dontWins = g.BarNumber == (total == 2 ? 12 : 2);
-      settle(kLoss, bet::kCome);
-      if (comeOut) {
-        settle(kLoss, bet::kPassLine);
-        if (dontWins) {
-          LineLoss(g);
-          settle(kWin, bet::kDontPass);
-        } else {
-          LineBarred(g);
-        }
-      }
-      settle(kWin, total == 2 ? bet::kTwo : bet::kTwelve);
-      for (int id : {bet::kCraps, bet::kCandE, bet::kHorn, bet::kWorld}) settle(kWin, id);
-      if (dontWins) settle(kWin, bet::kDontCome);
-      break;
-    }
-    case 3:
-      settle(kLoss, bet::kCome);
-      if (comeOut) {
-        LineLoss(g);
-        settle(kLoss, bet::kPassLine);
-        settle(kWin, bet::kDontPass);
-      }
-      for (int id : {bet::kThree, bet::kCraps, bet::kCandE, bet::kDontCome, bet::kHorn, bet::kWorld})
-        settle(kWin, id);
-      break;
-    case 7:
-      if (comeOut) LineWin(g); else LineLoss(g);
-      settle(kLoss, bet::kDontCome);
-      settle(kLoss, bet::kBig6);
-      settle(kLoss, bet::kBig8);
-      settle.Range(kLoss, bet::kHard4, bet::kHard10);
-      settle.Range(kLoss, bet::kPlaceBase, bet::kBuyBase + 5);
-      for (int id = bet::kComeNumberBase; id < bet::kComeNumberBase + 6; ++id) {
-        settle(kLoss, id);
-        settle(kOddsLoss, bet::OddsOf(id));
-      }
-      if (comeOut) {
-        settle(kLoss, bet::kDontPass);
-        settle(kWin, bet::kPassLine);
-      } else {
-        settle(kLoss, bet::kPassLine);
-        settle(kOddsLoss, bet::kPassOdds);
-        settle(kWin, bet::kDontPass);
-        settle(kOddsWin, bet::kDontPassOdds);
-      }
-      settle.Range(kWin, bet::kLayBase, bet::kLayBase + 5);
-      for (int id = bet::kDontComeBase; id < bet::kDontComeBase + 6; ++id) {
-        settle(kWin, id);
-        settle(kOddsWin, bet::OddsOf(id));
-      }
-      settle(kWin, bet::kCome);
-      settle(kWin, bet::kSeven);
-      settle(kWin, bet::kWorld);
-      if (Has(g, 1)) settle(kWin, bet::HopFor(1, 6));
-      if (Has(g, 2)) settle(kWin, bet::HopFor(2, 5));
-      if (Has(g, 3)) settle(kWin, bet::HopFor(3, 4));
-      break;
-    case 11:
-      settle(kLoss, bet::kDontCome);
-      if (comeOut) {
-        LineWin(g);
-        settle(kWin, bet::kPassLine);
-        settle(kLoss, bet::kDontPass);
-      }
-      for (int id : {bet::kEleven, bet::kCandE, bet::kCome, bet::kHorn, bet::kWorld}) settle(kWin, id);
-      break;
-    default: {  // 4, 5, 6, 8, 9, 10
-      settle(kLoss, bet::Lay(total));
-      settle(kLoss, bet::DontCome(total));
-      settle(kOddsLoss, bet::DontComeOdds(total));
-      settle(kWin, bet::Come(total));
-      settle(kOddsWin, bet::ComeOdds(total));
-      settle(kWin, bet::Place(total));
-      settle(kWin, bet::Buy(total));
-      if (total == 6) settle(kWin, bet::kBig6);
-      if (total == 8) settle(kWin, bet::kBig8);
-      if (total % 2 == 0) {
-        const int hard = bet::kHard4 + (total - 4) / 2;
-        if (Doubles(g)) {
-          settle(kWin, hard);
-          settle(kWin, bet::HopFor(g.Die1, g.Die2));
-        } else {
-          settle(kLoss, hard);
-        }
-      }
-      // The easy Hops of the total, in the order of their lower face.
-      if (!Doubles(g)) {
-        for (int low = 1; low <= 6; ++low) {
-          const int high = total - low;
-          if (high <= low || high > 6 || !Has(g, low)) continue;
-          settle(kWin, bet::HopFor(low, high));
-        }
-      }
-      MoveBet(g, bet::kDontCome, bet::DontCome(total));
-      MoveBet(g, bet::kCome, bet::Come(total));
-      break;
-    }
-  }
+  return false;
 }
 
-// What every roll settles, whatever the total.
-void SettleEveryRoll(Game& g, Settler& settle) {
-  const int total = g.DiceTotal;
-  settle(kWin, bet::kField);
-  if (total != 2) settle(kLoss, bet::kTwo);
-  if (total != 3) settle(kLoss, bet::kThree);
-  if (total != 7) settle(kLoss, bet::kSeven);
-  if (total != 11) settle(kLoss, bet::kEleven);
-  if (total != 12) settle(kLoss, bet::kTwelve);
-  if (total >= 4 && total <= 11) settle(kLoss, bet::kCraps);
-  if (total >= 4 && total <= 10) {
-    settle(kLoss, bet::kCandE);
-    settle(kLoss, bet::kHorn);
-    if (total != 7) settle(kLoss, bet::kWorld);
+// A bet's handling changed whether a bet still to settle works, in a throw
+// whose phantom units the statistics were to count whole: the units of the
+// steps settled so far are booked as they stood when the dice went out, and
+// the rest of the throw books its own as it goes.
+void BookPhantomsSoFar(Game& g, const ThrowPlan& plan, int lastStep, const WorkingSet& atStart) {
+  if (g.Hooks.PhantomsDue) g.Hooks.PhantomsDue(g);
+  for (int i = 0; i <= lastStep; ++i) {
+    const ThrowStep& step = plan.steps[i];
+    if (step.kind == StepKind::Settle && atStart.Has(step.bet)) BookPhantomResult(g, step.bet, step.outcome);
   }
-  settle(total < 8 ? kLoss : kWin, bet::kOver7);
-  settle(total > 6 ? kLoss : kWin, bet::kUnder7);
-  for (int hop = bet::kFirstHop; hop <= bet::kLastHop; ++hop)
-    if (!settle.HopWon(hop)) settle(kLoss, hop);
+  g.PhantomsDeferred = false;
 }
 
 }  // namespace
 
 ThrowDecisions SettleTheThrow(Game& g) {
-  Settler settle(g);
-  if (g.DiceTotal == g.PointBeforeRoll) {  // the point is made
-    LineWin(g);
-    settle(kWin, bet::kPassLine);
-    settle(kOddsWin, bet::kPassOdds);
-    settle(kLoss, bet::kDontPass);
-    settle(kOddsLoss, bet::kDontPassOdds);
+  ThrowDecisions decided;
+  if (!DiceOnTheTable(g)) return decided;
+  const ThrowPlan& plan = PlanFor(g.Die1, g.Die2, g.PointBeforeRoll, g.BarNumber);
+  const WorkingSet atStart = g.BetStatus.Working();
+  uint32_t flipsSeen = g.BetStatus.Flips();
+  for (int i = 0; i < plan.count; ++i) {
+    const ThrowStep& step = plan.steps[i];
+    switch (step.kind) {
+      case StepKind::Settle: {
+        const int id = step.bet;
+        // Deferred, an empty spot has nothing to settle: its phantom unit is
+        // counted with the throw.
+        if (g.PhantomsDeferred && g.BetAmount[id] == 0) continue;
+        const bool real = g.BetAmount[id] > 0 && g.BetStatus[id] >= status::kWorking;
+        if (g.PhantomsDeferred)
+          SettleMoneyBet(g, step.outcome, id);
+        else
+          SettleBet(g, step.outcome, id);
+        if (real && g.NetPayoff > 0) decided.anyWon = true;
+        if (real && g.NetPayoff < 0) decided.anyLost = true;
+        break;
+      }
+      case StepKind::LineWin: LineWin(g); break;
+      case StepKind::LineLoss: LineLoss(g); break;
+      case StepKind::LineBarred: LineBarred(g); break;
+      case StepKind::MoveBet: MoveBet(g, step.bet, step.to); break;
+    }
+    if (g.PhantomsDeferred && g.BetStatus.Flips() != flipsSeen) {
+      flipsSeen = g.BetStatus.Flips();
+      if (ChangedAhead(g, plan, i, atStart)) BookPhantomsSoFar(g, plan, i, atStart);
+    }
   }
-  SettleTotal(g, settle);
-  SettleEveryRoll(g, settle);
-  return {settle.AnyWon(), settle.AnyLost()};
+  return decided;
 }

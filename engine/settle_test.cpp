@@ -38,7 +38,7 @@ TEST(SettleBet, WonNoticesAndRounding) {
   }
   TestTable t;
   t.Stand(bet::Place(6), 12);
-  t.g.Payoff[bet::Place(6)].Form = 0;  // the "for" form pays the same and says so
+  t.g.Payoff.Edit()[bet::Place(6)].Form = 0;  // the "for" form pays the same and says so
   t.Dice(2, 4, 5);
   EXPECT_EQ(t.Settle(Outcome::Win, bet::Place(6)), Currency(14));
   EXPECT_EQ(t.ui.notices.at(0).rows.at(1), (Rows::value_type{"Payoff at 13 for 6:", "$14"}));
@@ -49,7 +49,7 @@ TEST(SettleBet, WonNoticesAndRounding) {
 
   // A loser's odd cents grow: half a check lost costs a whole one, unless
   // the checks are quarters.
-  t.g.FieldPayoff[5] = {-1, -1, 2};
+  t.g.FieldPayoff.Set(5, {-1, -1, 2});
   t.Stand(bet::kField, 3);
   t.Dice(1, 4, 0);
   EXPECT_EQ(t.Settle(Outcome::Win, bet::kField), Currency(-2));
@@ -62,9 +62,9 @@ TEST(SettleBet, WonNoticesAndRounding) {
 TEST(SettleBet, NoDecisionsStreaksAndSilentTables) {
   // A payoff of zero, or an empty spot, is no decision at all.
   TestTable t;
-  t.g.FieldPayoff[9] = {0, -1, 1};
+  t.g.FieldPayoff.Set(9, {0, -1, 1});
   t.Stand(bet::kField, 5);
-  t.g.BetStatus[bet::Place(6)] = 1;
+  t.g.BetStatus.Set(bet::Place(6), 1);
   t.Dice(3, 3, 0);
   EXPECT_EQ(t.Settle(Outcome::Win, bet::kField), Currency(0));
   EXPECT_EQ(t.Settle(Outcome::Win, bet::Place(6)), Currency(0));
@@ -92,7 +92,7 @@ TEST(SettleBet, NoDecisionsStreaksAndSilentTables) {
 TEST(SettleBet, OffBetsStandAndOffOddsComeBack) {
   TestTable t;
   t.Stand(bet::Place(6), 6);
-  t.g.BetStatus[bet::Place(6)] = 0;
+  t.g.BetStatus.Set(bet::Place(6), 0);
   t.Dice(3, 4, 0);
   EXPECT_EQ(t.Settle(Outcome::Loss, bet::Place(6)), Currency(0));
   EXPECT_EQ(t.Settle(Outcome::Win, bet::Place(6)), Currency(0));
@@ -104,7 +104,7 @@ TEST(SettleBet, OffBetsStandAndOffOddsComeBack) {
   // without Put bets they come down even with the Come bet still up.
   t.Stand(bet::Come(4), 10);
   t.Stand(bet::ComeOdds(4), 10);
-  t.g.BetStatus[bet::ComeOdds(4)] = 0;
+  t.g.BetStatus.Set(bet::ComeOdds(4), 0);
   EXPECT_EQ(t.Settle(Outcome::OddsLoss, bet::ComeOdds(4)), Currency(0));
   ASSERT_EQ(t.ui.notices.size(), 1u);
   EXPECT_EQ(t.ui.notices[0].title, "Odds Bet Returned");
@@ -119,7 +119,7 @@ TEST(SettleBet, OffBetsStandAndOffOddsComeBack) {
   t.g.AllowPutBets = true;
   t.Stand(bet::Come(6), 10);
   t.Stand(bet::ComeOdds(6), 10);
-  t.g.BetStatus[bet::ComeOdds(6)] = -1;
+  t.g.BetStatus.Set(bet::ComeOdds(6), -1);
   t.Settle(Outcome::OddsLoss, bet::ComeOdds(6));
   EXPECT_FALSE(t.g.BetComesDown);
   EXPECT_EQ(t.g.UnitAmount, Currency(5));
@@ -200,7 +200,7 @@ TEST(FigureUnit, LargestCheckThatDividesTheBet) {
       {30, 6, 30}, {12, 6, 6}, {25, 1, 25}, {1000, 1, 500}, {7, 1, 1}, {7, 6, 6}, {3, 6, 6}};
   for (const auto& c : cases) {
     t.g.BetAmount[bet::Place(6)] = c.amount;
-    t.g.Payoff[0].Per = c.per;
+    t.g.Payoff.Edit()[0].Per = c.per;
     FigureUnit(t.g, bet::Place(6));
     EXPECT_EQ(t.g.UnitAmount, Currency(c.unit)) << c.amount << " per " << c.per;
   }

@@ -51,14 +51,13 @@ void CallBet(Game& g, int betId, int callTool) {
     Refuse(g, SlotName(g, betId), "You may not call Chip-Stacks ON or OFF.");
     return;
   }
-  int& status = g.BetStatus[betId];
   g.GameChanged = true;
-  const int against = callTool == kToolCallOn ? -1 : 2;
-  if (status == against) {
+  const int against = callTool == kToolCallOn ? status::kCalledOff : status::kCalledOn;
+  if (g.BetStatus[betId] == against) {
     SetBetStatusDefault(g, betId);
     g.TableDirty = true;
   } else {
-    status = callTool == kToolCallOn ? 2 : -1;
+    g.BetStatus.Set(betId, callTool == kToolCallOn ? status::kCalledOn : status::kCalledOff);
   }
   g.Ui->RedrawBet(betId);
   if (!g.HyperDriveOn) g.Ui->RefreshTable();
@@ -85,7 +84,7 @@ void BuyPlaceBet(Game& g, int& betId) {
   }
   const int placeId = betId;
   const int buyId = placeId + (bet::kBuyBase - bet::kPlaceBase);
-  if (IsCalled(g.BetStatus[placeId]) || IsCalled(g.BetStatus[buyId])) g.BetStatus[buyId] = g.BetStatus[placeId];
+  if (IsCalled(g.BetStatus[placeId]) || IsCalled(g.BetStatus[buyId])) g.BetStatus.Set(buyId, g.BetStatus[placeId]);
 
   const Currency amount = g.BetAmount[placeId];
   g.BetChange = -amount;

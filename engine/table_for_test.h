@@ -102,7 +102,7 @@ struct TestTable {
     g.BetAmount[id] = g.BetAtRollStart[id] = amount;
     g.TotalOnTable += amount;
     if (id < static_cast<int>(g.BetCommitted.size())) g.BetCommitted[id] = amount;
-    g.BetStatus[id] = 1;
+    g.BetStatus.Set(id, 1);
   }
   // As the top of a roll does: what stands now is committed.
   void Commit() {

@@ -124,7 +124,7 @@ TEST(Actions, BetGoesThroughPlacement) {
   ScriptTable t;
   // Bet $0 removes the bet: nothing is placed and the spot takes its default status.
   t.Stand(kPlace6, 12);
-  t.g.BetStatus[kPlace6] = 2;
+  t.g.BetStatus.Set(kPlace6, 2);
   t.Run(Action(10, 0, kPlace6));
   EXPECT_EQ(t.g.BetAmount[kPlace6], 0);
   EXPECT_EQ(t.g.BetStatus[kPlace6], 0);

@@ -38,7 +38,7 @@ bool InPointSet(int point, int code) {
   }
 }
 
-bool CameThisRoll(const Game& g, int eventIndex) { return g.RollsSinceLast[eventIndex] == 0; }
+bool CameThisRoll(const Game& g, int eventIndex) { return FiguresOf(g, eventIndex).since == 0; }
 
 // False when the subject is not a timing subject.
 bool EvaluateTiming(const Game& g, PassState& pass, const ScriptLine& line) {

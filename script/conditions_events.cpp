@@ -21,10 +21,11 @@ bool IsDiceEvent(int subject) {
 
 void EvaluateDiceEvent(const Game& g, PassState& pass, const ScriptLine& line) {
   const int i = line.Subject - subject::kDiceEvents;
-  const Currency count(g.RollCounts[i]);
-  const Currency countBefore(g.PreviousRollCounts[i]);
-  const Currency since(g.RollsSinceLast[i]);
-  const Currency sinceBefore(g.PreviousRollsSinceLast[i]);
+  const EventFigures figures = FiguresOf(g, i);
+  const Currency count(figures.count);
+  const Currency countBefore(figures.countBefore);
+  const Currency since(figures.since);
+  const Currency sinceBefore(figures.sinceBefore);
   const bool anyRolls = g.RollCounts[event::kAllRolls] != 0;
   const Currency n = line.LineAmount;
   bool now = false;

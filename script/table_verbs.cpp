@@ -2,6 +2,7 @@
 // a bet's history, and the stop of a run.
 
 #include "engine/table_commands.h"
+#include "stats/roll_counters.h"
 #include "script/verb_families.h"
 #include "engine/verb_codes.h"
 
@@ -17,6 +18,7 @@ void ResetStreak(Game& g, int slot) {
 
 void ResetEvent(Game& g, int event) {
   if (event < 0 || event >= static_cast<int>(g.RollCounts.size())) return;
+  WriteRollCounters(g);  // what the run tallied, so the reset sticks
   g.RollCounts[event] = 0;
   g.RollsSinceLast[event] = 0;
   g.PreviousRollCounts[event] = 0;

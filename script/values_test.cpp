@@ -30,7 +30,7 @@ TEST(ScriptValues, GroupsReferencesPointsAndDecidedWagers) {
 
   // Decided wagers: a 6 decides the Place 6 (working, as all are here).
   t.SetPoint(0);
-  t.g.BetStatus.fill(1);
+  for (int id = 0; id < t.g.BetStatus.size(); ++id) t.g.BetStatus.Set(id, 1);
   t.Roll(3, 3);
   EXPECT_EQ(GetValue(t.g, 1700, 0), Currency(1));
   EXPECT_EQ(GetValue(t.g, 1701, 0), Currency(6));

@@ -71,7 +71,7 @@ TableResult Table::SetPayoff(int betId, const PayoffRecord& payoff) {
     if (inGrid && payoff.Win == 0)
       return TableResult::Fail(TableCode::OutOfRange, "The payoff must be a positive amount.",
                                "Payoff ratio error on " + PayoffRowLabel(g, betId));
-    g.Payoff[betId] = payoff;
+    g.Payoff.Set(betId, payoff);
     // The line odds records follow the odds rows of the point.
     if ((bet::IsComeOdds(betId) || bet::IsDontComeOdds(betId)) && g.Point != 0) SyncOddsPayoffs(g);
     return MarkUnsavedIf(true);
@@ -92,7 +92,7 @@ TableResult Table::SetFieldPayoff(int row, const PayoffRecord& payoff) {
     if (!anyWins)
       return TableResult::Fail(TableCode::OutOfRange, "At least one of the Field payoffs must be postiive.",
                                "Payoff error on Field");
-    g.FieldPayoff[row] = payoff;
+    g.FieldPayoff.Set(row, payoff);
     return MarkUnsavedIf(true);
   });
 }

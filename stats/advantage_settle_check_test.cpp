@@ -19,8 +19,8 @@ struct TableSetup { const char* name; int barNumber = 12; bool vigUpFront = true
 
 // Payoffs away from the defaults, so that a bet read by the wrong record shows.
 void OddPayoffs(Game& g) {
-  for (int id = 1; id <= bet::kLastTableBet; ++id) g.Payoff[id] = {2 + id % 5, -1, 1 + id % 3};
-  for (int row = 1; row <= 21; ++row) g.FieldPayoff[row] = {row % 3 - 1, -1, 1 + row % 2};
+  for (int id = 1; id <= bet::kLastTableBet; ++id) g.Payoff.Set(id, {2 + id % 5, -1, 1 + id % 3});
+  for (int row = 1; row <= 21; ++row) g.FieldPayoff.Set(row, {row % 3 - 1, -1, 1 + row % 2});
 }
 
 void Prepare(TestTable& t, const TableSetup& s, int point) {

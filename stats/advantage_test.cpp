@@ -133,8 +133,8 @@ TEST(Advantage, RollsPerDecisionAndSpread) {
 TEST(Advantage, APointWithAPointOnReadsItsOwnOddsRecord) {
   TestTable t;
   t.SetPoint(4);
-  t.g.Payoff[bet::ComeOdds(4)] = {3, -1, 1};  // 3 to 1 on the 4: +1/3 a decision
-  t.g.Payoff[bet::DontComeOdds(4)] = {1, -1, 4};  // 1 to 4 against it
+  t.g.Payoff.Set(bet::ComeOdds(4), {3, -1, 1});  // 3 to 1 on the 4: +1/3 a decision
+  t.g.Payoff.Set(bet::DontComeOdds(4), {1, -1, 4});  // 1 to 4 against it
   EXPECT_NEAR(FigureAdvantage(t.g, bet::kPassOdds).EvPerDecision, 1.0 / 3, 1e-12);
   EXPECT_NEAR(FigureAdvantage(t.g, bet::kDontPassOdds).EvPerDecision, (2 * 0.25 - 1) / 3, 1e-12);
   // With no point the odds average over the points by their chances.
@@ -144,12 +144,12 @@ TEST(Advantage, APointWithAPointOnReadsItsOwnOddsRecord) {
 
 TEST(Advantage, PayoffsAboveTrueOddsTurnTheRowPositive) {
   TestTable t;
-  t.g.Payoff[bet::Place(6)] = {13, -1, 10};  // 13 to 10 beats 6 to 5
+  t.g.Payoff.Set(bet::Place(6), {13, -1, 10});  // 13 to 10 beats 6 to 5
   EXPECT_NEAR(FigureAdvantage(t.g, bet::Place(6)).EvPerDecision, (5 * 1.3 - 6) / 11, 1e-12);
-  t.g.Payoff[bet::Come(5)] = {8, -1, 5};  // the Pass Line then pays 8 to 5 on a 5
+  t.g.Payoff.Set(bet::Come(5), {8, -1, 5});  // the Pass Line then pays 8 to 5 on a 5
   EXPECT_GT(FigureAdvantage(t.g, bet::kPassLine).EvPerDecision, 0);
   EXPECT_GT(FigureAdvantage(t.g, bet::kCome).EvPerRoll, 0);
-  t.g.FieldPayoff[5] = {0, -1, 1};  // 5 (1-4) (4-1) pushes: the Field breaks even
+  t.g.FieldPayoff.Set(5, {0, -1, 1});  // 5 (1-4) (4-1) pushes: the Field breaks even
   const Advantage field = FigureAdvantage(t.g, bet::kField);
   EXPECT_NEAR(field.EvPerRoll, 0, 1e-12);
   EXPECT_NEAR(field.RollsPerDecision, 36.0 / 34, 1e-12);

@@ -99,7 +99,7 @@ TEST(BetResults, PushesBookNothing) {
   // A $.50 Place 6 nets nothing when it wins: no actual entry, while its
   // phantom unit wins 7/6 unrounded.
   t.SetPoint(5);
-  t.g.BetStatus[bet::Place(6)] = 1;
+  t.g.BetStatus.Set(bet::Place(6), 1);
   t.Stand(bet::Place(6), Currency::FromDouble(0.5));
   t.Dice(2, 4, 5);
   t.Settle(Outcome::Win, bet::Place(6));

@@ -1,5 +1,6 @@
 #include "stats/roll_counters.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstdint>
@@ -140,6 +141,44 @@ constexpr std::array<ThrowMask, 36> MakeThrowMasks() {
 
 constexpr std::array<ThrowMask, 36> kThrowMasks = MakeThrowMasks();
 
+// For each selection, the pairs of dice (bit DicePair) that satisfy it.
+constexpr std::array<uint64_t, event::kCount> MakePairMasks() {
+  std::array<uint64_t, event::kCount> masks{};
+  for (int i = 1; i < event::kCount; ++i)
+    for (int d1 = 1; d1 <= 6; ++d1)
+      for (int d2 = 1; d2 <= 6; ++d2)
+        if (Satisfies(kSelections[i], d1, d2)) masks[i] |= uint64_t{1} << ((d1 - 1) * 6 + d2 - 1);
+  return masks;
+}
+
+constexpr std::array<uint64_t, event::kCount> kPairMasks = MakePairMasks();
+
+// A selection's figures from the figures last written and the tally since.
+EventFigures Derive(const Game& g, int i) {
+  const RollTally& t = g.Tally;
+  EventFigures f{g.RollCounts[i], g.PreviousRollCounts[i], g.RollsSinceLast[i], g.PreviousRollsSinceLast[i]};
+  if (t.rolls == 0) return f;
+  int32_t sum = 0, latest = 0, latestBefore = 0;
+  for (uint64_t pairs = kPairMasks[i]; pairs != 0; pairs &= pairs - 1) {
+    const int pair = std::countr_zero(pairs);
+    sum += t.count[pair];
+    latest = std::max(latest, t.last[pair]);
+    latestBefore = std::max(latestBefore, pair == t.latestPair ? t.latestPairBefore : t.last[pair]);
+  }
+  const int32_t writtenCount = f.count, writtenSince = f.since;
+  f.count = writtenCount + sum;
+  f.since = latest > 0 ? t.rolls - latest : writtenSince + t.rolls;
+  if (!t.latestCounted) {  // the roll under way threw no dice
+    f.countBefore = f.count;
+    f.sinceBefore = f.since;
+    return f;
+  }
+  const bool latestIn = t.latestPair != kNoPair && ((kPairMasks[i] >> t.latestPair) & 1u);
+  f.countBefore = f.count - (latestIn ? 1 : 0);
+  f.sinceBefore = latestBefore > 0 ? t.rolls - 1 - latestBefore : writtenSince + t.rolls - 1;
+  return f;
+}
+
 void CountBits(Game& g, uint64_t bits, int offset) {
   while (bits != 0) {
     const int i = offset + std::countr_zero(bits);
@@ -154,6 +193,45 @@ void CountBits(Game& g, uint64_t bits, int offset) {
 bool SatisfiesEvent(int index, int die1, int die2) {
   if (index < 1 || index >= event::kCount) return false;
   return Satisfies(kSelections[index], die1, die2);
+}
+
+EventFigures FiguresOf(const Game& g, int index) {
+  if (index < 1 || index >= event::kCount) return {};
+  return Derive(g, index);
+}
+
+void StartRollTally(Game& g) {
+  RollTally& t = g.Tally;
+  if (t.rolls == 0) {
+    g.PreviousRollCounts = g.RollCounts;
+    g.PreviousRollsSinceLast = g.RollsSinceLast;
+  }
+  t.latestCounted = false;
+}
+
+void TallyRoll(Game& g) {
+  RollTally& t = g.Tally;
+  const bool onTable = g.Die1 >= 1 && g.Die1 <= 6 && g.Die2 >= 1 && g.Die2 <= 6;
+  const int pair = onTable ? (g.Die1 - 1) * 6 + g.Die2 - 1 : kNoPair;
+  ++t.rolls;
+  ++t.count[pair];
+  t.latestPair = pair;
+  t.latestPairBefore = t.last[pair];
+  t.last[pair] = t.rolls;
+  t.latestCounted = true;
+}
+
+void WriteRollCounters(Game& g) {
+  if (g.Tally.rolls == 0) return;
+  for (int i = 1; i < event::kCount; ++i) {
+    const EventFigures f = Derive(g, i);
+    g.RollCounts[i] = f.count;
+    g.PreviousRollCounts[i] = f.countBefore;
+    g.RollsSinceLast[i] = f.since;
+    g.PreviousRollsSinceLast[i] = f.sinceBefore;
+  }
+  g.PreviousRollCounts[event::kAllRolls] = g.RollCounts[event::kAllRolls] - (g.Tally.latestCounted ? 1 : 0);
+  g.Tally = {};
 }
 
 void UpdateRollCounters(Game& g) {

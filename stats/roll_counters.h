@@ -15,6 +15,23 @@ constexpr int kCount = 91;
 // True when a throw of die1, die2 satisfies selection `index` (1..90).
 bool SatisfiesEvent(int index, int die1, int die2);
 
-// Counts the roll now on the table (Die1, Die2): all rolls, and every
-// selection the dice satisfy; the gaps grow and the rolled ones clear.
+// Counts the roll now on the table (Die1, Die2) in full: every selection
+// the dice satisfy; the gaps grow and the rolled ones clear.
 void UpdateRollCounters(Game& g);
+
+// In a run the rolls are tallied by pair of dice instead (Game::Tally) and
+// the figures above are written when something reads them.
+// The top of a roll: the values before it are what the script compares with.
+void StartRollTally(Game& g);
+// Tallies the roll now on the table.
+void TallyRoll(Game& g);
+// Writes what was tallied into RollCounts, RollsSinceLast and their
+// Previous copies, and empties the tally.
+void WriteRollCounters(Game& g);
+
+// One selection's figures now and before this roll, tally included.
+struct EventFigures {
+  int32_t count = 0, countBefore = 0;
+  int32_t since = 0, sinceBefore = 0;
+};
+EventFigures FiguresOf(const Game& g, int index);

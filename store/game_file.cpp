@@ -10,6 +10,7 @@
 #include "store/game_file_check.h"
 #include "store/game_file_links.h"
 #include "store/game_file_sections.h"
+#include "stats/statistics_sync.h"
 #include "store/small_files.h"
 
 namespace fs = std::filesystem;
@@ -44,6 +45,7 @@ FileStatus Refusal(const std::string& path) {
 
 FileStatus SaveGame(Game& g, const std::string& path) {
   if (g.DiceFile.File.IsOpen()) g.DiceFile.File.Flush();  // its date must be the one on disk
+  SyncStatistics(g);  // a save from a script in a run writes the figures as they stand
   // The file holds the game as saved, so its unsaved mark goes out clear;
   // only a failed write leaves the game unsaved.
   const bool changed = g.GameChanged;

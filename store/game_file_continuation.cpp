@@ -3,6 +3,7 @@
 // that was saved. One marker record, then a list of 32-bit words.
 
 #include <bit>
+#include <type_traits>
 
 #include "engine/game.h"
 #include "store/game_file_sections.h"
@@ -63,7 +64,11 @@ void ContinuationFields(G& g, F&& f) {
   f(g.RndState);
   f(g.SeedRequest);
 
-  for (auto& status : g.BetStatus) f(status);
+  for (int id = 0; id < g.BetStatus.size(); ++id) {
+    int32_t status = g.BetStatus[id];
+    f(status);
+    if constexpr (!std::is_const_v<G>) g.BetStatus.Set(id, status);
+  }
   f(g.ModifyOperator[1]);
   f(g.ModifyOperator[3]);
   f(g.AutoArrangeChips);

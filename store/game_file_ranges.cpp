@@ -78,8 +78,8 @@ void KeepMoneyInRange(Game& g) {
       Bound(p.Win, -most, most);
     }
   };
-  payoffsInRange(g.Payoff);
-  payoffsInRange(g.FieldPayoff);
+  payoffsInRange(g.Payoff.Edit());
+  payoffsInRange(g.FieldPayoff.Edit());
 }
 
 // Counters a roll adds to: a billion, far more than any game rolls.
@@ -132,7 +132,7 @@ void KeepStateInRange(Game& g) {
   g.PointTwoRollsAgo = PointOrComeOut(g.PointTwoRollsAgo);
   g.DiceFileMode = std::clamp(g.DiceFileMode, 0, 2);
   KeepCountersInRange(g);
-  for (int32_t& status : g.BetStatus) status = std::clamp(status, -1, 2);
+  for (int id = 0; id < g.BetStatus.size(); ++id) g.BetStatus.Set(id, std::clamp(g.BetStatus[id], -1, 2));
   for (int32_t& stack : g.TrayStack) stack = std::clamp(stack, 0, bet::kSlots - 1);
   g.TrayStack[0] = 0;
   g.LastAnswer = static_cast<Answer>(std::clamp(static_cast<int32_t>(g.LastAnswer), 1, 7));

@@ -11,6 +11,7 @@
 
 #include "engine/game.h"
 #include "stats/bet_results.h"
+#include "stats/statistics_sync.h"
 #include "store/game_file_sections.h"
 
 namespace {
@@ -112,6 +113,7 @@ void WriteStatisticsRecords(const Game& g, RecordWriter& w) {
 }
 
 void ReadStatisticsRecords(Game& g, RecordReader& r) {
+  DropBulkCounts(g);  // the file's figures replace whatever was counted
   Fill(g.BetWagers, r.NextCurrencies(kResultCells));
   Fill(g.BetWins, r.NextCurrencies(kResultCells));
   Fill(g.BetLosses, r.NextCurrencies(kResultCells));

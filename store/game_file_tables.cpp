@@ -83,8 +83,8 @@ void WriteTableRecords(const Game& g, RecordWriter& w) {
   for (int id = 0; id <= 100; ++id) PutInt16(comeOut, id, g.WorkOnComeOut[static_cast<size_t>(id)]);
   w.Add();  // the per-bet table of the bet results, which are not kept yet
 
-  WritePayoffs(w, g.Payoff);
-  WritePayoffs(w, g.FieldPayoff);
+  WritePayoffs(w, g.Payoff.Rows());
+  WritePayoffs(w, g.FieldPayoff.Rows());
 }
 
 void ReadTableRecords(Game& g, RecordReader& r) {
@@ -102,6 +102,6 @@ void ReadTableRecords(Game& g, RecordReader& r) {
   for (int id = 0; id <= 100; ++id) g.WorkOnComeOut[static_cast<size_t>(id)] = GetInt16(comeOut, id);
   r.Next();
 
-  ReadPayoffs(r, g.Payoff);
-  ReadPayoffs(r, g.FieldPayoff);
+  ReadPayoffs(r, g.Payoff.Edit());
+  ReadPayoffs(r, g.FieldPayoff.Edit());
 }
