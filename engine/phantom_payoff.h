@@ -18,6 +18,18 @@ struct ThrowFacts {
 };
 inline ThrowFacts FactsOf(const Game& g) { return {g.Die1, g.Die2, g.PointBeforeRoll}; }
 
+// The terms a unit is paid on: the payoff rows, the Field's rows and the vig.
+struct PhantomRates {
+  const PayoffRecord* payoff;  // rows 0..100
+  const PayoffRecord* field;   // rows 0..21
+  Currency layVigRate, buyVigRate;
+  bool chargeAllLay, chargeAllBuy;
+};
+inline PhantomRates RatesOf(const Game& g) {
+  return {g.Payoff.Rows().data(), g.FieldPayoff.Rows().data(), g.LayVigRate, g.BuyVigRate, g.ChargeAllLay,
+          g.ChargeAllBuy};
+}
+
 struct PhantomFigure {
   Currency Stake;  // 1, plus the vig where it is paid
   Currency Net;    // the raw payoff
@@ -31,13 +43,13 @@ inline Currency UnitShare(const PayoffRecord& record) {
 }
 
 // The rarer cases: a Lay or Buy, and a won line or split bet.
-PhantomFigure FigurePhantomInFull(const Game& g, const ThrowFacts& t, int betId, Outcome outcome);
+PhantomFigure FigurePhantomInFull(const PhantomRates& r, const ThrowFacts& t, int betId, Outcome outcome);
 
-inline PhantomFigure FigurePhantom(const Game& g, const ThrowFacts& t, int betId, Outcome outcome) {
+inline PhantomFigure FigurePhantom(const PhantomRates& r, const ThrowFacts& t, int betId, Outcome outcome) {
   const Currency unit = 1;
-  if (betId == bet::kField) return {unit, UnitShare(g.FieldPayoff[bet::FieldRow(t.die1, t.die2)])};
+  if (betId == bet::kField) return {unit, UnitShare(r.field[bet::FieldRow(t.die1, t.die2)])};
   if (betId <= bet::kBuyBase + 5) {
-    if (bet::IsLay(betId) || bet::IsBuy(betId)) return FigurePhantomInFull(g, t, betId, outcome);
+    if (bet::IsLay(betId) || bet::IsBuy(betId)) return FigurePhantomInFull(r, t, betId, outcome);
   }
   if (!IsWin(outcome)) return {unit, -unit};
   switch (betId) {
@@ -47,14 +59,14 @@ inline PhantomFigure FigurePhantom(const Game& g, const ThrowFacts& t, int betId
     case bet::kDontPassOdds:
     case bet::kCandE:
     case bet::kHorn:
-    case bet::kWorld: return FigurePhantomInFull(g, t, betId, outcome);
-    default: return {unit, UnitShare(g.Payoff[betId])};
+    case bet::kWorld: return FigurePhantomInFull(r, t, betId, outcome);
+    default: return {unit, UnitShare(r.payoff[betId])};
   }
 }
 
 // Figures and books the phantom unit of betId, when one stands there.
 inline void BookPhantomResult(Game& g, int betId, Outcome outcome) {
   if (!results::PhantomStands(g, betId)) return;
-  const PhantomFigure f = FigurePhantom(g, FactsOf(g), betId, outcome);
+  const PhantomFigure f = FigurePhantom(RatesOf(g), FactsOf(g), betId, outcome);
   results::BookEntry(g, results::kPhantom, betId, f.Stake, f.Net);
 }

@@ -31,7 +31,7 @@ TEST(PhantomPayoff, FiguresAsTheSettlingAndStakesAsTheBooking) {
           t.Dice(d1, d2, point);
           for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id)
             for (Outcome outcome : {Outcome::Win, Outcome::OddsWin, Outcome::Loss, Outcome::OddsLoss}) {
-              const PhantomFigure f = FigurePhantom(t.g, FactsOf(t.g), id, outcome);
+              const PhantomFigure f = FigurePhantom(RatesOf(t.g), FactsOf(t.g), id, outcome);
               FigurePayoff(t.g, 0, id, outcome, 1);
               ASSERT_EQ(f.Net, t.g.RawPayoff) << "bet " << id << " outcome " << static_cast<int>(outcome) << " dice " << d1 << d2
                                               << " point " << point << " variant " << variant;

@@ -13,6 +13,7 @@
 
 #include "dice/money.h"
 #include "engine/bet_status_table.h"
+#include "engine/payoff_rows.h"
 
 // Pairs of dice 0..35; 36 counts a roll whose dice were not on the table.
 constexpr int kPairSlots = 37;
@@ -50,6 +51,10 @@ constexpr int kNumberUnits = 24;
 struct PhantomLedger {
   bool open = false;
   PhantomTerms terms;
+  // The rows the terms stand for, as they were: a fold after a change of
+  // payoffs books what was counted before it on the old ones.
+  std::array<PayoffRecord, 101> payoffRows{};
+  std::array<PayoffRecord, 22> fieldRows{};
   std::array<int8_t, kLedgerContexts> contextState{};  // point state 0..6
   std::array<WorkingSet, kLedgerContexts> contextWorking{};
   int32_t contextCount = 0;

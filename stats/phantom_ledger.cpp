@@ -11,6 +11,12 @@ using namespace results;
 
 namespace {
 
+// The rates the ledger counted on, not the game's: those may have changed.
+PhantomRates LedgerRates(const PhantomLedger& l) {
+  return {l.payoffRows.data(), l.fieldRows.data(), l.terms.layVigRate, l.terms.buyVigRate, l.terms.chargeAllLay,
+          l.terms.chargeAllBuy};
+}
+
 PhantomTerms TermsOf(const Game& g) {
   return {g.Payoff.Version(), g.FieldPayoff.Version(), g.LayVigRate, g.BuyVigRate,
           g.ChargeAllLay,     g.ChargeAllBuy,          g.AllowPutBets, g.BarNumber};
@@ -78,21 +84,24 @@ void ForEachThrowUnit(const Game& g, int key, Book book) {
   const ThrowFacts facts = FactsOfKey(g.Phantoms, key);
   const WorkingSet& working = g.Phantoms.contextWorking[key / 36];
   const ThrowPlan& plan = PlanFor(facts.die1, facts.die2, facts.pointBefore, g.Phantoms.terms.barNumber);
+  const PhantomRates rates = LedgerRates(g.Phantoms);
   for (int i = 0; i < plan.count; ++i) {
     const ThrowStep& step = plan.steps[i];
     if (step.kind != StepKind::Settle || IsNumberUnit(step.bet) || !working.Has(step.bet)) continue;
-    book(step.bet, FigurePhantom(g, facts, step.bet, step.outcome));
+    book(step.bet, FigurePhantom(rates, facts, step.bet, step.outcome));
   }
 }
 
 PhantomFigure NumberUnitFigure(const Game& g, int id, bool seven) {
-  return FigurePhantom(g, ThrowFacts{}, id, NumberUnitOutcome(id, seven));
+  return FigurePhantom(LedgerRates(g.Phantoms), ThrowFacts{}, id, NumberUnitOutcome(id, seven));
 }
 
 void StartLedger(Game& g) {
   PhantomLedger& l = g.Phantoms;
   l.open = true;
   l.terms = TermsOf(g);
+  l.payoffRows = g.Payoff.Rows();
+  l.fieldRows = g.FieldPayoff.Rows();
   l.contextCount = 0;
   l.lastContext = 0;
 }
