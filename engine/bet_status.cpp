@@ -8,14 +8,8 @@ void SetBetStatusDefault(Game& g, int betId) {
 }
 
 void UpdateBetStatusForPoint(Game& g) {
-  const bool pointMade = g.Point != 0 && g.Point == g.DiceTotal;
-  if (!pointMade && g.Point != 0) return;
-  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) {
-    const int32_t now = g.BetStatus[id];
-    if (pointMade) {
-      if (now == status::kOff) g.BetStatus.Set(id, status::kWorking);
-    } else if (now != status::kCalledOn && now != status::kCalledOff) {
-      g.BetStatus.Set(id, g.WorkOnComeOut[id]);
-    }
-  }
+  if (g.Point != 0 && g.Point == g.DiceTotal)
+    g.BetStatus.PointEstablished(bet::kFirstTableBet, bet::kLastTableBet);
+  else if (g.Point == 0)
+    g.BetStatus.ComeOut(bet::kFirstTableBet, bet::kLastTableBet, g.WorkOnComeOut);
 }

@@ -1,7 +1,7 @@
 #pragma once
-// The working status of every table bet, with the set of bets that work kept
-// beside it: the statistics run by that set and must learn when it changes,
-// so every write goes through Set.
+// The working status of every table bet, with the set of bets that work
+// worked out from it when asked: the statistics run by that set and must
+// learn when it changes, so every write goes through this table.
 
 #include <array>
 #include <cstdint>
@@ -27,24 +27,51 @@ class BetStatusTable {
 
   int32_t operator[](int id) const { return status_[id]; }
   void Set(int id, int32_t value) {
+    if (status_[id] == value) return;
     status_[id] = value;
-    const uint64_t bit = uint64_t{1} << (id & 63);
-    uint64_t& word = working_.bits[id >> 6];
-    const uint64_t was = word;
-    word = value >= status::kWorking ? word | bit : word & ~bit;
-    if (word != was) ++flips_;
+    Changed();
   }
-  const WorkingSet& Working() const { return working_; }
-  // Counts every change of the working set; a settlement compares it
-  // before and after a bet's handling.
-  uint32_t Flips() const { return flips_; }
+  // The point is established: bets off by default work (bets first..last).
+  void PointEstablished(int first, int last) {
+    for (int id = first; id <= last; ++id) status_[id] = status_[id] == status::kOff ? status::kWorking : status_[id];
+    Changed();
+  }
+  // The come-out: every bet not called takes its come-out status.
+  void ComeOut(int first, int last, const std::array<int32_t, kSize>& comeOutStatus) {
+    for (int id = first; id <= last; ++id) {
+      const bool called = status_[id] == status::kCalledOn || status_[id] == status::kCalledOff;
+      status_[id] = called ? status_[id] : comeOutStatus[id];
+    }
+    Changed();
+  }
+
+  const WorkingSet& Working() const {
+    if (stale_) {
+      WorkingSet set;
+      for (int id = 0; id < kSize; ++id)
+        set.bits[id >> 6] |= uint64_t{status_[id] >= status::kWorking} << (id & 63);
+      working_ = set;
+      stale_ = false;
+    }
+    return working_;
+  }
+  // Counts the changes of any status; a settlement compares it before and
+  // after a bet's handling.
+  uint32_t Changes() const { return changes_; }
 
   static constexpr int size() { return kSize; }
   auto begin() const { return status_.begin(); }
   auto end() const { return status_.end(); }
 
  private:
+  void Changed() {
+    stale_ = true;
+    ++changes_;
+  }
+
   std::array<int32_t, kSize> status_{};
-  WorkingSet working_;
-  uint32_t flips_ = 0;
+  // Worked out on demand: a point's change rewrites every status at once.
+  mutable WorkingSet working_;
+  mutable bool stale_ = false;
+  uint32_t changes_ = 0;
 };

@@ -37,14 +37,39 @@ void BookPhantomsSoFar(Game& g, const ThrowPlan& plan, int lastStep, const Worki
   g.PhantomsDeferred = false;
 }
 
+// Whether any table bet has money on it, worked branch-free so that it costs
+// less than walking the throw's settlements of an empty layout.
+bool AnyMoneyOnLayout(const Game& g) {
+  int64_t any = 0;
+  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) any |= g.BetAmount[id].raw;
+  return any != 0;
+}
+
+void TakeOtherSteps(Game& g, const ThrowPlan& plan) {
+  for (int i = 0; i < plan.otherCount; ++i) {
+    const ThrowStep& step = plan.others[i];
+    switch (step.kind) {
+      case StepKind::LineWin: LineWin(g); break;
+      case StepKind::LineLoss: LineLoss(g); break;
+      case StepKind::LineBarred: LineBarred(g); break;
+      case StepKind::MoveBet: MoveBet(g, step.bet, step.to); break;
+      case StepKind::Settle: break;
+    }
+  }
+}
+
 }  // namespace
 
 ThrowDecisions SettleTheThrow(Game& g) {
   ThrowDecisions decided;
   if (!DiceOnTheTable(g)) return decided;
   const ThrowPlan& plan = PlanFor(g.Die1, g.Die2, g.PointBeforeRoll, g.BarNumber);
+  if (g.PhantomsDeferred && !AnyMoneyOnLayout(g)) {
+    TakeOtherSteps(g, plan);
+    return decided;
+  }
   const WorkingSet atStart = g.BetStatus.Working();
-  uint32_t flipsSeen = g.BetStatus.Flips();
+  uint32_t changesSeen = g.BetStatus.Changes();
   for (int i = 0; i < plan.count; ++i) {
     const ThrowStep& step = plan.steps[i];
     switch (step.kind) {
@@ -67,8 +92,8 @@ ThrowDecisions SettleTheThrow(Game& g) {
       case StepKind::LineBarred: LineBarred(g); break;
       case StepKind::MoveBet: MoveBet(g, step.bet, step.to); break;
     }
-    if (g.PhantomsDeferred && g.BetStatus.Flips() != flipsSeen) {
-      flipsSeen = g.BetStatus.Flips();
+    if (g.PhantomsDeferred && g.BetStatus.Changes() != changesSeen) {
+      changesSeen = g.BetStatus.Changes();
       if (ChangedAhead(g, plan, i, atStart)) BookPhantomsSoFar(g, plan, i, atStart);
     }
   }

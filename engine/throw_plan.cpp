@@ -30,7 +30,9 @@ class PlanWriter {
 
  private:
   void Add(StepKind kind, Outcome outcome = kWin, int id = 0, int to = 0) {
-    plan_.steps[plan_.count++] = {kind, outcome, static_cast<uint8_t>(id), static_cast<uint8_t>(to)};
+    const ThrowStep step{kind, outcome, static_cast<uint8_t>(id), static_cast<uint8_t>(to)};
+    plan_.steps[plan_.count++] = step;
+    if (kind != StepKind::Settle) plan_.others[plan_.otherCount++] = step;
   }
   void Settle(Outcome outcome, int id) {
     if (IsWin(outcome) && bet::IsHop(id)) hopWon_[id - bet::kFirstHop] = true;

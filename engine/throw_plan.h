@@ -23,6 +23,10 @@ struct ThrowPlan {
   static constexpr int kMostSteps = 96;
   std::array<ThrowStep, kMostSteps> steps{};
   int count = 0;
+  // The steps that are not settlements (line counts, box bets moving), for
+  // a throw with no money on the layout.
+  std::array<ThrowStep, 4> others{};
+  int otherCount = 0;
 };
 
 // The point as a plan index: 0 the come-out, 1..6 the points 4..10.
