@@ -128,7 +128,7 @@ void Parlay(Game& g, int betId) {
 // The press and parlay results, told against the bet before the roll.
 void TellChange(Game& g, int betId, const char* action) {
   if (!NoticeAllowed(g, kNoticeCharges)) return;
-  const Currency change = g.BetAmount[betId] - g.BetAtRollStart[betId];
+  const Currency change = g.BetAmount[betId] - g.BetAtRollStart()[betId];
   std::string text = change > 0   ? "Bet increased by: " + Dollars(change)
                      : change < 0 ? "Bet decreased by: " + Dollars(-change)
                                   : "No change in bet amount.";
@@ -138,7 +138,7 @@ void TellChange(Game& g, int betId, const char* action) {
 // Returns the title of the result notice, or nullptr when none is due.
 const char* ApplyWon(Game& g, int betId, WonChoice choice, bool fromDialog) {
   const Currency present = g.BetAmount[betId];
-  const Currency prev = g.BetAtRollStart[betId];
+  const Currency prev = g.BetAtRollStart()[betId];
   switch (choice) {
     case WonChoice::TakeBetAndWinnings: TakeDown(g, betId); return nullptr;
     case WonChoice::SameBetTakeWinnings: PlaceAgain(g, betId, prev); return nullptr;

@@ -182,7 +182,7 @@ TEST(LostBetHandling, TheNotice) {
     w.g.HandleLosingBets = 0;
     w.g.HyperDriveOn = hyper;
     w.Stand(kPlace6, 6);
-    if (!hyper) w.g.BetAtRollStart[kPlace6] = 0;
+    if (!hyper) w.g.EditAtRollStart()[kPlace6] = 0;
     w.Dice(3, 4, 5);
     SettleBet(w.g, Outcome::Loss, kPlace6);
     EXPECT_TRUE(w.ui.notices.empty());

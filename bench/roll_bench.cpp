@@ -19,7 +19,10 @@ namespace {
 class BusyPlayer : public SilentFrontEnd {
  public:
   explicit BusyPlayer(Game& g) : g_(g) {}
-  void LetInputRun() override { KeepBusyTable(g_); }
+  bool LetInputRun() override {
+    KeepBusyTable(g_);
+    return true;
+  }
 
  private:
   Game& g_;

@@ -123,7 +123,7 @@ std::optional<std::string> HeadlessFrontEnd::AskFileName(const std::string& titl
   return path;
 }
 
-void HeadlessFrontEnd::LetInputRun() {
-  if (!stop_ || !table_ || !stop_()) return;
-  table_->Stop();
+bool HeadlessFrontEnd::LetInputRun() {
+  if (stop_ && table_ && stop_()) table_->Stop();
+  return false;  // a stop moves no bet
 }

@@ -44,7 +44,7 @@ class HeadlessFrontEnd : public FrontEnd {
     table_ = table;
     stop_ = stop;
   }
-  void LetInputRun() override;
+  bool LetInputRun() override;
 
  private:
   // The next queued reply; every dialog that asks consumes one, fitting or not.

@@ -167,7 +167,7 @@ TEST(PlaySession, AStartRefusedAtTheBankLimitSaysWhy) {
       Session s;
       Game& g = s.Staged();
       g.Bankroll() = Currency(10'000'000) * limit.sign;
-      g.BetAfterRoll[0] = g.Bankroll();  // the limit was broken by an earlier roll
+      g.EditAfterRoll()[0] = g.Bankroll();  // the limit was broken by an earlier roll
       const auto printed = s.Run(start);
       ASSERT_FALSE(printed.empty()) << start;
       EXPECT_EQ(printed.at(0).at("message").at("title"), limit.title) << start;

@@ -1,6 +1,7 @@
 #include "dice/money.h"
 
 #include <climits>
+#include <cstring>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -128,3 +129,5 @@ std::string FormatNumberWithCommas(Currency value) {
 }
 
 void PrintTo(Currency value, std::ostream* os) { *os << "$" << FormatNumberWithCommas(value); }
+
+void CopyAmounts(Currency* to, const Currency* from, size_t count) { std::memcpy(to, from, count * sizeof(Currency)); }

@@ -47,8 +47,9 @@ class FrontEnd {
   virtual void PlaySoundFile(const std::string& /*name*/) {}
   virtual void RedrawBet(int /*betId*/) {}
   virtual void RefreshTable() {}
-  // Lets queued input run during a Hyper-Drive run or an Auto-Roll wait.
-  virtual void LetInputRun() {}
+  // Lets queued input run during a Hyper-Drive run or an Auto-Roll wait;
+  // true when what ran may have changed the game.
+  virtual bool LetInputRun() { return false; }
   virtual bool IsMinimised() const { return false; }
   // The steps viewer: a pass under way opens with a banner ("Auto-Betting" or
   // "Hot-Key"), then every step shows its line and status and waits until

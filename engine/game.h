@@ -50,8 +50,14 @@ struct Game : DiceState {
   std::array<int32_t, 101> WorkOnComeOut{};  // status while no point is on
   std::array<std::array<int32_t, 101>, 2> BetStreak{};  // [1] now, [0] at the top of the roll
   std::array<Currency, 47> BetCommitted{};   // contract baseline: amounts as the dice went out
-  std::array<Currency, bet::kSlots> BetAtRollStart{};
-  std::array<Currency, bet::kSlots> BetAfterRoll{};
+  // The amounts as the dice went out (BetAtRollStart) and as the last
+  // script pass left them (BetAfterRoll). Two buffers: when nothing moved a
+  // bet between a pass and the next throw, both name one buffer and a roll
+  // copies the layout once rather than twice.
+  using Amounts = std::array<Currency, bet::kSlots>;
+  std::array<Amounts, 2> BetSnapshots{};
+  uint8_t AtRollStartIndex = 0, AfterRollIndex = 1;
+  bool BetsMovedSincePass = true;  // anything may have changed since the last pass
   std::array<float, bet::kSlots> BetX{};
   std::array<float, bet::kSlots> BetY{};
   std::array<Currency, 6> BuyVigOnBet{};     // index BetId-37
@@ -265,6 +271,21 @@ struct Game : DiceState {
   FrontEnd* Ui = &silentUi;
   GameHooks Hooks;  // set by whoever puts the game together
 
+  const Amounts& BetAtRollStart() const { return BetSnapshots[AtRollStartIndex]; }
+  const Amounts& BetAfterRoll() const { return BetSnapshots[AfterRollIndex]; }
+  Amounts& EditAtRollStart() {
+    Unshare();
+    return BetSnapshots[AtRollStartIndex];
+  }
+  Amounts& EditAfterRoll() {
+    Unshare();
+    return BetSnapshots[AfterRollIndex];
+  }
+  // One slot of both snapshots.
+  void SetSnapshotSlot(int slot, Currency amount) {
+    for (Amounts& amounts : BetSnapshots) amounts[slot] = amount;
+  }
+
   Currency& Bankroll() { return BetAmount[bet::kBankroll]; }
   Currency Bankroll() const { return BetAmount[bet::kBankroll]; }
   Currency SmallestChip() const { return BetAmount[bet::kFirstChip]; }
@@ -276,5 +297,11 @@ struct Game : DiceState {
   Game& operator=(const Game&) = delete;
 
  private:
+  void Unshare() {
+    if (AtRollStartIndex != AfterRollIndex) return;
+    AtRollStartIndex ^= 1;
+    BetSnapshots[AtRollStartIndex] = BetSnapshots[AfterRollIndex];
+  }
+
   SilentFrontEnd silentUi;
 };

@@ -42,8 +42,10 @@ void NewGame(Game& g, bool keepChipStacks) {
   // The games log takes its row before the counters are cleared.
   if (g.Hooks.GameFinished) g.Hooks.GameFinished(g);
   const Currency savedBankroll = g.Bankroll();
-  for (int id = 0; id <= bet::kLastTableBet; ++id)
-    g.BetAmount[id] = g.BetAtRollStart[id] = g.BetAfterRoll[id] = 0;
+  for (int id = 0; id <= bet::kLastTableBet; ++id) {
+    g.BetAmount[id] = 0;
+    g.SetSnapshotSlot(id, 0);
+  }
   g.BetCommitted.fill(0);
   g.GameChanged = false;
   for (int id = bet::kFirstStack; id <= bet::kLastStack; ++id) {
@@ -51,7 +53,8 @@ void NewGame(Game& g, bool keepChipStacks) {
       g.Ui->RedrawBet(id);
       continue;
     }
-    g.BetAmount[id] = g.BetAtRollStart[id] = g.BetAfterRoll[id] = 0;
+    g.BetAmount[id] = 0;
+    g.SetSnapshotSlot(id, 0);
     g.BetName[id] = id > bet::kFirstStack ? bet::StackName(id) : "";
   }
   g.Tally = {};
@@ -71,7 +74,8 @@ void NewGame(Game& g, bool keepChipStacks) {
   if (g.ReSeedNewGames) SeedRNG(g, false);
 
   const Currency bankroll = BeginningBankroll(g, savedBankroll);
-  g.BetAmount[bet::kBankroll] = g.BetAtRollStart[bet::kBankroll] = g.BetAfterRoll[bet::kBankroll] = bankroll;
+  g.BetAmount[bet::kBankroll] = bankroll;
+  g.SetSnapshotSlot(bet::kBankroll, bankroll);
   if (g.BankrollInitType != 3) g.AmountInvested = bankroll;  // type 3 keeps counting from the first start
   if (bankroll < 0) g.AllowNegativeBankroll = true;
   if (g.Hooks.BankrollSet) g.Hooks.BankrollSet(g);

@@ -85,6 +85,7 @@ void LeaveHyperDrive(Game& g) {
 void AutoRollWait(Game& g) {
   using Clock = std::chrono::steady_clock;
   const auto until = Clock::now() + std::chrono::seconds(g.AutoRollDelay);
+  g.BetsMovedSincePass = true;
   do {
     g.Ui->LetInputRun();
   } while (g.KeepRolling && Clock::now() < until);
@@ -99,13 +100,26 @@ void Finish(Game& g) {
   g.RollInProgress = false;
 }
 
+// A plain loop: the compiler would make the copy a string move, which is
+// slow to start for a few hundred bytes.
+template <typename T, size_t N>
+void CopyAll(std::array<T, N>& to, const std::array<T, N>& from) {
+  for (size_t i = 0; i < N; ++i) to[i] = from[i];
+}
+
 void TakeSnapshots(Game& g) {
   g.Settlements.Clear();
-  g.BetAtRollStart = g.BetAmount;
-  g.BetStreak[0] = g.BetStreak[1];
+  // The last pass's snapshot is the layout now unless input ran since.
+  if (g.BetsMovedSincePass) {
+    g.AtRollStartIndex = static_cast<uint8_t>(g.AfterRollIndex ^ 1);
+    CopyAmounts(g.BetSnapshots[g.AtRollStartIndex], g.BetAmount);
+  } else {
+    g.AtRollStartIndex = g.AfterRollIndex;
+  }
+  CopyAll(g.BetStreak[0], g.BetStreak[1]);
   // Reads the last roll's DiceTotal and PointBeforeRoll.
   if (g.Hooks.RollStarting) g.Hooks.RollStarting(g);
-  std::copy_n(g.BetAmount.begin(), g.BetCommitted.size(), g.BetCommitted.begin());
+  for (size_t i = 0; i < g.BetCommitted.size(); ++i) g.BetCommitted[i] = g.BetAmount[i];
   g.PointTwoRollsAgo = g.PointBeforeRoll;
   g.PointBeforeRoll = g.Point;
 }
@@ -226,12 +240,13 @@ void RollDice(Game& g) {
   }
   g.TableUsed = true;
   g.RollInProgress = true;
+  g.BetsMovedSincePass = true;  // anything may have happened since the last roll
   g.StopReason = StopReason::None;
 
   for (;;) {
     if (BelowMaxRolls(g)) Throw(g);
     if (g.HyperDriveOn) {
-      g.Ui->LetInputRun();
+      if (g.Ui->LetInputRun()) g.BetsMovedSincePass = true;
       BurnPaceLoop(g);
       if (g.KeepRolling) continue;
       LeaveHyperDrive(g);
@@ -274,13 +289,15 @@ void CheckBankLimit(Game& g) {
   Stop(g);
   if (g.HyperDriveOn) {
     g.StopReason = g.Bankroll() > 0 ? StopReason::BankLimit : StopReason::MaxLoss;
-  } else if (g.Bankroll() != g.BetAfterRoll[bet::kBankroll]) {
+  } else if (g.Bankroll() != g.BetAfterRoll()[bet::kBankroll]) {
     ShowBankLimit(g);
   }
 }
 
 void TakeScriptSnapshots(Game& g) {
-  g.BetAfterRoll = g.BetAmount;
+  g.AfterRollIndex = static_cast<uint8_t>(g.AtRollStartIndex ^ 1);
+  CopyAmounts(g.BetSnapshots[g.AfterRollIndex], g.BetAmount);
+  g.BetsMovedSincePass = false;
   for (Flag& flag : g.AutoBet.Flags) flag.FlagPrevious = flag.FlagValue;
   g.RollCountAfterPass = g.RollCounts[0];
 }

@@ -62,8 +62,8 @@ TEST_F(RollTest, StatusesAndSnapshotsFollowThePoint) {
   EXPECT_EQ(g.BetStatus[bet::Place(8)], -1);
   EXPECT_EQ(g.BetStatus[bet::kField], 1);
   EXPECT_EQ(g.BetCommitted[bet::Place(5)], 10);
-  EXPECT_EQ(g.BetAtRollStart[bet::Place(5)], 10);
-  EXPECT_EQ(g.BetAfterRoll[bet::Place(5)], 10);
+  EXPECT_EQ(g.BetAtRollStart()[bet::Place(5)], 10);
+  EXPECT_EQ(g.BetAfterRoll()[bet::Place(5)], 10);
   Roll(2, 3);
   EXPECT_EQ(g.PointTwoRollsAgo, 6);
   EXPECT_EQ(g.PointBeforeRoll, 0);

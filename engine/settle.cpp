@@ -96,7 +96,7 @@ void KeepStreak(Game& g, int betId) {
 
   if (g.NetPayoff < 0) {
     std::optional<SettleNotice> notice;
-    if (g.HandleLosingBets == 0 && g.Visible() && g.BetAtRollStart[betId] > 0)
+    if (g.HandleLosingBets == 0 && g.Visible() && g.BetAtRollStart()[betId] > 0)
       notice = LostNotice(g, betId, UnitFor(g, amount, g.Payoff[betId].Per));
     if (g.Hooks.LostBet) g.Hooks.LostBet(g, betId, notice ? &*notice : nullptr);
     return;

@@ -99,7 +99,7 @@ struct TestTable {
   }
   // A working bet that stood when the dice went out, put down past the rules.
   void Stand(int id, Currency amount) {
-    g.BetAmount[id] = g.BetAtRollStart[id] = amount;
+    g.BetAmount[id] = g.EditAtRollStart()[id] = amount;
     g.TotalOnTable += amount;
     if (id < static_cast<int>(g.BetCommitted.size())) g.BetCommitted[id] = amount;
     g.BetStatus.Set(id, 1);

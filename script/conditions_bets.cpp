@@ -83,7 +83,7 @@ Currency AverageOneRollBack(const Game& g) {
 
 Currency Now(const Game& g, const SlotRange& r, int slot) { return r.average ? AverageBankroll(g) : g.BetAmount[slot]; }
 Currency Before(const Game& g, const SlotRange& r, int slot) {
-  return r.average ? AverageOneRollBack(g) : g.BetAfterRoll[slot];
+  return r.average ? AverageOneRollBack(g) : g.BetAfterRoll()[slot];
 }
 
 // Streaks are kept for the bankroll and the table bets only.
@@ -143,7 +143,7 @@ class BetWalk {
     if (IsAmountCode(code)) {
       if (subject_.average)  // the average's "before" is negated, a behaviour kept as it is
         return {CompareValues(AverageBankroll(g_), code, a_), !CompareValues(AverageOneRollBack(g_), code, a_)};
-      return {CompareValues(g_.BetAmount[i], code, a_), CompareValues(g_.BetAfterRoll[i], code, a_)};
+      return {CompareValues(g_.BetAmount[i], code, a_), CompareValues(g_.BetAfterRoll()[i], code, a_)};
     }
     if (code == kIsNamed || code == kIsNotNamed) {
       // A name has no history: it is compared each time.
@@ -177,7 +177,7 @@ class BetWalk {
     now = before = Currency();
     for (int j = r.first; j <= r.last; ++j) {
       now += g_.BetAmount[j];
-      before += g_.BetAfterRoll[j];
+      before += g_.BetAfterRoll()[j];
     }
   }
 
@@ -188,7 +188,7 @@ class BetWalk {
     const bool group = subject_.walk == Walk::Any || subject_.walk == Walk::All;
     const bool counted = a_ != 0;
     if (group) {
-      if (!(g_.BetAfterRoll[i] <= 0 && counted)) Note(t.before);
+      if (!(g_.BetAfterRoll()[i] <= 0 && counted)) Note(t.before);
       if (g_.BetAmount[i] == 0 && counted) return true;  // an absent bet neither helps nor harms
     } else {
       Note(t.before);
@@ -233,14 +233,14 @@ Totals SumTotals(const Game& g, const SlotRange& r) {
   Totals t;
   for (int i = r.first; i <= r.last; ++i) {
     t.amountNow += g.BetAmount[i];
-    t.amountBefore += g.BetAfterRoll[i];
+    t.amountBefore += g.BetAfterRoll()[i];
     const int s = Streak(g, i), sb = StreakBefore(g, i);
     t.winsNow += Currency(s > 0 ? s : 0);
     t.winsBefore += Currency(sb > 0 ? sb : 0);
     t.lossesNow += Currency(s < 0 ? -s : 0);
     t.lossesBefore += Currency(sb < 0 ? -sb : 0);
     t.liveNow += Currency(g.BetAmount[i] > 0 ? 1 : 0);
-    t.liveBefore += Currency(g.BetAfterRoll[i] > 0 ? 1 : 0);
+    t.liveBefore += Currency(g.BetAfterRoll()[i] > 0 ? 1 : 0);
     if (g.BetAmount[i] == 0 && s != sb) t.absentBetChanged = true;
   }
   return t;

@@ -40,7 +40,7 @@ struct Scene {
   explicit Scene(int rolls = 5) { g.RollCounts[0] = g.RollCountAfterPass = rolls; }
   void Bet(int slot, Currency now, Currency before) {
     g.BetAmount[slot] = now;
-    g.BetAfterRoll[slot] = before;
+    g.EditAfterRoll()[slot] = before;
   }
   void Streak(int slot, int now, int before) {
     g.BetStreak[1][slot] = now;

@@ -32,9 +32,10 @@ class StepsFrontEnd : public RecordingFrontEnd {
   void ShowStepsBanner(const std::string& word) override { banners.push_back(word); }
   void ShowStep(int line, const std::string&, const std::string& status) override { steps.push_back({line, status}); }
   void WaitSeconds(double seconds) override { waits.push_back(seconds); }
-  void LetInputRun() override {
+  bool LetInputRun() override {
     ++yields;
     if (stopAtYield) stopAtYield->AutoBetRunning = false;
+    return false;
   }
   Reply ShowMessage(const std::string& title, const std::string& text, Buttons buttons) override {
     RecordingFrontEnd::ShowMessage(title, text, buttons);
@@ -270,7 +271,7 @@ TEST(Interpreter, TheRollRunsTheScriptAndTakesItsSnapshots) {
   EXPECT_EQ(p.Acted(), Lines{4});
   EXPECT_EQ(p.t.g.RollCountAfterPass, 1);
   EXPECT_EQ(p.t.g.AutoBet.Flags[0].FlagPrevious, -1);
-  EXPECT_EQ(p.t.g.BetAfterRoll, p.t.g.BetAmount);
+  EXPECT_EQ(p.t.g.BetAfterRoll(), p.t.g.BetAmount);
   EXPECT_EQ(p.Run(), Lines{}) << "no roll since the last pass";
 
   p.t.g.AutoBetActivated = false;

@@ -49,7 +49,7 @@ class RestlessPlayer : public SilentFrontEnd {
  public:
   RestlessPlayer(Game& g, uint64_t& digest) : g_(g), digest_(digest) {}
 
-  void LetInputRun() override {
+  bool LetInputRun() override {
     KeepBusyTable(g_);
     Note();
     if (Chance(40)) CallBet(g_, AnyBet(), Chance(2) ? kToolCallOn : kToolCallOff);
@@ -61,6 +61,7 @@ class RestlessPlayer : public SilentFrontEnd {
     if (Chance(2500)) g_.BarNumber = g_.BarNumber == 12 ? 2 : 12;
     if (Chance(3000)) g_.LayVigRate = Currency::FromRaw(Pick(0, 1000));
     if (Chance(3500)) g_.ChargeAllBuy = !g_.ChargeAllBuy;
+    return true;
   }
 
  private:

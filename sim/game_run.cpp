@@ -31,7 +31,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
   RunnerFrontEnd(Game& g, RunControl& control, int64_t index, bool stopAtRuin)
       : game_(g), control_(control), index_(index), stopAtRuin_(stopAtRuin) {}
 
-  void LetInputRun() override {
+  bool LetInputRun() override {
     const int64_t rolls = game_.RollCounts[0];
     if (control_.Series && rolls > lastRoll_) control_.Series->Add(index_, game_.Bankroll());
     lastRoll_ = rolls;
@@ -46,6 +46,7 @@ class RunnerFrontEnd : public SilentFrontEnd {
       game_.KeepRolling = false;
       game_.AutoBetRunning = false;  // a script pass that loops stops too
     }
+    return watcher_ != nullptr;  // a watcher may play the table
   }
   void RollFinished(::StopReason reason) override { stopReason_ = reason; }
 

@@ -77,12 +77,14 @@ void RunScreen::Tell(std::function<void(FrontEnd&)> notice, bool mayDrop) const 
   });
 }
 
-void RunScreen::LetInputRun() {
-  if (link_->AnyQueued()) ApplyQueued();
+bool RunScreen::LetInputRun() {
+  const bool queued = link_->AnyQueued();
+  if (queued) ApplyQueued();
   if (--untilClockCheck_ <= 0) CheckClock();
   if (!g_.HyperDriveOn) RestDuringWait();
   // Last, so that a stop that cut the rest short is heeded by this pause.
   if (link_->Stopped()) g_.KeepRolling = false;
+  return queued;
 }
 
 void RunScreen::ApplyQueued() {

@@ -48,7 +48,7 @@ class RunScreen : public FrontEnd {
   void RefreshTable() override { refresh_ = true; }
   void RollFinished(::StopReason stopReason) override { stopReason_ = stopReason; }
 
-  void LetInputRun() override;
+  bool LetInputRun() override;
   void WaitSeconds(double seconds) override;
 
   // On the worker as the run ends: the controls that came during the last

@@ -45,9 +45,9 @@ class TableRelay : public FrontEnd {
   void PlaySoundFile(const std::string& name) override { screen_->PlaySoundFile(name); }
   void RedrawBet(int betId) override { screen_->RedrawBet(betId); }
   void RefreshTable() override { screen_->RefreshTable(); }
-  void LetInputRun() override {
+  bool LetInputRun() override {
     if (watching_) afterVisibleRoll_();
-    screen_->LetInputRun();
+    return screen_->LetInputRun() || watching_;
   }
   bool IsMinimised() const override { return screen_->IsMinimised(); }
   void ShowStepsBanner(const std::string& word) override { screen_->ShowStepsBanner(word); }

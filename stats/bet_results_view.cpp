@@ -52,7 +52,7 @@ BetResultsView CombinedBetResults(const Game& g, const std::vector<int>& betIds,
     Add(s.Losses, g.BetLosses[kind][id]);
     expected += ExpectedValue(g, id, kind);
     view.CurrentWagered += g.BetAmount[id];
-    view.WageredLastRoll += g.BetAtRollStart[id];
+    view.WageredLastRoll += g.BetAtRollStart()[id];
   }
   view.TotalRolls = g.RollCounts[0];
   view.RollsPerHour = g.SimRollRate;

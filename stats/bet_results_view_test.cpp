@@ -60,7 +60,7 @@ TEST(BetResultsView, CombinedRowsAddTheSelectedBets) {
   t.g.RollCounts[0] = 50;
   t.g.SimRollRate = 100;  // half an hour
   t.g.BetAmount[place6] = 18;
-  t.g.BetAtRollStart[place8] = 6;
+  t.g.EditAtRollStart()[place8] = 6;
 
   const BetResultsView view = CombinedBetResults(t.g, {place6, place8}, kActual);
   const struct { const char* label; double wagers, wins, losses, net, percent; } rows[] = {

@@ -49,7 +49,7 @@ void Bound(Currency& v, Currency lo, Currency hi) { v = v < lo ? lo : v > hi ? h
 void Bound(Currency& v) { Bound(v, -kMostMoney, kMostMoney); }
 
 void KeepMoneyInRange(Game& g) {
-  for (auto* table : {&g.BetAmount, &g.BetAtRollStart, &g.BetAfterRoll}) {
+  for (auto* table : {&g.BetAmount, &g.EditAtRollStart(), &g.EditAfterRoll()}) {
     Currency bankroll = (*table)[bet::kBankroll];
     Bound(bankroll, -kMostBankroll, kMostBankroll);
     for (Currency& v : *table) Bound(v);

@@ -70,8 +70,8 @@ void ReadPayoffs(RecordReader& reader, std::array<PayoffRecord, N>& rows) {
 
 void WriteTableRecords(const Game& g, RecordWriter& w) {
   WriteMoneySlots(w, g.BetAmount);
-  WriteMoneySlots(w, g.BetAtRollStart);
-  WriteMoneySlots(w, g.BetAfterRoll);
+  WriteMoneySlots(w, g.BetAtRollStart());
+  WriteMoneySlots(w, g.BetAfterRoll());
   WriteCommitted(w, g.BetCommitted);
 
   FileRecord& vig = w.Add();
@@ -89,8 +89,8 @@ void WriteTableRecords(const Game& g, RecordWriter& w) {
 
 void ReadTableRecords(Game& g, RecordReader& r) {
   ReadMoneySlots(r, g.BetAmount);
-  ReadMoneySlots(r, g.BetAtRollStart);
-  ReadMoneySlots(r, g.BetAfterRoll);
+  ReadMoneySlots(r, g.EditAtRollStart());
+  ReadMoneySlots(r, g.EditAfterRoll());
   ReadCommitted(r, g.BetCommitted);
 
   const FileRecord vig = r.Next();
