@@ -102,6 +102,8 @@ void CarryOutOperator(Game& g, PassState& pass, const ScriptLine& line, const Ta
   ForEachSlot(g, range, [&](int slot) {
     const Currency b = g.BetAmount[slot];
     if (op == kBet) {
+      // The same amount again: the table's rules may let it stand as it is.
+      if (b == step.value && RestateBet(g, slot)) return;
       // Emptied through placement, so a contract bet stays where it must.
       PlaceChange(g, slot, -b);
       PlaceChange(g, slot, step.value);
