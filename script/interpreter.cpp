@@ -96,26 +96,63 @@ class Pass {
         if (!g_.AutoBetRunning) return;
         if (s_.CurrentLine > script().NumLines()) return;
       }
-      const ScriptLine& line = script().Line(s_.CurrentLine);
-      if (line.Kind == kComment) continue;
-      if (!s_.JumpLabel.empty()) {  // passing over lines to a label is not running them
-        if (line.Kind == kLabel && LabelMatches(line.Name, s_.JumpLabel)) {
-          NoteLoopLine();
-          StartLogic(line, kLabel);
-        }
-        continue;
-      }
-      NoteLoopLine();
-      if (s_.ReturnPending) {
-        ReturnToGoSub();
-        continue;
-      }
-      RunLine(line);
-      if (s_.ReturnStack.size() > kDeepestReturnStack) linesRun_ = std::max(linesRun_, kMostLinesPerPass - kLoopSample);
-      // A jump scans from the top for its label; a Return passes through the
-      // top to reach its GoSub.
-      if (!s_.JumpLabel.empty() || s_.ReturnPending) s_.CurrentLine = 0;
+      RunLineAt(script().Lines[static_cast<size_t>(s_.CurrentLine - 1)]);
+      PassOverIdleLines();
     }
+  }
+
+  void RunLineAt(const ScriptLine& line) {
+    if (line.Kind == kComment) return;
+    if (!s_.JumpLabel.empty()) {  // passing over lines to a label is not running them
+      if (line.Kind == kLabel && LabelMatches(line.Name, s_.JumpLabel)) {
+        NoteLoopLine();
+        StartLogic(line, kLabel);
+      }
+      return;
+    }
+    NoteLoopLine();
+    if (s_.ReturnPending) {
+      ReturnToGoSub();
+      return;
+    }
+    RunLine(line);
+    if (s_.ReturnStack.size() > kDeepestReturnStack) linesRun_ = std::max(linesRun_, kMostLinesPerPass - kLoopSample);
+    // A jump scans from the top for its label; a Return passes through the
+    // top to reach its GoSub.
+    if (!s_.JumpLabel.empty() || s_.ReturnPending) s_.CurrentLine = 0;
+  }
+
+  // Counts, as the loop would, the lines after the current one that can do
+  // nothing in the state the pass is in: comments; conditions of a block
+  // already decided and actions being skipped, as neither changes that
+  // state; and every line but the label a jump scans for. It stops short of
+  // the next yield and of the pass's last stretch, which the loop handles.
+  void PassOverIdleLines() {
+    if (!looping_.empty() || s_.ReturnStack.size() > kDeepestReturnStack) return;
+    const int64_t room = std::min<int64_t>(kYieldEvery - 1 - s_.LineCounter,
+                                           kMostLinesPerPass - kLoopSample - linesRun_);
+    if (room <= 0) return;
+    const std::vector<ScriptLine>& lines = script().Lines;
+    const int last = static_cast<int>(std::min<int64_t>(script().NumLines(), s_.CurrentLine + room));
+    const bool scanning = !s_.JumpLabel.empty();
+    const bool running = !scanning && !s_.ReturnPending;
+    const bool conditionsIdle = running && (s_.OverallTrue || !s_.BlockTrue);
+    const bool actionsIdle = running && ActionsSkipped();
+    int n = s_.CurrentLine;
+    for (; n < last; ++n) {
+      const ScriptLine& next = lines[static_cast<size_t>(n)];
+      const int k = next.Kind;
+      const bool idle = k == kComment || (k == kCondition && conditionsIdle) || (k == kAction && actionsIdle) ||
+                        (scanning && !(k == kLabel && LabelMatches(next.Name, s_.JumpLabel)));
+      if (!idle) break;
+    }
+    linesRun_ += n - s_.CurrentLine;
+    s_.LineCounter += n - s_.CurrentLine;
+    s_.CurrentLine = n;
+  }
+
+  bool ActionsSkipped() const {
+    return (s_.LastStart == kThen && !s_.OverallTrue) || (s_.LastStart == kElse && s_.OverallTrue);
   }
 
   void RunLine(const ScriptLine& line) {
@@ -172,8 +209,7 @@ class Pass {
   }
 
   void RunAction(const ScriptLine& line) {
-    if (s_.LastStart == kThen && !s_.OverallTrue) return;
-    if (s_.LastStart == kElse && s_.OverallTrue) return;
+    if (ActionsSkipped()) return;
     if (s_.CurrentLine > 1) {
       // A run of highest/lowest/average lines is one verb on one target.
       const ScriptLine& above = script().Line(s_.CurrentLine - 1);
