@@ -95,7 +95,7 @@ void CarryOutOperator(Game& g, PassState& pass, const ScriptLine& line, const Ta
   const int form = line.Code % 10;
   const Currency v = SourceValue(g, line);
   if (IsRunForm(form) && StartsRun(pass, form))
-    ForEachSlot(g, range, [&](int slot) { pass.RunBase[slot] = g.BetAmount[slot]; });
+    ForEachSlot(g, range, [&](int slot) { pass.RunBases()[slot] = g.BetAmount[slot]; });
   const Step step = TakeRunStep(pass, form, v);
   if (!step.acts) return;
 
@@ -109,7 +109,7 @@ void CarryOutOperator(Game& g, PassState& pass, const ScriptLine& line, const Ta
       PlaceChange(g, slot, step.value);
       return;
     }
-    const Currency base = step.fromBase ? pass.RunBase[slot] : b;
+    const Currency base = step.fromBase ? pass.RunBases()[slot] : b;
     const std::optional<Currency> amount = Operate(op, form, base, step.value);
     if (amount) PlaceChange(g, slot, CheckedAdd(*amount, -b));
   });
