@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <exception>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,7 @@
 #include "script/conditions.h"
 #include "script/clock.h"
 #include "script/jumps.h"
+#include "script/pass_plan.h"
 
 namespace {
 
@@ -83,7 +85,9 @@ class Pass {
   const Script& script() const { return g_.AutoBet; }
 
   void RunLines() {
-    for (s_.CurrentLine = 1; s_.CurrentLine <= script().NumLines(); ++s_.CurrentLine) {
+    s_.CurrentLine = 1;
+    if (!steps_) RunPlainStatements();
+    for (; s_.CurrentLine <= script().NumLines(); ++s_.CurrentLine) {
       if (++linesRun_ > kMostLinesPerPass - kLoopSample) {
         if (linesRun_ > kMostLinesPerPass) return AbortLoop();
         looping_.resize(static_cast<size_t>(script().NumLines()) + 1);
@@ -96,59 +100,78 @@ class Pass {
         if (!g_.AutoBetRunning) return;
         if (s_.CurrentLine > script().NumLines()) return;
       }
-      RunLineAt(script().Lines[static_cast<size_t>(s_.CurrentLine - 1)]);
-      PassOverIdleLines();
-    }
-  }
-
-  void RunLineAt(const ScriptLine& line) {
-    if (line.Kind == kComment) return;
-    if (!s_.JumpLabel.empty()) {  // passing over lines to a label is not running them
-      if (line.Kind == kLabel && LabelMatches(line.Name, s_.JumpLabel)) {
-        NoteLoopLine();
-        StartLogic(line, kLabel);
+      const ScriptLine& line = script().Line(s_.CurrentLine);
+      if (line.Kind == kComment) continue;
+      if (!s_.JumpLabel.empty()) {  // passing over lines to a label is not running them
+        if (line.Kind == kLabel && LabelMatches(line.Name, s_.JumpLabel)) {
+          NoteLoopLine();
+          StartLogic(line, kLabel);
+        }
+        continue;
       }
-      return;
+      NoteLoopLine();
+      if (s_.ReturnPending) {
+        ReturnToGoSub();
+        continue;
+      }
+      RunLine(line);
+      if (s_.ReturnStack.size() > kDeepestReturnStack) linesRun_ = std::max(linesRun_, kMostLinesPerPass - kLoopSample);
+      // A jump scans from the top for its label; a Return passes through the
+      // top to reach its GoSub.
+      if (!s_.JumpLabel.empty() || s_.ReturnPending) s_.CurrentLine = 0;
     }
-    NoteLoopLine();
-    if (s_.ReturnPending) {
-      ReturnToGoSub();
-      return;
-    }
-    RunLine(line);
-    if (s_.ReturnStack.size() > kDeepestReturnStack) linesRun_ = std::max(linesRun_, kMostLinesPerPass - kLoopSample);
-    // A jump scans from the top for its label; a Return passes through the
-    // top to reach its GoSub.
-    if (!s_.JumpLabel.empty() || s_.ReturnPending) s_.CurrentLine = 0;
   }
 
-  // Counts, as the loop would, the lines after the current one that can do
-  // nothing in the state the pass is in: comments; conditions of a block
-  // already decided and actions being skipped, as neither changes that
-  // state; and every line but the label a jump scans for. It stops short of
-  // the next yield and of the pass's last stretch, which the loop handles.
-  void PassOverIdleLines() {
-    if (!looping_.empty() || s_.ReturnStack.size() > kDeepestReturnStack) return;
-    const int64_t room = std::min<int64_t>(kYieldEvery - 1 - s_.LineCounter,
-                                           kMostLinesPerPass - kLoopSample - linesRun_);
-    if (room <= 0) return;
+  // A script of plain statements runs each line the loop above would run, in
+  // its order, with the same handlers; only the lines it would pass over
+  // untouched (comments, labels, conditions after the block is decided,
+  // skipped actions) are not looked at. No jump means no line runs twice, so
+  // the loop's counts never reach a yield. Leaves CurrentLine at the line
+  // the loop is to go on from: past the end, or after an action that
+  // replaced the script.
+  void RunPlainStatements() {
     const std::vector<ScriptLine>& lines = script().Lines;
-    const int last = static_cast<int>(std::min<int64_t>(script().NumLines(), s_.CurrentLine + room));
-    const bool scanning = !s_.JumpLabel.empty();
-    const bool running = !scanning && !s_.ReturnPending;
-    const bool conditionsIdle = running && (s_.OverallTrue || !s_.BlockTrue);
-    const bool actionsIdle = running && ActionsSkipped();
-    int n = s_.CurrentLine;
-    for (; n < last; ++n) {
-      const ScriptLine& next = lines[static_cast<size_t>(n)];
-      const int k = next.Kind;
-      const bool idle = k == kComment || (k == kCondition && conditionsIdle) || (k == kAction && actionsIdle) ||
-                        (scanning && !(k == kLabel && LabelMatches(next.Name, s_.JumpLabel)));
-      if (!idle) break;
+    if (!g_.AutoBet.Plan || !PlanFits(*g_.AutoBet.Plan, lines))
+      g_.AutoBet.Plan = std::make_shared<const ScriptPlan>(PlanScript(lines, kYieldEvery - 1));
+    const ScriptPlan& plan = *g_.AutoBet.Plan;
+    if (!plan.Plain) return;
+    const ScriptLine* const first = lines.data();
+    const size_t count = lines.size();
+    // Whether the script still stands as planned after an action.
+    auto stands = [&] { return g_.AutoBet.Plan.get() == &plan && lines.data() == first && lines.size() == count; };
+    auto lineAt = [&](int32_t n) -> const ScriptLine& { return first[n - 1]; };
+    auto runActions = [&](int32_t from, int32_t to) {
+      for (int32_t i = from; i < to && !ActionsSkipped(); ++i) {
+        s_.CurrentLine = plan.Lines[static_cast<size_t>(i)];
+        RunAction(lineAt(s_.CurrentLine));
+        if (!stands()) return false;
+      }
+      return true;
+    };
+    for (const PlannedStatement& st : plan.Statements) {
+      s_.CurrentLine = st.Start;
+      RunLine(lineAt(st.Start));
+      for (int32_t i = st.FirstCondition; i < st.FirstThenAction && !s_.OverallTrue && s_.BlockTrue; ++i) {
+        s_.CurrentLine = plan.Lines[static_cast<size_t>(i)];
+        RunCondition(lineAt(s_.CurrentLine));
+      }
+      if (st.Then != 0) {
+        s_.CurrentLine = st.Then;
+        RunLine(lineAt(st.Then));
+      }
+      if (!runActions(st.FirstThenAction, st.FirstElseAction)) return Resume();
+      if (st.Else == 0) continue;
+      s_.CurrentLine = st.Else;
+      RunLine(lineAt(st.Else));
+      if (!runActions(st.FirstElseAction, st.End)) return Resume();
     }
-    linesRun_ += n - s_.CurrentLine;
-    s_.LineCounter += n - s_.CurrentLine;
-    s_.CurrentLine = n;
+    s_.CurrentLine = script().NumLines() + 1;
+  }
+
+  // The loop goes on after the current line as if it had run every line so far.
+  void Resume() {
+    linesRun_ = s_.LineCounter = s_.CurrentLine;
+    ++s_.CurrentLine;
   }
 
   bool ActionsSkipped() const {
