@@ -150,19 +150,27 @@ class Pass {
     };
     for (const PlannedStatement& st : plan.Statements) {
       s_.CurrentLine = st.Start;
-      RunLine(lineAt(st.Start));
+      const ScriptLine& start = lineAt(st.Start);
+      if (start.Kind != kDoThis) {  // as RunLine opens a When or While, with nothing to show
+        s_.OverallTrue = false;
+        s_.PreviousTrue = false;
+        s_.BlockTrue = true;
+      }
+      s_.LastStart = start.Kind;
+      s_.BlockJustNow = false;
       for (int32_t i = st.FirstCondition; i < st.FirstThenAction && !s_.OverallTrue && s_.BlockTrue; ++i) {
         s_.CurrentLine = plan.Lines[static_cast<size_t>(i)];
         RunCondition(lineAt(s_.CurrentLine));
       }
       if (st.Then != 0) {
         s_.CurrentLine = st.Then;
-        RunLine(lineAt(st.Then));
+        FinishBlock(lineAt(st.Then));
       }
       if (!runActions(st.FirstThenAction, st.FirstElseAction)) return Resume();
       if (st.Else == 0) continue;
       s_.CurrentLine = st.Else;
-      RunLine(lineAt(st.Else));
+      s_.LastStart = kElse;  // as StartLogic opens an Else
+      s_.BlockJustNow = false;
       if (!runActions(st.FirstElseAction, st.End)) return Resume();
     }
     s_.CurrentLine = script().NumLines() + 1;

@@ -18,9 +18,7 @@ bool MeansAllTheNumbers(const ScriptLine& line) {
 
 }  // namespace
 
-TargetRange FindTargetRange(const Game& g, const ScriptLine& line) {
-  // Worked in locals and put together once: a record filled field by field
-  // and then returned stalls the reads of it.
+void FindTargetRange(const Game& g, const ScriptLine& line, TargetRange& range) {
   const int target = line.Target;
   int first = 1, last = 0;
   auto slots = [&](int from, int to) {
@@ -56,8 +54,10 @@ TargetRange FindTargetRange(const Game& g, const ScriptLine& line) {
   } else if (target > kDiceEvents && target - kDiceEvents <= kLastEvent) {
     slots(target - kDiceEvents, target - kDiceEvents);
   }
-  const bool placeGuard = target == kPlaceBets || target == kInsidePlace || target == kOutsidePlace;
-  return TargetRange{first, last, target == kOutsidePlace, placeGuard};
+  range.first = first;
+  range.last = last;
+  range.outsidePlace = target == kOutsidePlace;
+  range.placeGuard = target == kPlaceBets || target == kInsidePlace || target == kOutsidePlace;
 }
 
 bool SkipsSlot(const Game& g, const TargetRange& range, int slot) {
