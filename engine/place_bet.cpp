@@ -263,7 +263,8 @@ void PlaceStack(Game& g, int id) {
     change = -kStackLimit - bet;
     g.MsgText = limit_notice::MinimumStack(-kStackLimit);
   }
-  ShowPendingNotice(g, bet::StackName(id), true, change == 0);
+  // The title is built only for a notice: most changes have none.
+  if (!g.MsgText.empty()) ShowPendingNotice(g, bet::StackName(id), true, change == 0);
   g.BetAmount[id] += change;
   g.BetChangeAllowed = change;
 }

@@ -101,11 +101,16 @@ class Pass {
         if (s_.CurrentLine > script().NumLines()) return;
       }
       const ScriptLine& line = script().Line(s_.CurrentLine);
-      if (line.Kind == kComment) continue;
+      if (line.Kind == kComment) {
+        if (!s_.JumpLabel.empty()) ScanForLabel();
+        continue;
+      }
       if (!s_.JumpLabel.empty()) {  // passing over lines to a label is not running them
         if (line.Kind == kLabel && LabelMatches(line.Name, s_.JumpLabel)) {
           NoteLoopLine();
           StartLogic(line, kLabel);
+        } else {
+          ScanForLabel();
         }
         continue;
       }
@@ -174,6 +179,26 @@ class Pass {
       if (!runActions(st.FirstElseAction, st.End)) return Resume();
     }
     s_.CurrentLine = script().NumLines() + 1;
+  }
+
+  // Passes over the lines after the current one up to the label a jump looks
+  // for, counting them as the loop would, short of the next yield and of the
+  // pass's last stretch, which the loop sees to itself.
+  void ScanForLabel() {
+    if (!looping_.empty()) return;
+    const int64_t room =
+        std::min<int64_t>(kYieldEvery - 1 - s_.LineCounter, kMostLinesPerPass - kLoopSample - linesRun_);
+    const std::vector<ScriptLine>& lines = script().Lines;
+    const int last = static_cast<int>(std::min<int64_t>(script().NumLines(), s_.CurrentLine + std::max<int64_t>(room, 0)));
+    int n = s_.CurrentLine;
+    while (n < last) {
+      const ScriptLine& next = lines[static_cast<size_t>(n)];
+      if (next.Kind == kLabel && LabelMatches(next.Name, s_.JumpLabel)) break;
+      ++n;
+    }
+    linesRun_ += n - s_.CurrentLine;
+    s_.LineCounter += n - s_.CurrentLine;
+    s_.CurrentLine = n;
   }
 
   // The loop goes on after the current line as if it had run every line so far.
