@@ -154,14 +154,15 @@ class Pass {
       return true;
     };
     for (const PlannedStatement& st : plan.Statements) {
+      // The statement's own lines are not read: the plan knows their kinds,
+      // and with no steps shown there is nothing of them to show.
       s_.CurrentLine = st.Start;
-      const ScriptLine& start = lineAt(st.Start);
-      if (start.Kind != kDoThis) {  // as RunLine opens a When or While, with nothing to show
+      if (st.StartKind != kDoThis) {  // as RunLine opens a When or While
         s_.OverallTrue = false;
         s_.PreviousTrue = false;
         s_.BlockTrue = true;
       }
-      s_.LastStart = start.Kind;
+      s_.LastStart = st.StartKind;
       s_.BlockJustNow = false;
       for (int32_t i = st.FirstCondition; i < st.FirstThenAction && !s_.OverallTrue && s_.BlockTrue; ++i) {
         s_.CurrentLine = plan.Lines[static_cast<size_t>(i)];
@@ -169,7 +170,7 @@ class Pass {
       }
       if (st.Then != 0) {
         s_.CurrentLine = st.Then;
-        FinishBlock(lineAt(st.Then));
+        FinishPlainBlock();
       }
       if (!runActions(st.FirstThenAction, st.FirstElseAction)) return Resume();
       if (st.Else == 0) continue;
@@ -199,6 +200,17 @@ class Pass {
     linesRun_ += n - s_.CurrentLine;
     s_.LineCounter += n - s_.CurrentLine;
     s_.CurrentLine = n;
+  }
+
+  // FinishBlock at the Then of a plain statement: no xor is pending, no "and"
+  // follows, and nothing is shown.
+  void FinishPlainBlock() {
+    if (s_.BlockTrue && !s_.BlockJustNow && IsWhenGroup(s_.LastStart)) s_.BlockTrue = false;
+    s_.PreviousTrue = s_.BlockTrue;
+    s_.PendingXor = 0;
+    if (s_.PreviousTrue) s_.OverallTrue = true;
+    s_.LastStart = kThen;  // as StartLogic opens the actions
+    s_.BlockJustNow = false;
   }
 
   // The loop goes on after the current line as if it had run every line so far.

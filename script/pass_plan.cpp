@@ -51,6 +51,7 @@ class Planner {
     s.Start = Number();
     const int start = Kind();
     if (start != kWhen && start != kWhile && start != kDoThis) return false;
+    s.StartKind = start;
     ++next_;
     s.FirstCondition = Planned();
     if (start != kDoThis) {

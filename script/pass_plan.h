@@ -12,6 +12,7 @@
 #include "engine/script.h"
 
 struct PlannedStatement {
+  int32_t StartKind = 0;  // When, While or Do this
   int32_t Start = 0;  // line numbers of the When, While or Do this,
   int32_t Then = 0;   // of its Then (0 after Do this)
   int32_t Else = 0;   // and of its Else (0 when none)
