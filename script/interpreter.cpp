@@ -187,10 +187,10 @@ class Pass {
   // pass's last stretch, which the loop sees to itself.
   void ScanForLabel() {
     if (!looping_.empty()) return;
-    const int64_t room =
-        std::min<int64_t>(kYieldEvery - 1 - s_.LineCounter, kMostLinesPerPass - kLoopSample - linesRun_);
+    const int64_t room = std::max<int64_t>(
+        0, std::min<int64_t>(kYieldEvery - 1 - s_.LineCounter, kMostLinesPerPass - kLoopSample - linesRun_));
     const std::vector<ScriptLine>& lines = script().Lines;
-    const int last = static_cast<int>(std::min<int64_t>(script().NumLines(), s_.CurrentLine + std::max<int64_t>(room, 0)));
+    const int last = static_cast<int>(std::min<int64_t>(script().NumLines(), s_.CurrentLine + room));
     int n = s_.CurrentLine;
     while (n < last) {
       const ScriptLine& next = lines[static_cast<size_t>(n)];
