@@ -263,7 +263,8 @@ void PlaceStack(Game& g, int id) {
     change = -kStackLimit - bet;
     g.MsgText = limit_notice::MinimumStack(-kStackLimit);
   }
-  ShowPendingNotice(g, bet::StackName(id), true, change == 0);
+  // The title is built only for a notice: most changes have none.
+  if (!g.MsgText.empty()) ShowPendingNotice(g, bet::StackName(id), true, change == 0);
   g.BetAmount[id] += change;
   g.BetChangeAllowed = change;
 }
@@ -320,6 +321,52 @@ void PlaceBetOnTable(Game& g, int betId) {
     SetBetToMaximum(g, oddsId);
     g.BetChangeAllowed = made;  // the caller asked about its own bet
   }
+}
+
+namespace {
+
+// Bets whose take-down and put-back no contract, odds or vig rule reads: the
+// Place bets, the Field and the bets after it, and the line bets before a
+// point holds them. Taking one down always goes through whole.
+bool RestatesPlainly(const Game& g, int id) {
+  if (bet::IsPlace(id) || (id >= bet::kField && id <= bet::kLastTableBet)) return true;
+  return (id == bet::kPassLine || id == bet::kDontPass) && g.Point == 0;
+}
+
+// Whether putting `amount` on the empty bet goes through as asked: whole
+// chips, within the limits, already paying whole, and within the bankroll.
+bool PutsBackAsAsked(Game& g, int id, Currency amount) {
+  return RoundChangeToChips(amount, Chip(g)) == amount && amount >= BetMinimum(g, id) &&
+         amount <= GetBetMaximum(g, id) && AdjustBet(g, id, amount) == amount &&
+         (g.AllowNegativeBankroll || g.TotalOnTable + amount <= g.Bankroll());
+}
+
+}  // namespace
+
+bool RestateBet(Game& g, int betId) {
+  if (betId < bet::kFirstTableBet || betId > bet::kLastTableBet || !RestatesPlainly(g, betId)) return false;
+  const Currency amount = g.BetAmount[betId];
+  if (amount <= 0) return false;
+  // The take-down, as the placement leaves it.
+  g.MsgText.clear();
+  g.MsgTitle.clear();
+  g.BetChange = -amount;
+  g.BetAmount[betId] = 0;
+  g.TotalOnTable -= amount;
+  SetBetStatusDefault(g, betId);
+  g.BetChangeAllowed = -amount;
+  g.GameChanged = true;
+  g.Ui->RedrawBet(betId);
+  g.BetChange = amount;
+  if (!PutsBackAsAsked(g, betId, amount)) {
+    PlaceBetOnTable(g, betId);  // some rule has a say: the table decides
+    return true;
+  }
+  g.BetAmount[betId] = amount;
+  g.TotalOnTable += amount;
+  g.BetChangeAllowed = amount;
+  g.Ui->RedrawBet(betId);
+  return true;
 }
 
 void SetBetToMaximum(Game& g, int betId) {

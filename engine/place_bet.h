@@ -24,3 +24,8 @@ Currency GetBetMaximum(const Game& g, int betId);
 void SetBetToMaximum(Game& g, int betId);
 // Removes a bet through the normal placement path.
 void TakeDownBet(Game& g, int betId);
+// Takes a table bet down and puts its amount back, leaving the table exactly
+// as those two PlaceBetOnTable calls would, without walking the rules twice.
+// Returns false, having changed nothing, for a bet that a contract, odds or
+// vig rule governs, or that is not up: those go through the two placements.
+bool RestateBet(Game& g, int betId);

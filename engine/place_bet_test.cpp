@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <string>
+#include <vector>
+
 #include "engine/notices.h"
 #include "engine/table_for_test.h"
 
@@ -269,6 +273,76 @@ TEST(PlaceBetOnTable, AutomaticOddsAndSetBetToMaximum) {
   TakeDownBet(u.g, bet::kPassOdds);
   EXPECT_EQ(u.g.BetAmount[bet::kPassOdds], 0);
   EXPECT_EQ(u.g.TotalOnTable, 10);
+}
+
+// What a placement may leave behind, for comparing two ways of making it.
+struct PlacementTrace {
+  std::array<Currency, bet::kSlots> amounts;
+  std::array<int32_t, bet::kLastTableBet + 1> status;
+  Currency total, change, allowed;
+  std::string text, title;
+  bool changed;
+  std::vector<int> redrawn;
+  std::vector<RecordedMessage> messages;
+  bool operator==(const PlacementTrace&) const = default;
+};
+
+PlacementTrace Trace(const TestTable& t) {
+  PlacementTrace r{{}, {}, t.g.TotalOnTable, t.g.BetChange, t.g.BetChangeAllowed, t.g.MsgText, t.g.MsgTitle,
+                   t.g.GameChanged, t.ui.redrawn, t.ui.messages};
+  for (int id = 0; id < bet::kSlots; ++id) r.amounts[static_cast<size_t>(id)] = t.g.BetAmount[id];
+  for (int id = 0; id <= bet::kLastTableBet; ++id) r.status[static_cast<size_t>(id)] = t.g.BetStatus[id];
+  return r;
+}
+
+TEST(RestateBet, EndsAsTakingDownAndPuttingBackWould) {
+  const struct {
+    int betId, point;
+    double amount;
+    int adjustMode;
+    double maximum, bankroll;
+    bool restated;
+  } cases[] = {
+      {bet::Place(6), 6, 12, 0, 1000, 500, true},      // an Off bet comes back working
+      {bet::Place(6), 0, 12, 1, 1000, 500, true},      // back to its come-out default
+      {bet::kField, 8, 10, 1, 1000, 500, true},
+      {bet::kPassLine, 0, 10, 0, 1000, 500, true},
+      {bet::kHard4, 5, 50, 0, 1000, 500, true},        // above what the payoff limit allows
+      {bet::Place(6), 6, 7.5, 0, 1000, 500, true},     // not whole chips
+      {bet::Place(5), 6, 7, 1, 1000, 500, true},       // does not pay whole
+      {bet::Place(6), 6, 3, 0, 1000, 500, true},       // below the table minimum
+      {bet::Place(6), 6, 12, 0, 10, 500, true},        // above a lowered maximum
+      {bet::Place(6), 6, 12, 0, 1000, 5, true},        // more than the bankroll holds
+      {bet::kPassLine, 6, 10, 0, 1000, 500, false},    // held by its contract
+      {bet::kDontPass, 6, 10, 0, 1000, 500, false},
+      {bet::Buy(4), 6, 20, 0, 1000, 500, false},       // vig
+      {bet::ComeOdds(6), 6, 10, 0, 1000, 500, false},  // odds
+      {bet::kField, 6, 0, 0, 1000, 500, false},        // nothing up
+  };
+  for (const auto& c : cases) {
+    TestTable t, twin;
+    for (TestTable* table : {&t, &twin}) {
+      table->SetPoint(c.point);
+      Game& g = table->g;
+      g.AllowNegativeBankroll = false;
+      g.AutoAdjustMode = c.adjustMode;
+      g.MaxPropBetPayoff = 1000;
+      g.TableMinimum = 5;
+      table->Stand(c.betId, Currency::FromDouble(c.amount));
+      g.BetStatus[c.betId] = 2;
+      g.TableMaximum = Currency::FromDouble(c.maximum);
+      g.Bankroll() = Currency::FromDouble(c.bankroll);
+      g.MsgText = "left over";
+    }
+    EXPECT_EQ(RestateBet(t.g, c.betId), c.restated) << c.betId;
+    if (c.restated) {
+      for (const Currency change : {-twin.g.BetAmount[c.betId], twin.g.BetAmount[c.betId]}) {
+        twin.g.BetChange = change;
+        PlaceBetOnTable(twin.g, c.betId);
+      }
+    }
+    EXPECT_EQ(Trace(t), Trace(twin)) << c.betId << " " << c.amount;
+  }
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -19,11 +20,16 @@ struct Flag {
 
 constexpr int kChipStackNames = 100;  // Chip-Stack numbers 0..99
 
+struct ScriptPlan;
+
 struct Script {
   std::vector<ScriptLine> Lines;  // Lines[0] is line 1
   std::vector<Flag> Flags;        // Flags[0] is flag 1
   std::array<std::string, kChipStackNames> ChipStackNames{};
   std::string FileName;           // the file the script was last opened from or saved to
+  // How a pass walks the lines, worked out from them by the interpreter and
+  // checked against them on every pass; shared by copies, never changed.
+  std::shared_ptr<const ScriptPlan> Plan;
 
   int NumLines() const { return static_cast<int>(Lines.size()); }
   ScriptLine& Line(int n) { return Lines.at(static_cast<size_t>(n - 1)); }

@@ -5,7 +5,8 @@
 
 void CarryOutAction(Game& g, PassState& pass, const ScriptLine& line) {
   if (CarryOutJump(pass, line)) return;
-  const TargetRange range = FindTargetRange(g, line);
+  TargetRange range;
+  FindTargetRange(g, line, range);
   if (CarryOutAmountVerb(g, pass, line, range)) return;
   if (CarryOutTableVerb(g, line, range)) return;
   if (CarryOutMessageVerb(g, pass, line, range)) return;

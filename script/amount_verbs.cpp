@@ -95,19 +95,21 @@ void CarryOutOperator(Game& g, PassState& pass, const ScriptLine& line, const Ta
   const int form = line.Code % 10;
   const Currency v = SourceValue(g, line);
   if (IsRunForm(form) && StartsRun(pass, form))
-    ForEachSlot(g, range, [&](int slot) { pass.RunBase[slot] = g.BetAmount[slot]; });
+    ForEachSlot(g, range, [&](int slot) { pass.RunBases()[slot] = g.BetAmount[slot]; });
   const Step step = TakeRunStep(pass, form, v);
   if (!step.acts) return;
 
   ForEachSlot(g, range, [&](int slot) {
     const Currency b = g.BetAmount[slot];
     if (op == kBet) {
+      // The same amount again: the table's rules may let it stand as it is.
+      if (b == step.value && RestateBet(g, slot)) return;
       // Emptied through placement, so a contract bet stays where it must.
       PlaceChange(g, slot, -b);
       PlaceChange(g, slot, step.value);
       return;
     }
-    const Currency base = step.fromBase ? pass.RunBase[slot] : b;
+    const Currency base = step.fromBase ? pass.RunBases()[slot] : b;
     const std::optional<Currency> amount = Operate(op, form, base, step.value);
     if (amount) PlaceChange(g, slot, CheckedAdd(*amount, -b));
   });

@@ -289,8 +289,22 @@ Truth TotalTruth(const Game& g, const ScriptLine& line, const Totals& t, Currenc
   return {};
 }
 
+// The bets that stand, now and before: all that a count of a Total needs.
+Totals CountLive(const Game& g, const SlotRange& r) {
+  Totals t;
+  int now = 0, before = 0;
+  for (int i = r.first; i <= r.last; ++i) {
+    now += g.BetAmount[i] > 0 ? 1 : 0;
+    before += g.BetAfterRoll[i] > 0 ? 1 : 0;
+  }
+  t.liveNow = Currency(now);
+  t.liveBefore = Currency(before);
+  return t;
+}
+
 void EvaluateTotal(const Game& g, PassState& pass, const ScriptLine& line, Currency amount, const SlotRange& r) {
-  const Truth t = TotalTruth(g, line, SumTotals(g, r), amount);
+  const Totals sums = comparison::OfCount(line.Code) ? CountLive(g, r) : SumTotals(g, r);
+  const Truth t = TotalTruth(g, line, sums, amount);
   pass.BlockTrue = t.now;
   pass.LineJustNow = t.now && (!t.before || g.RollCounts[0] == 0);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <exception>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,7 @@
 #include "script/conditions.h"
 #include "script/clock.h"
 #include "script/jumps.h"
+#include "script/pass_plan.h"
 
 namespace {
 
@@ -83,7 +85,9 @@ class Pass {
   const Script& script() const { return g_.AutoBet; }
 
   void RunLines() {
-    for (s_.CurrentLine = 1; s_.CurrentLine <= script().NumLines(); ++s_.CurrentLine) {
+    s_.CurrentLine = 1;
+    if (!steps_) RunPlainStatements();
+    for (; s_.CurrentLine <= script().NumLines(); ++s_.CurrentLine) {
       if (++linesRun_ > kMostLinesPerPass - kLoopSample) {
         if (linesRun_ > kMostLinesPerPass) return AbortLoop();
         looping_.resize(static_cast<size_t>(script().NumLines()) + 1);
@@ -97,11 +101,16 @@ class Pass {
         if (s_.CurrentLine > script().NumLines()) return;
       }
       const ScriptLine& line = script().Line(s_.CurrentLine);
-      if (line.Kind == kComment) continue;
+      if (line.Kind == kComment) {
+        if (!s_.JumpLabel.empty()) ScanForLabel();
+        continue;
+      }
       if (!s_.JumpLabel.empty()) {  // passing over lines to a label is not running them
         if (line.Kind == kLabel && LabelMatches(line.Name, s_.JumpLabel)) {
           NoteLoopLine();
           StartLogic(line, kLabel);
+        } else {
+          ScanForLabel();
         }
         continue;
       }
@@ -116,6 +125,102 @@ class Pass {
       // top to reach its GoSub.
       if (!s_.JumpLabel.empty() || s_.ReturnPending) s_.CurrentLine = 0;
     }
+  }
+
+  // A script of plain statements runs each line the loop above would run, in
+  // its order, with the same handlers; only the lines it would pass over
+  // untouched (comments, labels, conditions after the block is decided,
+  // skipped actions) are not looked at. No jump means no line runs twice, so
+  // the loop's counts never reach a yield. Leaves CurrentLine at the line
+  // the loop is to go on from: past the end, or after an action that
+  // replaced the script.
+  void RunPlainStatements() {
+    const std::vector<ScriptLine>& lines = script().Lines;
+    if (!g_.AutoBet.Plan || !PlanFits(*g_.AutoBet.Plan, lines))
+      g_.AutoBet.Plan = std::make_shared<const ScriptPlan>(PlanScript(lines, kYieldEvery - 1));
+    const ScriptPlan& plan = *g_.AutoBet.Plan;
+    if (!plan.Plain) return;
+    const ScriptLine* const first = lines.data();
+    const size_t count = lines.size();
+    // Whether the script still stands as planned after an action.
+    auto stands = [&] { return g_.AutoBet.Plan.get() == &plan && lines.data() == first && lines.size() == count; };
+    auto lineAt = [&](int32_t n) -> const ScriptLine& { return first[n - 1]; };
+    auto runActions = [&](int32_t from, int32_t to) {
+      for (int32_t i = from; i < to && !ActionsSkipped(); ++i) {
+        s_.CurrentLine = plan.Lines[static_cast<size_t>(i)];
+        RunAction(lineAt(s_.CurrentLine));
+        if (!stands()) return false;
+      }
+      return true;
+    };
+    for (const PlannedStatement& st : plan.Statements) {
+      // The statement's own lines are not read: the plan knows their kinds,
+      // and with no steps shown there is nothing of them to show.
+      s_.CurrentLine = st.Start;
+      if (st.StartKind != kDoThis) {  // as RunLine opens a When or While
+        s_.OverallTrue = false;
+        s_.PreviousTrue = false;
+        s_.BlockTrue = true;
+      }
+      s_.LastStart = st.StartKind;
+      s_.BlockJustNow = false;
+      for (int32_t i = st.FirstCondition; i < st.FirstThenAction && !s_.OverallTrue && s_.BlockTrue; ++i) {
+        s_.CurrentLine = plan.Lines[static_cast<size_t>(i)];
+        RunCondition(lineAt(s_.CurrentLine));
+      }
+      if (st.Then != 0) {
+        s_.CurrentLine = st.Then;
+        FinishPlainBlock();
+      }
+      if (!runActions(st.FirstThenAction, st.FirstElseAction)) return Resume();
+      if (st.Else == 0) continue;
+      s_.CurrentLine = st.Else;
+      s_.LastStart = kElse;  // as StartLogic opens an Else
+      s_.BlockJustNow = false;
+      if (!runActions(st.FirstElseAction, st.End)) return Resume();
+    }
+    s_.CurrentLine = script().NumLines() + 1;
+  }
+
+  // Passes over the lines after the current one up to the label a jump looks
+  // for, counting them as the loop would, short of the next yield and of the
+  // pass's last stretch, which the loop sees to itself.
+  void ScanForLabel() {
+    if (!looping_.empty()) return;
+    const int64_t room = std::max<int64_t>(
+        0, std::min<int64_t>(kYieldEvery - 1 - s_.LineCounter, kMostLinesPerPass - kLoopSample - linesRun_));
+    const std::vector<ScriptLine>& lines = script().Lines;
+    const int last = static_cast<int>(std::min<int64_t>(script().NumLines(), s_.CurrentLine + room));
+    int n = s_.CurrentLine;
+    while (n < last) {
+      const ScriptLine& next = lines[static_cast<size_t>(n)];
+      if (next.Kind == kLabel && LabelMatches(next.Name, s_.JumpLabel)) break;
+      ++n;
+    }
+    linesRun_ += n - s_.CurrentLine;
+    s_.LineCounter += n - s_.CurrentLine;
+    s_.CurrentLine = n;
+  }
+
+  // FinishBlock at the Then of a plain statement: no xor is pending, no "and"
+  // follows, and nothing is shown.
+  void FinishPlainBlock() {
+    if (s_.BlockTrue && !s_.BlockJustNow && IsWhenGroup(s_.LastStart)) s_.BlockTrue = false;
+    s_.PreviousTrue = s_.BlockTrue;
+    s_.PendingXor = 0;
+    if (s_.PreviousTrue) s_.OverallTrue = true;
+    s_.LastStart = kThen;  // as StartLogic opens the actions
+    s_.BlockJustNow = false;
+  }
+
+  // The loop goes on after the current line as if it had run every line so far.
+  void Resume() {
+    linesRun_ = s_.LineCounter = s_.CurrentLine;
+    ++s_.CurrentLine;
+  }
+
+  bool ActionsSkipped() const {
+    return (s_.LastStart == kThen && !s_.OverallTrue) || (s_.LastStart == kElse && s_.OverallTrue);
   }
 
   void RunLine(const ScriptLine& line) {
@@ -172,8 +277,7 @@ class Pass {
   }
 
   void RunAction(const ScriptLine& line) {
-    if (s_.LastStart == kThen && !s_.OverallTrue) return;
-    if (s_.LastStart == kElse && s_.OverallTrue) return;
+    if (ActionsSkipped()) return;
     if (s_.CurrentLine > 1) {
       // A run of highest/lowest/average lines is one verb on one target.
       const ScriptLine& above = script().Line(s_.CurrentLine - 1);

@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <string>
 #include <vector>
 
 #include "engine/notices.h"
 #include "engine/table_for_test.h"
 #include "script/jumps.h"
+#include "script/pass_plan.h"
 #include "script/script_for_test.h"
 
 namespace {
@@ -303,6 +305,78 @@ TEST(Interpreter, TheInitialCycleIsOfferedOnceAChangedScriptMeetsTheTable) {
     EXPECT_EQ(p.Acted(), answer == Reply::Yes ? Lines{4} : Lines{});
     EXPECT_EQ(p.t.g.AutoBet.Flags[0].FlagPrevious, answer == Reply::Yes ? -1 : 0);
   }
+}
+
+// Marks its own line number as run: sets the flag of that name.
+ScriptLine Mark(int line) {
+  ScriptLine l = Line(kAction, verb::kSetFlag, std::to_string(line));
+  l.LineAmount = -1;
+  return l;
+}
+
+// The lines whose marks a pass set, the steps viewer showing (line by line)
+// or in Hyper-Drive (from the plan when the script is plain statements).
+Lines MarkedBy(const std::vector<ScriptLine>& lines, bool a, bool aFresh, bool b, bool hyper, bool& plain) {
+  Pass p(lines);
+  p.t.g.ShowingSteps = !hyper;
+  p.t.g.HyperDriveOn = hyper;
+  RebuildFlags(p.t.g.AutoBet);
+  p.Flag("a", a, aFresh);
+  p.Flag("b", b);
+  RunAutoBet(p.t.g);
+  plain = p.t.g.AutoBet.Plan && p.t.g.AutoBet.Plan->Plain;
+  Lines marked;
+  for (const ::Flag& f : p.t.g.AutoBet.Flags)
+    if (f.FlagValue != 0 && f.FlagName != "a" && f.FlagName != "b") marked.push_back(std::stoi(f.FlagName));
+  return marked;
+}
+
+TEST(Interpreter, PlainStatementsRunAsTheLoopRunsThem) {
+  const ScriptLine note = Line(kComment, 0, "'note");
+  const struct {
+    std::vector<ScriptLine> lines;
+    bool plain;
+  } scripts[] = {
+      {{Line(kWhen), FlagIsTrue("a"), Line(kThen), Mark(4), Line(kElse), Mark(6), Line(kDoThis), Mark(8)}, true},
+      {{note, Line(kWhile), FlagIsTrue("a"), note, FlagIsTrue("b"), Line(kThen), Label("x"), Mark(7), Mark(8),
+        Line(kElse), note, Mark(11)},
+       true},
+      {{Line(kDoThis), Mark(2), Line(kWhen), Line(kThen), Mark(5), Line(kWhile), Line(kThen), Mark(8)}, true},
+      {{Line(kWhen), FlagIsTrue("a"), Line(kAndWhen), FlagIsTrue("b"), Line(kThen), Mark(6)}, false},
+      {{Mark(1), Line(kWhile), FlagIsTrue("a"), Line(kThen), Mark(5)}, false},
+      {{Line(kWhile), FlagIsTrue("b"), Line(kThen), GoTo("x"), Mark(5), Label("x"), Mark(7)}, false},
+      {{Line(kDoThis), Mark(2), Line(kElse), Mark(4)}, false},
+      {{Line(kAndWhen), FlagIsTrue("a"), Line(kThen), Mark(4)}, false},
+  };
+  for (size_t n = 0; n < std::size(scripts); ++n) {
+    for (const bool a : {true, false}) {
+      for (const bool fresh : {true, false}) {
+        for (const bool b : {true, false}) {
+          bool plain = false, stepped = false;
+          const Lines fromPlan = MarkedBy(scripts[n].lines, a, fresh, b, true, plain);
+          EXPECT_EQ(fromPlan, MarkedBy(scripts[n].lines, a, fresh, b, false, stepped))
+              << "script " << n << " a " << a << fresh << " b " << b;
+          EXPECT_EQ(plain, scripts[n].plain) << "script " << n;
+        }
+      }
+    }
+  }
+}
+
+TEST(Interpreter, ThePlanFollowsAnEditMadeInPlace) {
+  Pass p({Line(kDoThis), Mark(2), Mark(3)});
+  p.t.g.ShowingSteps = false;
+  p.t.g.HyperDriveOn = true;
+  RebuildFlags(p.t.g.AutoBet);
+  RunAutoBet(p.t.g);
+  EXPECT_EQ(p.t.g.AutoBet.Flags[0].FlagValue, -1);
+  for (::Flag& f : p.t.g.AutoBet.Flags) f.FlagValue = 0;
+  p.t.g.AutoBet.Line(2).Kind = kComment;
+  p.t.g.AutoBet.Line(3).Code = verb::kGoTo;  // to no label: the pass ends there
+  RunAutoBet(p.t.g);
+  EXPECT_EQ(p.t.g.AutoBet.Flags[0].FlagValue, 0) << "line 2 is a comment now";
+  EXPECT_EQ(p.t.g.AutoBet.Flags[1].FlagValue, 0) << "line 3 jumps now";
+  EXPECT_FALSE(p.t.g.AutoBet.Plan->Plain);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -26,9 +27,16 @@ struct PassState {
   int32_t LineCounter = 0;    // lines since the last yield
   Currency RunAmount;         // best or sum of a run of highest/lowest/average lines
   int32_t RunCount = 0;
-  std::array<Currency, bet::kSlots> RunBase{};  // each slot's amount at the run's first line
+  // Each slot's amount at the run's first line: filled with zeros only when a
+  // run first needs it, not on every pass.
+  std::optional<std::array<Currency, bet::kSlots>> RunBase;
   double PassStart = 0;       // seconds; "Play sound:" moves it back to skip the pause
   std::string Status;         // the step's status text, built only when steps are shown
+
+  std::array<Currency, bet::kSlots>& RunBases() {
+    if (!RunBase) RunBase.emplace();
+    return *RunBase;
+  }
 };
 
 // An error that aborts the pass: shown with its number and description.

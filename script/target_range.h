@@ -13,7 +13,9 @@ struct TargetRange {
   bool Empty() const { return first > last; }
 };
 
-TargetRange FindTargetRange(const Game& g, const ScriptLine& line);
+// Fills the caller's range field by field: a record this small returned by
+// value is put together in memory and read back whole, which stalls.
+void FindTargetRange(const Game& g, const ScriptLine& line, TargetRange& range);
 
 // Whether the verb passes over this slot of the range: the outside-Place gap,
 // and, with a Pass Line bet up and Place bets kept off the point, the Place
