@@ -329,7 +329,7 @@ TEST(RestateBet, EndsAsTakingDownAndPuttingBackWould) {
       g.MaxPropBetPayoff = 1000;
       g.TableMinimum = 5;
       table->Stand(c.betId, Currency::FromDouble(c.amount));
-      g.BetStatus[c.betId] = 2;
+      g.BetStatus.Set(c.betId, 2);
       g.TableMaximum = Currency::FromDouble(c.maximum);
       g.Bankroll() = Currency::FromDouble(c.bankroll);
       g.MsgText = "left over";

@@ -295,7 +295,7 @@ Totals CountLive(const Game& g, const SlotRange& r) {
   int now = 0, before = 0;
   for (int i = r.first; i <= r.last; ++i) {
     now += g.BetAmount[i] > 0 ? 1 : 0;
-    before += g.BetAfterRoll[i] > 0 ? 1 : 0;
+    before += g.BetAfterRoll()[i] > 0 ? 1 : 0;
   }
   t.liveNow = Currency(now);
   t.liveBefore = Currency(before);
