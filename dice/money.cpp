@@ -130,4 +130,4 @@ std::string FormatNumberWithCommas(Currency value) {
 
 void PrintTo(Currency value, std::ostream* os) { *os << "$" << FormatNumberWithCommas(value); }
 
-void CopyAmounts(Currency* to, const Currency* from, size_t count) { std::memcpy(to, from, count * sizeof(Currency)); }
+void CopyBlock(void* to, const void* from, size_t bytes) { std::memcpy(to, from, bytes); }

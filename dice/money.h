@@ -47,12 +47,13 @@ int64_t IntegerPartOf(Currency a, Currency unit);
 int64_t Floor(Currency a);
 
 Currency Abs(Currency a);
-// Copies `count` amounts through the C library's copy, which is fastest for
-// the layout's couple of hundred slots.
-void CopyAmounts(Currency* to, const Currency* from, size_t count);
-template <size_t N>
-void CopyAmounts(std::array<Currency, N>& to, const std::array<Currency, N>& from) {
-  CopyAmounts(to.data(), from.data(), N);
+// Copies a block through the C library's copy: the compiler would inline a
+// copy of known size as a string move, slow to start for the few hundred
+// bytes of a roll's snapshots.
+void CopyBlock(void* to, const void* from, size_t bytes);
+template <typename T, size_t N>
+void CopyArray(std::array<T, N>& to, const std::array<T, N>& from) {
+  CopyBlock(to.data(), from.data(), sizeof(T) * N);
 }
 Currency Max(Currency a, Currency b);
 Currency Min(Currency a, Currency b);

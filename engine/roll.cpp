@@ -100,26 +100,19 @@ void Finish(Game& g) {
   g.RollInProgress = false;
 }
 
-// A plain loop: the compiler would make the copy a string move, which is
-// slow to start for a few hundred bytes.
-template <typename T, size_t N>
-void CopyAll(std::array<T, N>& to, const std::array<T, N>& from) {
-  for (size_t i = 0; i < N; ++i) to[i] = from[i];
-}
-
 void TakeSnapshots(Game& g) {
   g.Settlements.Clear();
   // The last pass's snapshot is the layout now unless input ran since.
   if (g.BetsMovedSincePass) {
     g.AtRollStartIndex = static_cast<uint8_t>(g.AfterRollIndex ^ 1);
-    CopyAmounts(g.BetSnapshots[g.AtRollStartIndex], g.BetAmount);
+    CopyArray(g.BetSnapshots[g.AtRollStartIndex], g.BetAmount);
   } else {
     g.AtRollStartIndex = g.AfterRollIndex;
   }
-  CopyAll(g.BetStreak[0], g.BetStreak[1]);
+  CopyArray(g.BetStreak[0], g.BetStreak[1]);
   // Reads the last roll's DiceTotal and PointBeforeRoll.
   if (g.Hooks.RollStarting) g.Hooks.RollStarting(g);
-  for (size_t i = 0; i < g.BetCommitted.size(); ++i) g.BetCommitted[i] = g.BetAmount[i];
+  CopyBlock(g.BetCommitted.data(), g.BetAmount.data(), sizeof g.BetCommitted);
   g.PointTwoRollsAgo = g.PointBeforeRoll;
   g.PointBeforeRoll = g.Point;
 }
@@ -296,7 +289,7 @@ void CheckBankLimit(Game& g) {
 
 void TakeScriptSnapshots(Game& g) {
   g.AfterRollIndex = static_cast<uint8_t>(g.AtRollStartIndex ^ 1);
-  CopyAmounts(g.BetSnapshots[g.AfterRollIndex], g.BetAmount);
+  CopyArray(g.BetSnapshots[g.AfterRollIndex], g.BetAmount);
   g.BetsMovedSincePass = false;
   for (Flag& flag : g.AutoBet.Flags) flag.FlagPrevious = flag.FlagValue;
   g.RollCountAfterPass = g.RollCounts[0];
