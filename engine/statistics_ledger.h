@@ -42,7 +42,7 @@ struct PhantomTerms {
 // A context: a point state with the bets that worked in it. A hand moves
 // through a few (odds returned on the come-out work until the next one), so
 // the ledger keeps several side by side before it must fold.
-constexpr int kLedgerContexts = 16;
+constexpr int kLedgerContexts = 64;
 constexpr int kThrowKeys = kLedgerContexts * 36;
 // The Come and Don't Come numbers and their odds, bets 7..30.
 constexpr int kFirstNumberUnit = 7;
@@ -69,6 +69,11 @@ struct PhantomLedger {
   // decided: [bet - 7][context][0 the number came, 1 the seven].
   std::array<std::array<std::array<int32_t, 2>, kLedgerContexts>, kNumberUnits> numberUnits{};
   bool anyNumberUnits = false;
+  // Which number units carry a phantom mark (bit bet - 7), mirrored from the
+  // result cells so that a throw reads one word; worked out afresh when not
+  // known (a new ledger, a game read from a file).
+  uint32_t marks = 0;
+  bool marksKnown = false;
   // The latest throw, whose units are the last roll's until the next roll.
   bool latestLive = false;
   int32_t latestKey = 0;

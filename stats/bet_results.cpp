@@ -23,9 +23,13 @@ Currency VigOnStake(const Game& g, int kind, int betId, Currency net) {
 
 void ClearLastRoll(Cell& cell) { cell[kLastRollCount] = cell[kLastRollAmount] = Currency{}; }
 
+// The marks live in the cells; the phantom ledger keeps a mirror of them.
 void SetNumberMarks(Game& g, int number, Currency mark) {
-  for (int id : {bet::DontCome(number), bet::DontComeOdds(number), bet::Come(number), bet::ComeOdds(number)})
+  for (int id : {bet::DontCome(number), bet::DontComeOdds(number), bet::Come(number), bet::ComeOdds(number)}) {
     g.BetWagers[kPhantom][id][kMark] = mark;
+    const uint32_t bit = uint32_t{1} << (id - kFirstNumberUnit);
+    g.Phantoms.marks = mark != 0 ? g.Phantoms.marks | bit : g.Phantoms.marks & ~bit;
+  }
 }
 
 }  // namespace
@@ -56,6 +60,7 @@ void MoveResultMarks(Game& g) {
   } else if (total == 7) {
     // Only the Come and Don't Come numbers and their odds ever carry a mark.
     for (int id = bet::kDontComeBase; id <= bet::kComeOddsBase + 5; ++id) g.BetWagers[kPhantom][id][kMark] = 0;
+    g.Phantoms.marks = 0;
   }
 }
 

@@ -34,6 +34,8 @@ uint32_t UnitsOfNumber(int n) {
   return bits;
 }
 constexpr uint32_t kAllNumberUnits = (uint32_t{1} << kNumberUnits) - 1;
+// The Come numbers and their odds, bets 19..30.
+constexpr uint32_t kPutUnits = kAllNumberUnits & ~((uint32_t{1} << (bet::kComeNumberBase - kFirstNumberUnit)) - 1);
 
 // How a number unit goes: on its number the Don't side loses, on the seven it wins.
 Outcome NumberUnitOutcome(int id, bool seven) {
@@ -96,6 +98,19 @@ PhantomFigure NumberUnitFigure(const Game& g, int id, bool seven) {
   return FigurePhantom(LedgerRates(g.Phantoms), ThrowFacts{}, id, NumberUnitOutcome(id, seven));
 }
 
+// The number units standing now: those marked, and with Put bets the Come
+// numbers and their odds, which may always be put.
+uint32_t StandingUnits(Game& g) {
+  PhantomLedger& l = g.Phantoms;
+  if (!l.marksKnown) {
+    l.marks = 0;
+    for (int unit = 0; unit < kNumberUnits; ++unit)
+      if (g.BetWagers[kPhantom][kFirstNumberUnit + unit][kMark] != 0) l.marks |= uint32_t{1} << unit;
+    l.marksKnown = true;
+  }
+  return l.marks | (g.AllowPutBets ? kPutUnits : 0);
+}
+
 void StartLedger(Game& g) {
   PhantomLedger& l = g.Phantoms;
   l.open = true;
@@ -151,15 +166,11 @@ void CountThrow(Game& g) {
 
   const int total = g.DiceTotal;
   const bool seven = total == 7;
-  uint32_t decided = seven ? kAllNumberUnits : bet::IsPointNumber(total) ? UnitsOfNumber(total) : 0;
-  uint32_t standing = 0;
-  for (; decided != 0; decided &= decided - 1) {
-    const int unit = std::countr_zero(decided);
-    if (!PhantomStands(g, kFirstNumberUnit + unit)) continue;
-    standing |= uint32_t{1} << unit;
-    ++l.numberUnits[unit][context][seven ? 1 : 0];
-    l.anyNumberUnits = true;
-  }
+  const uint32_t decided = seven ? kAllNumberUnits : bet::IsPointNumber(total) ? UnitsOfNumber(total) : 0;
+  const uint32_t standing = decided & StandingUnits(g);
+  for (uint32_t units = standing; units != 0; units &= units - 1)
+    ++l.numberUnits[std::countr_zero(units)][context][seven ? 1 : 0];
+  l.anyNumberUnits = l.anyNumberUnits || standing != 0;
   l.latestLive = true;
   l.latestKey = key;
   l.latestNumberUnits = standing;
