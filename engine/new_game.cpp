@@ -57,8 +57,6 @@ void NewGame(Game& g, bool keepChipStacks) {
     g.SetSnapshotSlot(id, 0);
     g.BetName[id] = id > bet::kFirstStack ? bet::StackName(id) : "";
   }
-  g.Tally = {};
-  g.Phantoms = {};
   g.RollCounts.fill(0);
   g.RollsSinceLast.fill(0);
   g.PreviousRollCounts.fill(0);
