@@ -12,7 +12,7 @@ void TellCut(Game& g, Currency requested, Currency allowed, const std::string& w
   if (!g.ConfigScreenActive && !NoticeAllowed(g, kNoticeRefusals)) return;
   std::string text = "Requested amount:  " + Dollars(requested) + kBreak + "Allowed amount:  " + Dollars(allowed) +
                      kTwoBreaks + why;
-  ShowMessage(g, "Dicemill", text);
+  ShowNotice(g, kNoticeRefusals, "Dicemill", text);
 }
 
 const std::string kNotAllowed = "The full amount of this transaction was not allowed since it would have ";

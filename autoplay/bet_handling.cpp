@@ -16,10 +16,31 @@ enum class WonChoice { TakeBetAndWinnings, SameBetTakeWinnings, PressOneUnit, Pr
 enum class LostChoice { NoBetTakeRemainder, BetRemainder, SameBet, SameBetPlusUnit, DoubleBet,
                         SameBetModified, BetModified };
 
+AmountRule RuleOf(const Game& g, ModifyEntry entry) {
+  return {g.ModifyOperator[entry], g.ModifyAmount[entry], g.ModifyUnits[entry]};
+}
+
+// An entry the player edited in the notice stays as edited for the next one,
+// as long as it is one the entry can hold.
+void KeepRule(Game& g, ModifyEntry entry, const AmountRule& rule) {
+  constexpr Currency kMostAmount = 100'000;
+  if (rule.op < 0 || rule.op > 3 || rule.units < -1 || rule.units > 6 || rule.amount < 0 || rule.amount > kMostAmount)
+    return;
+  g.ModifyOperator[entry] = rule.op;
+  g.ModifyAmount[entry] = rule.amount;
+  g.ModifyUnits[entry] = rule.units;
+}
+
 WonChoice ChooseWon(Game& g, const SettleNotice* notice) {
   if (notice) {
-    std::optional<int> button = g.Ui->ShowSettleNotice(*notice);
-    if (button && *button >= kTakeBetAndWinnings && *button <= kBetModified) return WonChoice(*button);
+    SettleNotice asked = *notice;
+    asked.sameBet = RuleOf(g, kModifyDialogSame);
+    asked.bet = RuleOf(g, kModifyDialogBet);
+    std::optional<SettleReply> reply = g.Ui->ShowSettleNotice(asked);
+    if (!reply) return WonChoice::SameBetTakeWinnings;
+    KeepRule(g, kModifyDialogSame, reply->sameBet);
+    KeepRule(g, kModifyDialogBet, reply->bet);
+    if (reply->button >= kTakeBetAndWinnings && reply->button <= kBetModified) return WonChoice(reply->button);
     return WonChoice::SameBetTakeWinnings;
   }
   if (g.WonBetAction >= 1 && g.WonBetAction <= 7) return WonChoice(g.WonBetAction - 1);
@@ -28,9 +49,9 @@ WonChoice ChooseWon(Game& g, const SettleNotice* notice) {
 
 LostChoice ChooseLost(Game& g, const SettleNotice* notice) {
   if (notice) {
-    std::optional<int> button = g.Ui->ShowSettleNotice(*notice);
-    if (!button) return LostChoice::NoBetTakeRemainder;
-    switch (*button) {
+    std::optional<SettleReply> reply = g.Ui->ShowSettleNotice(*notice);
+    if (!reply) return LostChoice::NoBetTakeRemainder;
+    switch (reply->button) {
       case kBetRemainder: return LostChoice::BetRemainder;
       case kSameBetAgain: return LostChoice::SameBet;
       case kPressUnitAfterLoss: return LostChoice::SameBetPlusUnit;
@@ -132,7 +153,7 @@ void TellChange(Game& g, int betId, const char* action) {
   std::string text = change > 0   ? "Bet increased by: " + Dollars(change)
                      : change < 0 ? "Bet decreased by: " + Dollars(-change)
                                   : "No change in bet amount.";
-  ShowMessage(g, action + g.BetName[betId], text);
+  ShowNotice(g, kNoticeCharges, action + g.BetName[betId], text);
 }
 
 // Returns the title of the result notice, or nullptr when none is due.

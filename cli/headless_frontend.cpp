@@ -85,7 +85,7 @@ std::optional<Currency> HeadlessFrontEnd::AskNumber(const std::string& title, co
   return value;
 }
 
-std::optional<int> HeadlessFrontEnd::ShowSettleNotice(const SettleNotice& notice) {
+std::optional<SettleReply> HeadlessFrontEnd::ShowSettleNotice(const SettleNotice& notice) {
   std::string text;
   for (const auto& [label, amount] : notice.rows) {
     if (!text.empty()) text += '\r';
@@ -98,7 +98,8 @@ std::optional<int> HeadlessFrontEnd::ShowSettleNotice(const SettleNotice& notice
   }
   const char* shown = choice ? (notice.won ? kWonWords[*choice] : kLostWords[*choice]) : notice.won ? "same" : "none";
   WriteMessage(out_, notice.title, text, shown);
-  return choice;
+  if (!choice) return std::nullopt;
+  return SettleReply{*choice, notice.sameBet, notice.bet};
 }
 
 void HeadlessFrontEnd::ShowThrow(int die1, int die2, int pointAfter) {

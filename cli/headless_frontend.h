@@ -29,7 +29,7 @@ class HeadlessFrontEnd : public FrontEnd {
 
   Reply ShowMessage(const std::string& title, const std::string& text, Buttons buttons) override;
   std::optional<Currency> AskNumber(const std::string& title, const std::string& text, Currency offered) override;
-  std::optional<int> ShowSettleNotice(const SettleNotice& notice) override;
+  std::optional<SettleReply> ShowSettleNotice(const SettleNotice& notice) override;
   void ShowThrow(int die1, int die2, int pointAfter) override;
   void RollFinished(::StopReason reason) override { stopReason_ = reason; }
   // Steps are printed and go straight on: a script's trace, not a wait.

@@ -60,7 +60,7 @@ TEST(HeadlessFrontEnd, NumberPromptsTakeAQueuedValueElseTheOffer) {
 TEST(HeadlessFrontEnd, SettleNoticesShowRowsAndTakeButtonWords) {
   Screen s;
   SettleNotice n{"Place 6 Bet Won", {{"Payoff at 7 to 6 for $6:", "$7"}, {"Net payoff:", "$7"}}, {}, true};
-  EXPECT_EQ(s.ui.ShowSettleNotice(n), std::nullopt);
+  EXPECT_FALSE(s.ui.ShowSettleNotice(n));
   EXPECT_EQ(s.Printed(), Json::parse(R"({"message":{"title":"Place 6 Bet Won",
       "text":"Payoff at 7 to 6 for $6:\t$7\rNet payoff:\t$7","reply":"same"}})"));
   const std::vector<std::string> won = {"take", "same", "press", "double", "parlay", "samebet", "bet"};
@@ -70,13 +70,13 @@ TEST(HeadlessFrontEnd, SettleNoticesShowRowsAndTakeButtonWords) {
     const auto& words = isWon ? won : lost;
     for (int i = 0; i < static_cast<int>(words.size()); ++i) {
       s.ui.QueueAnswer(words[i]);
-      EXPECT_EQ(s.ui.ShowSettleNotice(n), i);
+      EXPECT_EQ(s.ui.ShowSettleNotice(n)->button, i);
       EXPECT_EQ(s.Printed()["message"]["reply"], words[i]);
     }
   }
   // "parlay" is no button of the lost dialog: used up, the default stands.
   s.ui.QueueAnswer("parlay");
-  EXPECT_EQ(s.ui.ShowSettleNotice(n), std::nullopt);
+  EXPECT_FALSE(s.ui.ShowSettleNotice(n));
   EXPECT_EQ(s.Printed()["message"]["reply"], "none");
   EXPECT_EQ(s.ui.PendingAnswers(), 0u);
 }

@@ -31,4 +31,13 @@ string(REGEX REPLACE "[ \n]+" " " err "${err}")
 if(NOT err MATCHES "dice/die\\.cpp:3: dice includes engine, a higher layer")
   message(FATAL_ERROR "the failure does not name the file, line and layers:\n${err}")
 endif()
+file(REMOVE ${tree}/dice/die.cpp)
+
+# A front end may not lean on another one.
+file(WRITE ${tree}/ui/window.cpp "#include \"engine/table.h\"\n#include \"cli/main.h\"\n")
+run_check(rc err)
+string(REGEX REPLACE "[ \n]+" " " err "${err}")
+if(rc EQUAL 0 OR NOT err MATCHES "ui/window\\.cpp:2: ui includes cli, another front end")
+  message(FATAL_ERROR "a front end including another passed or was misreported:\n${err}")
+endif()
 file(REMOVE_RECURSE ${tree})

@@ -19,7 +19,7 @@ struct Rules {
   void Refuse(const std::string& text, const std::string& title) {
     g.MsgText = text;
     g.MsgTitle = title;
-    if (NoticeAllowed(g, kNoticeRefusals)) ShowMessage(g, title, text);
+    if (NoticeAllowed(g, kNoticeRefusals)) ShowNotice(g, kNoticeRefusals, title, text);
   }
   // A Pass Line refusal is titled with the bare name of the Pass Line.
   void RefusePassLine(const std::string& text) { Refuse(text, g.BetName[bet::kPassLine]); }

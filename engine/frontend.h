@@ -17,6 +17,15 @@ enum class Reply { Ok, Yes, No, Cancel };
 // script's last Yes/No question (LastAnswer). Game files keep the numbers.
 enum class Answer : int32_t { None = 1, Cancel = 2, Yes = 6, No = 7 };
 
+// How a "Same Bet:" or "Bet:" entry changes an amount: operator 0 "+",
+// 1 "-", 2 "x", 3 "/"; units -1 "$", 0 "%", 2..6 checks 95..99.
+struct AmountRule {
+  int32_t op = 0;
+  Currency amount;
+  int32_t units = -1;
+  bool operator==(const AmountRule&) const = default;
+};
+
 // The won and lost notices of settlement: rows of a left label and a right
 // amount, a title and the buttons the player may answer with.
 struct SettleNotice {
@@ -24,7 +33,20 @@ struct SettleNotice {
   std::vector<std::pair<std::string, std::string>> rows;
   std::vector<std::string> buttons;  // captions, in button-index order
   bool won = true;
+  // The entries beside the won notice's "Sa&me Bet:" and "&Bet:" buttons, as
+  // the player last left them.
+  AmountRule sameBet, bet;
 };
+
+// The button the player pressed, and the two entries as the notice closed
+// (the player may edit them before pressing their button).
+struct SettleReply {
+  int button = 0;
+  AmountRule sameBet, bet;
+};
+
+// Whether the player, reading a notice, asked not to see its kind again.
+enum class NoticeReply { Seen, DontShowAgain };
 
 class FrontEnd {
  public:
@@ -35,9 +57,15 @@ class FrontEnd {
   // Asks for a number, offering `offered`; nullopt when the player cancels.
   virtual std::optional<Currency> AskNumber(const std::string& title, const std::string& text,
                                             Currency offered) = 0;
-  // The won or lost dialog; returns the button index chosen, or nullopt when
-  // the player leaves the choice to the table's default.
-  virtual std::optional<int> ShowSettleNotice(const SettleNotice& notice) = 0;
+  // A notice governed by one switch of the notice mask (`noticeBits`); the
+  // player may answer that such notices should no longer be shown.
+  virtual NoticeReply ShowNotice(int /*noticeBits*/, const std::string& title, const std::string& text) {
+    ShowMessage(title, text, Buttons::Ok);
+    return NoticeReply::Seen;
+  }
+  // The won or lost dialog; returns the button chosen, or nullopt when the
+  // player leaves the choice to the table's default.
+  virtual std::optional<SettleReply> ShowSettleNotice(const SettleNotice& notice) = 0;
   // A visible throw has landed: the dice are drawn before anything is settled.
   virtual void ShowThrow(int /*die1*/, int /*die2*/, int /*pointAfter*/) {}
   // The last step of RollDice, before a visible table forgets StopReason:
@@ -76,5 +104,5 @@ class SilentFrontEnd : public FrontEnd {
   std::optional<Currency> AskNumber(const std::string&, const std::string&, Currency offered) override {
     return offered;
   }
-  std::optional<int> ShowSettleNotice(const SettleNotice&) override { return std::nullopt; }
+  std::optional<SettleReply> ShowSettleNotice(const SettleNotice&) override { return std::nullopt; }
 };

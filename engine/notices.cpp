@@ -8,6 +8,10 @@ Reply ShowMessage(Game& g, const std::string& title, const std::string& text, Bu
   return g.Ui->ShowMessage(title, text, buttons);
 }
 
+void ShowNotice(Game& g, int noticeBits, const std::string& title, const std::string& text) {
+  if (g.Ui->ShowNotice(noticeBits, title, text) == NoticeReply::DontShowAgain) g.NoticeMask &= ~noticeBits;
+}
+
 std::string Dollars(Currency amount) {
   std::string text = "$";
   text += FormatNumberWithCommas(amount);

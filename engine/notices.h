@@ -25,6 +25,10 @@ inline constexpr const char* kTwoBreaks = "\r\r";
 bool NoticeAllowed(const Game& g, int bit);
 
 Reply ShowMessage(Game& g, const std::string& title, const std::string& text, Buttons buttons = Buttons::Ok);
+// A notice that the switches `noticeBits` govern (the caller has decided it
+// is due); when the player asks not to see such notices again, those
+// switches go off.
+void ShowNotice(Game& g, int noticeBits, const std::string& title, const std::string& text);
 
 // "$" and the amount in the one money format.
 std::string Dollars(Currency amount);

@@ -70,7 +70,7 @@ void ShowPendingNotice(Game& g, const std::string& title, bool stack, bool nothi
   if (g.MsgText.find("Unable") == std::string::npos)
     g.MsgText += kTwoBreaks + limit_notice::Ending(stack, nothingChanged);
   if (g.MsgTitle.empty()) g.MsgTitle = title;
-  if (NoticeAllowed(g, kNoticeLimits)) ShowMessage(g, g.MsgTitle, g.MsgText);
+  if (NoticeAllowed(g, kNoticeLimits)) ShowNotice(g, kNoticeLimits, g.MsgTitle, g.MsgText);
 }
 
 // Whether a placement writes its limit notices. A placement whose caller
@@ -165,7 +165,7 @@ bool TablePlacement::ApplyMaximum() {
     g_.MsgText = text;
     g_.MsgTitle = BetTitle(g_, id_);
     if ((g_.NoticeMask & (kNoticeRefusals | kNoticeLimits)) != 0 && g_.Visible())
-      ShowMessage(g_, g_.MsgTitle, text);
+      ShowNotice(g_, kNoticeRefusals | kNoticeLimits, g_.MsgTitle, text);
     // Shown in full already: nothing is left pending for an ending.
     shownText_ = text;
     shownTitle_ = g_.MsgTitle;
@@ -248,7 +248,7 @@ void TablePlacement::TellVig(Currency before, Currency after) {
     text += upFront ? "Total \"Vig\" charge " + Dollars(after)
                     : "If you win, the \"Vig\" charge will be " + Dollars(after);
   }
-  ShowMessage(g_, BetTitle(g_, id_), text);
+  ShowNotice(g_, kNoticeCharges, BetTitle(g_, id_), text);
 }
 
 void PlaceStack(Game& g, int id) {

@@ -18,7 +18,7 @@ std::string SlotName(const Game& g, int slot) {
 }
 
 void Refuse(Game& g, const std::string& title, const std::string& text) {
-  if (NoticeAllowed(g, kNoticeRefusals)) ShowMessage(g, title, text);
+  if (NoticeAllowed(g, kNoticeRefusals)) ShowNotice(g, kNoticeRefusals, title, text);
 }
 
 bool IsCalled(int status) { return status == 2 || status == -1; }

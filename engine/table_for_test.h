@@ -55,9 +55,10 @@ class RecordingFrontEnd : public FrontEnd {
     offered.push_back(offer);
     return numberReplies.empty() ? offer : Pop(numberReplies);
   }
-  std::optional<int> ShowSettleNotice(const SettleNotice& notice) override {
+  std::optional<SettleReply> ShowSettleNotice(const SettleNotice& notice) override {
     notices.push_back(notice);
-    return settleReplies.empty() ? std::nullopt : Pop(settleReplies);
+    if (settleReplies.empty()) return std::nullopt;
+    return SettleReply{Pop(settleReplies), notice.sameBet, notice.bet};
   }
   void ShowThrow(int, int, int) override { ++throws; }
   void RollFinished(StopReason reason) override { stopReason = reason; }

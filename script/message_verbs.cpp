@@ -53,7 +53,7 @@ void ShowBuffer(Game& g, const ScriptLine& line) {
   } else {
     const int bit = g.HyperDriveOn ? kNoticeScriptHyper : kNoticeScript;
     if ((g.NoticeMask & bit) == 0) return;
-    ShowMessage(g, "Auto-Bet", text);
+    ShowNotice(g, bit, "Auto-Bet", text);
   }
   // A message under Hyper-Drive waits for the player: the run should not go on alone.
   if (g.HyperDriveOn) g.AutoRollOn = false;

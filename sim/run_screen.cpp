@@ -28,7 +28,11 @@ std::optional<Currency> RunScreen::AskNumber(const std::string& title, const std
   return Ask([title, text, offered](FrontEnd& s) { return s.AskNumber(title, text, offered); });
 }
 
-std::optional<int> RunScreen::ShowSettleNotice(const SettleNotice& notice) {
+NoticeReply RunScreen::ShowNotice(int noticeBits, const std::string& title, const std::string& text) {
+  return Ask([noticeBits, title, text](FrontEnd& s) { return s.ShowNotice(noticeBits, title, text); });
+}
+
+std::optional<SettleReply> RunScreen::ShowSettleNotice(const SettleNotice& notice) {
   return Ask([notice](FrontEnd& s) { return s.ShowSettleNotice(notice); });
 }
 

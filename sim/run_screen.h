@@ -34,8 +34,9 @@ class RunScreen : public FrontEnd {
   RunScreen(Game& g, FrontEnd& screen, PostFn post, std::shared_ptr<RunLink> link);
 
   Reply ShowMessage(const std::string& title, const std::string& text, Buttons buttons) override;
+  NoticeReply ShowNotice(int noticeBits, const std::string& title, const std::string& text) override;
   std::optional<Currency> AskNumber(const std::string& title, const std::string& text, Currency offered) override;
-  std::optional<int> ShowSettleNotice(const SettleNotice& notice) override;
+  std::optional<SettleReply> ShowSettleNotice(const SettleNotice& notice) override;
   std::optional<std::string> AskFileName(const std::string& title, const std::string& pattern) override;
   void ShowStepsBanner(const std::string& word) override;
   void ShowStep(int lineNumber, const std::string& text, const std::string& status) override;

@@ -35,7 +35,14 @@ class TableRelay : public FrontEnd {
   std::optional<Currency> AskNumber(const std::string& title, const std::string& text, Currency offered) override {
     return screen_->AskNumber(title, text, offered);
   }
-  std::optional<int> ShowSettleNotice(const SettleNotice& notice) override { return screen_->ShowSettleNotice(notice); }
+  NoticeReply ShowNotice(int noticeBits, const std::string& title, const std::string& text) override {
+    title_ = title;
+    text_ = text;
+    return screen_->ShowNotice(noticeBits, title, text);
+  }
+  std::optional<SettleReply> ShowSettleNotice(const SettleNotice& notice) override {
+    return screen_->ShowSettleNotice(notice);
+  }
   void ShowThrow(int die1, int die2, int pointAfter) override { screen_->ShowThrow(die1, die2, pointAfter); }
   void RollFinished(::StopReason stopReason) override {
     stopReason_ = stopReason;

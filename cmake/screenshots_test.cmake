@@ -1,0 +1,23 @@
+# Draws every screen with `dicemill --screenshot` offscreen and checks that
+# each picture the screens list names was written and is a PNG.
+#   cmake -DPROGRAM=<dicemill> -DWORK=<folder> -P screenshots_test.cmake
+
+file(REMOVE_RECURSE ${WORK})
+set(ENV{QT_QPA_PLATFORM} offscreen)
+set(ENV{DICEMILL_HOME} ${WORK}/home)
+execute_process(COMMAND ${PROGRAM} --screenshot ${WORK}/png RESULT_VARIABLE rc ERROR_VARIABLE err OUTPUT_QUIET)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "dicemill --screenshot failed (${rc}):\n${err}")
+endif()
+set(expected main-window message notice-winner notice-lost prompt-number about help)
+foreach(name ${expected})
+  set(png ${WORK}/png/${name}.png)
+  if(NOT EXISTS ${png})
+    message(FATAL_ERROR "no picture ${name}.png")
+  endif()
+  file(READ ${png} head LIMIT 8 HEX)
+  if(NOT head STREQUAL "89504e470d0a1a0a")
+    message(FATAL_ERROR "${name}.png is no PNG")
+  endif()
+endforeach()
+file(REMOVE_RECURSE ${WORK})

@@ -1,0 +1,49 @@
+#pragma once
+// The one seam through which the desktop program asks the player anything.
+// The program shows modal dialogs (ModalDialogs); tests answer from a queue
+// (dialogs_for_test.h), so that no test ever waits in a modal loop.
+
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "dice/money.h"
+#include "engine/frontend.h"
+
+// A message's answer, and whether the player ticked "Don't show this again".
+struct MessageAnswer {
+  Reply reply = Reply::Ok;
+  bool dontShowAgain = false;
+};
+
+// A message as the table words it: lines broken by carriage returns.
+struct MessageRequest {
+  std::string title;
+  std::string text;
+  Buttons buttons = Buttons::Ok;
+  // Offer "Don't show this again": the notice has a switch that silences it.
+  bool offerDontShow = false;
+};
+
+// The prompt for two amounts, as the break-point of the games log asks.
+struct TwoNumberRequest {
+  std::string title;
+  std::string firstLabel, secondLabel;
+  Currency first, second;
+};
+
+enum class FileMode { Open, Save };
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  virtual MessageAnswer Message(const MessageRequest& request) = 0;
+  // nullopt when the player cancels.
+  virtual std::optional<Currency> Number(const std::string& title, const std::string& text, Currency offered) = 0;
+  virtual std::optional<std::pair<Currency, Currency>> TwoNumbers(const TwoNumberRequest& request) = 0;
+  // The won, pushed, returned and lost notices; nullopt leaves the choice to
+  // the table's default (the window was closed).
+  virtual std::optional<SettleReply> Settle(const SettleNotice& notice) = 0;
+  // `pattern` as the table gives it ("*.crp"); nullopt when cancelled.
+  virtual std::optional<std::string> FileName(const std::string& title, const std::string& pattern, FileMode mode) = 0;
+};
