@@ -1,6 +1,77 @@
+// dicemill: the desktop table. `dicemill --screenshot DIR` draws every
+// screen into pictures instead, without a display.
 #include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+#include <QTextStream>
+#include <cstdlib>
+
+#include "sim/table.h"
+#include "store/data_folder.h"
+#include "ui/desktop_front_end.h"
+#include "ui/main_window.h"
+#include "ui/modal_dialogs.h"
+#include "ui/screenshots.h"
+#include "ui/sound_board.h"
+
+namespace {
+
+// The samples, sounds and guide: installed beside the program's prefix, or
+// the source tree's when run from a build.
+struct ShareFolders {
+  QString samples, sounds, docs;
+};
+
+ShareFolders FindShareFolders() {
+  const QString installed = QDir(QCoreApplication::applicationDirPath()).filePath("../share/dicemill");
+  if (QFileInfo::exists(installed + "/samples"))
+    return {installed + "/samples", installed + "/sounds", installed + "/docs"};
+  const QString tree = QStringLiteral(DICEMILL_SOURCE_DIR);
+  return {tree + "/samples", tree + "/data/sounds", tree + "/docs"};
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
-  return 0;
+  QApplication::setApplicationName(QStringLiteral("Dicemill"));
+  QApplication::setOrganizationName(QStringLiteral("Dicemill"));
+  QApplication::setApplicationVersion(QStringLiteral(DICEMILL_VERSION));
+  QApplication::setDesktopFileName(QStringLiteral("org.dicemill.Dicemill"));
+
+  QCommandLineParser parser;
+  parser.setApplicationDescription(QStringLiteral("Dicemill, the craps table"));
+  parser.addHelpOption();
+  parser.addVersionOption();
+  QCommandLineOption screenshot(QStringLiteral("screenshot"), QStringLiteral("Draw every screen into PNG files in DIR and quit."),
+                                QStringLiteral("DIR"));
+  QCommandLineOption folderOption(QStringLiteral("folder"), QStringLiteral("Keep games and scripts in DIR."),
+                                  QStringLiteral("DIR"));
+  parser.addOption(screenshot);
+  parser.addOption(folderOption);
+  parser.process(app);
+
+  const ShareFolders share = FindShareFolders();
+  const std::filesystem::path folder =
+      ChooseDataFolder(parser.value(folderOption).toStdString(), [](const char* name) { return std::getenv(name); });
+  std::string error;
+  if (!SeedDataFolder(folder, share.samples.toStdString(), share.sounds.toStdString(), error)) {
+    QTextStream(stderr) << "dicemill: " << QString::fromStdString(error) << '\n';
+    return 1;
+  }
+  const DesktopPaths paths{QString::fromStdString(folder.string()), share.docs};
+  if (parser.isSet(screenshot)) return WriteScreenshots(parser.value(screenshot), paths);
+
+  EffectSink sink;
+  SoundBoard sounds(sink);
+  sounds.UseFolder(paths.dataFolder);
+  ModalDialogs dialogs(paths.dataFolder);
+  DesktopFrontEnd frontEnd(dialogs, sounds);
+  Table table(frontEnd);
+  MainWindow window(table, frontEnd, dialogs, sounds, paths);
+  dialogs.SetParent(&window);
+  window.show();
+  table.StartUp(folder.string(), true);
+  return app.exec();
 }

@@ -1,0 +1,373 @@
+#include "ui/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QSettings>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+
+#include "engine/game.h"
+#include "engine/table_commands.h"
+#include "sim/run_snapshot.h"
+#include "sim/table.h"
+#include "ui/bankroll_window.h"
+#include "ui/dialogs.h"
+#include "ui/sound_board.h"
+#include "ui/status_panel.h"
+#include "ui/table_felt.h"
+
+namespace {
+
+constexpr int kLiveRedrawMs = 50;
+const QString kAppName = QStringLiteral("Dicemill");
+
+// Screens that later versions of the window open; their items stay disabled
+// until then rather than doing nothing when chosen.
+constexpr std::array kScreensToCome = {
+    MenuCommand::HotKeys,     MenuCommand::Configure,  MenuCommand::DiceRollFiles,   MenuCommand::AutoPlay,
+    MenuCommand::AutoBet,     MenuCommand::RollYourOwn, MenuCommand::GamesLog,       MenuCommand::Summary,
+    MenuCommand::RollTotals,  MenuCommand::RollFrequencies, MenuCommand::BetResults, MenuCommand::BetTrends,
+    MenuCommand::ChipStacks,  MenuCommand::Flags,      MenuCommand::Contents,        MenuCommand::Search,
+    MenuCommand::About,
+};
+
+bool ScreenToCome(MenuCommand command) {
+  return std::find(kScreensToCome.begin(), kScreensToCome.end(), command) != kScreensToCome.end();
+}
+
+// The view switches are the player's, not the game's: kept in the user's settings.
+const char* ViewSetting(MenuCommand command) {
+  switch (command) {
+    case MenuCommand::KeyIn: return "view/keyInBetAmounts";
+    case MenuCommand::BetsAsNumbers: return "view/betsAsNumbers";
+    case MenuCommand::HopBets: return "view/hopBets";
+    default: return nullptr;
+  }
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Table& table, DesktopFrontEnd& frontEnd, Dialogs& dialogs, SoundBoard& sounds,
+                       DesktopPaths paths)
+    : table_(table), frontEnd_(frontEnd), dialogs_(dialogs), sounds_(sounds), paths_(std::move(paths)) {
+  setObjectName(QStringLiteral("frmCrapTable"));
+  auto* centre = new QWidget(this);
+  auto* column = new QVBoxLayout(centre);
+  column->setContentsMargins(6, 6, 6, 6);
+  felt_ = new TableFelt(centre);
+  status_ = new StatusPanel(centre);
+  column->addWidget(felt_, 1);
+  column->addWidget(status_);
+  setCentralWidget(centre);
+  connect(felt_, &TableFelt::RollRequested, this, [this] { Perform(MenuCommand::RollDice); });
+
+  BuildMenus();
+  liveTimer_.setInterval(kLiveRedrawMs);
+  connect(&liveTimer_, &QTimer::timeout, this, &MainWindow::ShowLiveFigures);
+
+  frontEnd_.Attach(this);
+  table_.Subscribe(this);
+  UpdateCaption();
+  UpdateMenus();
+  UpdateStatus();
+  resize(980, 680);
+}
+
+MainWindow::~MainWindow() {
+  table_.Unsubscribe(this);
+  frontEnd_.Attach(nullptr);
+}
+
+bool MainWindow::RunUnderWay() const { return table_.Busy(); }
+
+BankrollWindow* MainWindow::Bankroll() const { return bankroll_; }
+
+void MainWindow::BuildMenus() {
+  QHash<QString, QMenu*> menus;
+  for (const MenuSpec& spec : MainMenus()) {
+    QMenu* menu = menuBar()->addMenu(tr(spec.caption));
+    menu->setObjectName(QString::fromLatin1(spec.objectName));
+    menus.insert(QString::fromLatin1(spec.objectName), menu);
+  }
+  QSettings settings;
+  for (const MenuItemSpec& spec : MainMenuItems()) {
+    QAction* action = menus.value(QString::fromLatin1(spec.menu))->addAction(tr(spec.caption));
+    action->setObjectName(QString::fromLatin1(spec.objectName));
+    if (*spec.shortcut) action->setShortcut(QKeySequence(QString::fromLatin1(spec.shortcut)));
+    action->setCheckable(spec.checkable);
+    if (const char* key = ViewSetting(spec.command)) action->setChecked(settings.value(key, false).toBool());
+    const MenuCommand command = spec.command;
+    connect(action, &QAction::triggered, this, [this, command] { Perform(command); });
+    actions_.insert(static_cast<int>(command), action);
+  }
+}
+
+void MainWindow::Perform(MenuCommand command) {
+  using enum MenuCommand;
+  if (table_.Busy() && command != AutoRoll && command != Exit && command != Bankroll && command != ShowPath &&
+      !ViewSetting(command))
+    return;  // disabled during a run; a shortcut may still arrive
+  switch (command) {
+    case New: table_.New(false); break;
+    case Open: OpenGame(); break;
+    case Save: table_.Save(); break;
+    case SaveAs: SaveGameAs(); break;
+    case ShowPath: this->ShowPath(); break;
+    case Exit: close(); break;
+    case RollDice: StartRun(RunKind::AutoRoll); break;
+    case AutoRoll:
+      if (table_.Busy()) {
+        table_.Stop();
+      } else if (table_.Set("AutoRollOn", 1).Done()) {
+        StartRun(RunKind::AutoRoll);
+      }
+      break;
+    case BuyTool: ChooseTool(kToolBuy, tr("Click on bet to buy")); break;
+    case CallOnTool: ChooseTool(kToolCallOn, tr("Click on bet to call it \"ON\"")); break;
+    case CallOffTool: ChooseTool(kToolCallOff, tr("Click on bet to call it \"OFF\"")); break;
+    case RemoveTool:
+      tool_ = WindowTool::Remove;
+      felt_->SetPrompt(tr("Click on bet to remove"));
+      status_->ShowPrompt(tr("Click on bet to remove"));
+      break;
+    case CallAllOn: table_.CallAll(true); break;
+    case CallAllOff: table_.CallAll(false); break;
+    case RemoveAll: table_.RemoveAll(); break;
+    case KeyIn:
+    case BetsAsNumbers:
+    case HopBets: QSettings().setValue(ViewSetting(command), Action(command)->isChecked()); break;
+    case Bankroll: OpenBankroll(); break;
+    default: break;  // the screens to come: their items are disabled
+  }
+}
+
+void MainWindow::ChooseTool(int tool, const QString& prompt) {
+  if (!table_.SetClickTool(tool).Done()) return;
+  tool_ = WindowTool::TableTool;
+  felt_->SetPrompt(prompt);
+  status_->ShowPrompt(prompt);
+}
+
+void MainWindow::LeaveToolMode() {
+  table_.SetClickTool(kToolFirstChip);
+  tool_ = WindowTool::TableTool;
+  felt_->SetPrompt({});
+  status_->ShowPrompt({});
+}
+
+void MainWindow::OpenGame() {
+  auto path = dialogs_.FileName("Open Game File", "*.crp", FileMode::Open);
+  if (path) table_.Open(*path);
+  UpdateCaption();
+}
+
+void MainWindow::SaveGameAs() {
+  auto path = dialogs_.FileName("Save Game File As", "*.crp", FileMode::Save);
+  if (path) table_.SaveAs(*path);
+  UpdateCaption();
+}
+
+void MainWindow::ShowPath() {
+  const Game& g = table_.State();
+  auto name = [](const std::string& path, const char* none) {
+    return path.empty() ? std::string(none) : QFileInfo(QString::fromStdString(path)).fileName().toStdString();
+  };
+  std::string text = "Folder: " + QDir::toNativeSeparators(paths_.dataFolder).toStdString() + "\r\r";
+  text += "Game: " + name(g.GameFileName, "default.crp") + "\r";
+  text += "Auto-Bet file: " + name(g.AutoBet.FileName, "(none)") + "\r";
+  text += "Dice Roll File: " + name(g.DiceFile.RollFileName, "(none)") + "\r";
+  text += "Probability file: " + g.ProbFileName + "\r";
+  text += "Games log: " + name(g.GamesLogFile, "(none)");
+  dialogs_.Message({"Show Path", text, Buttons::Ok, false});
+}
+
+void MainWindow::OpenBankroll() {
+  if (!bankroll_) {
+    bankroll_ = new BankrollWindow(this);
+    bankroll_->setAttribute(Qt::WA_DeleteOnClose);
+    connect(bankroll_, &BankrollWindow::StartRequested, this, &MainWindow::StartHyperDrive);
+    connect(bankroll_, &BankrollWindow::StopRequested, this, [this] { table_.Stop(); });
+    if (!table_.Busy()) {
+      bankroll_->SetRolls(table_.State().RollCountStop);
+      RunSnapshot shot;
+      TakeRunSnapshot(table_.State(), false, shot);
+      bankroll_->ShowFigures(shot, 0);
+    }
+    bankroll_->SetRunning(table_.Busy() && runKind_ == RunKind::HyperDrive);
+  }
+  bankroll_->show();
+  bankroll_->raise();
+  bankroll_->activateWindow();
+}
+
+void MainWindow::StartHyperDrive(int rolls) {
+  if (table_.Busy() || !table_.Set("RollCountStop", rolls).Done()) return;
+  StartRun(RunKind::HyperDrive);
+}
+
+void MainWindow::StartRun(RunKind kind) {
+  runKind_ = kind;
+  rollsAtStart_ = table_.State().RollCounts[event::kAllRolls];
+  idleFigures_ = FiguresOf(table_.State());
+  sounds_.SetSilenced(kind == RunKind::HyperDrive);
+  // The run's questions and its end come back on this thread, in order.
+  auto post = [](std::function<void()> task) {
+    QMetaObject::invokeMethod(qApp, [task = std::move(task)] { task(); }, Qt::QueuedConnection);
+  };
+  if (!table_.StartLive(kind, post).Done()) {
+    sounds_.SetSilenced(false);
+    return;
+  }
+  runClock_.start();
+  liveTimer_.start();
+}
+
+void MainWindow::ShowLiveFigures() {
+  const RunSnapshot shot = table_.LiveSnapshot();
+  status_->Show(FiguresOf(shot, idleFigures_));
+  felt_->SetPoint(shot.Point);
+  if (runKind_ == RunKind::AutoRoll) felt_->SetDice(shot.Die1, shot.Die2);
+  const double seconds = runClock_.elapsed() / 1000.0;
+  if (bankroll_) bankroll_->ShowFigures(shot, seconds > 0 ? (shot.Rolls - rollsAtStart_) / seconds : 0);
+}
+
+bool MainWindow::AskToStopRun() {
+  if (runKind_ != RunKind::HyperDrive) return true;
+  return dialogs_.Message({"Hyper-Drive Active", "Do you want to stop Hyper-Drive?", Buttons::YesNo, false}).reply ==
+         Reply::Yes;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (table_.Busy()) {
+    event->ignore();
+    if (!AskToStopRun()) return;
+    // The run lets go of the game after its roll; the window closes then.
+    quitAfterRun_ = true;
+    table_.Stop();
+    return;
+  }
+  if (table_.Quit(true).code == TableCode::Cancelled) {
+    event->ignore();
+    return;
+  }
+  if (bankroll_) bankroll_->close();
+  event->accept();
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  const bool ctrl = event->modifiers() == Qt::ControlModifier;
+  const int key = event->key();
+  if (ctrl && ((key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9))) {
+    if (table_.Busy()) {
+      dialogs_.Message({"Hot-Key", kBusyText, Buttons::Ok, false});
+    } else {
+      table_.RunHotKey(static_cast<char>(key >= Qt::Key_A ? 'A' + (key - Qt::Key_A) : '0' + (key - Qt::Key_0)));
+    }
+    return;
+  }
+  if (key == Qt::Key_Escape) {
+    if (table_.Busy())
+      table_.Stop();
+    else
+      LeaveToolMode();
+    return;
+  }
+  QMainWindow::keyPressEvent(event);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::WindowStateChange && !isMinimized()) stoppedWhileMinimised_ = false;
+  if (event->type() == QEvent::WindowStateChange) UpdateCaption();
+  QMainWindow::changeEvent(event);
+}
+
+void MainWindow::UpdateCaption() {
+  if (isMinimized() && table_.Busy() && runKind_ == RunKind::HyperDrive) {
+    setWindowTitle(kAppName + QStringLiteral(" Hyper-Drive Active"));
+    return;
+  }
+  if (isMinimized() && stoppedWhileMinimised_) {
+    setWindowTitle(kAppName + QStringLiteral(" Hyper-Drive Stopped"));
+    return;
+  }
+  if (table_.Busy()) return;  // the game is the run's until it ends
+  const QString file = QFileInfo(QString::fromStdString(table_.State().GameFileName)).fileName();
+  const bool named = !file.isEmpty() && file.compare(QStringLiteral("default.crp"), Qt::CaseInsensitive) != 0;
+  setWindowTitle(named ? kAppName + QStringLiteral(" (") + file + ')' : kAppName);
+}
+
+void MainWindow::UpdateMenus() {
+  const bool busy = table_.Busy();
+  for (const MenuItemSpec& spec : MainMenuItems()) {
+    QAction* action = Action(spec.command);
+    action->setEnabled(!ScreenToCome(spec.command) && (!busy || spec.duringRun == DuringRun::Enabled));
+  }
+  Action(MenuCommand::AutoRoll)->setText(tr(AutoRollCaption(busy && runKind_ == RunKind::AutoRoll)));
+  // A Hyper-Drive run is stopped from its own screen, Esc or Exit.
+  if (busy && runKind_ == RunKind::HyperDrive) Action(MenuCommand::AutoRoll)->setEnabled(false);
+  if (bankroll_) bankroll_->SetRunning(busy && runKind_ == RunKind::HyperDrive);
+}
+
+void MainWindow::UpdateStatus() {
+  if (table_.Busy()) return;
+  const Game& g = table_.State();
+  status_->Show(FiguresOf(g));
+  felt_->SetPoint(g.Point);
+  felt_->SetDice(g.Die1, g.Die2);
+}
+
+// --- TableListener -----------------------------------------------------------
+
+void MainWindow::BetChanged(int betId, Currency before, Currency after) {
+  if (betId >= bet::kFirstTableBet && betId <= bet::kLastTableBet && after > before && !table_.Busy())
+    sounds_.PlayChips();
+}
+
+void MainWindow::BankrollChanged(Currency, Currency) { UpdateStatus(); }
+
+void MainWindow::PointChanged(int point) { felt_->SetPoint(point); }
+
+void MainWindow::DiceThrown(int die1, int die2) { felt_->SetDice(die1, die2); }
+
+void MainWindow::UnsavedChanged(bool) { UpdateCaption(); }
+
+void MainWindow::RunStarted() { UpdateMenus(); }
+
+void MainWindow::RunStopped(StopReason) {
+  liveTimer_.stop();
+  sounds_.SetSilenced(false);
+  if (isMinimized() && runKind_ == RunKind::HyperDrive) stoppedWhileMinimised_ = true;
+  UpdateMenus();
+  UpdateStatus();
+  UpdateCaption();
+  if (bankroll_) {
+    RunSnapshot shot;
+    TakeRunSnapshot(table_.State(), false, shot);
+    const double seconds = runClock_.isValid() ? runClock_.elapsed() / 1000.0 : 0;
+    bankroll_->ShowFigures(shot, seconds > 0 ? (shot.Rolls - rollsAtStart_) / seconds : 0);
+  }
+  emit RunFinished();
+  if (quitAfterRun_) {
+    quitAfterRun_ = false;
+    close();
+  }
+}
+
+// --- TableScreen ---------------------------------------------------------------
+
+void MainWindow::ShowDice(int die1, int die2, int pointAfter) {
+  felt_->SetDice(die1, die2);
+  felt_->SetPoint(pointAfter);
+}
+
+void MainWindow::RedrawBet(int) { felt_->update(); }
+
+void MainWindow::RefreshTable() {
+  UpdateStatus();
+  felt_->update();
+}

@@ -1,0 +1,101 @@
+#pragma once
+// The main window: the table, its status lines and every menu. It holds no
+// game state: it acts through the Table's commands, redraws from what the
+// table tells its listeners, and while a run owns the game draws from the
+// run's snapshots.
+
+#include <QElapsedTimer>
+#include <QHash>
+#include <QMainWindow>
+#include <QPointer>
+#include <QTimer>
+
+#include "sim/run_controller.h"
+#include "sim/table_listener.h"
+#include "ui/desktop_front_end.h"
+#include "ui/menu_tree.h"
+#include "ui/status_panel.h"
+
+class BankrollWindow;
+class Dialogs;
+class QAction;
+class SoundBoard;
+class Table;
+class TableFelt;
+
+struct DesktopPaths {
+  QString dataFolder;  // the player's files: games, scripts, sounds
+  QString docsFolder;  // the user guide the help window reads
+};
+
+// The window's own tools beside the table's click tools.
+enum class WindowTool { TableTool, Remove };
+
+class MainWindow : public QMainWindow, public TableListener, public TableScreen {
+  Q_OBJECT
+ public:
+  MainWindow(Table& table, DesktopFrontEnd& frontEnd, Dialogs& dialogs, SoundBoard& sounds, DesktopPaths paths);
+  ~MainWindow() override;
+
+  QAction* Action(MenuCommand command) const { return actions_.value(static_cast<int>(command)); }
+  bool RunUnderWay() const;
+  BankrollWindow* Bankroll() const;
+
+  // --- TableListener ---
+  void BetChanged(int betId, Currency before, Currency after) override;
+  void BankrollChanged(Currency bankroll, Currency rail) override;
+  void PointChanged(int point) override;
+  void DiceThrown(int die1, int die2) override;
+  void UnsavedChanged(bool unsaved) override;
+  void RunStarted() override;
+  void RunStopped(StopReason reason) override;
+
+  // --- TableScreen ---
+  void ShowDice(int die1, int die2, int pointAfter) override;
+  void RedrawBet(int betId) override;
+  void RefreshTable() override;
+  bool IsMinimised() const override { return isMinimized(); }
+
+ signals:
+  void RunFinished();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void BuildMenus();
+  void Perform(MenuCommand command);
+  void UpdateCaption();
+  void UpdateMenus();
+  void UpdateStatus();
+  void ShowLiveFigures();
+  void StartRun(RunKind kind);
+  void StartHyperDrive(int rolls);
+  void ChooseTool(int tool, const QString& prompt);
+  void LeaveToolMode();
+  void OpenGame();
+  void SaveGameAs();
+  void ShowPath();
+  void OpenBankroll();
+  bool AskToStopRun();
+
+  Table& table_;
+  DesktopFrontEnd& frontEnd_;
+  Dialogs& dialogs_;
+  SoundBoard& sounds_;
+  DesktopPaths paths_;
+  TableFelt* felt_ = nullptr;
+  StatusPanel* status_ = nullptr;
+  QPointer<BankrollWindow> bankroll_;
+  QHash<int, QAction*> actions_;
+  QTimer liveTimer_;           // redraws from the run's snapshot while it runs
+  QElapsedTimer runClock_;
+  int64_t rollsAtStart_ = 0;
+  StatusFigures idleFigures_;  // what a run's snapshot does not carry
+  RunKind runKind_ = RunKind::AutoRoll;
+  WindowTool tool_ = WindowTool::TableTool;
+  bool quitAfterRun_ = false;  // Exit was asked during a run: close once it has stopped
+  bool stoppedWhileMinimised_ = false;
+};

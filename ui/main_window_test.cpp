@@ -1,0 +1,205 @@
+// The desktop window driven as a player would, offscreen, with every dialog
+// answered from a queue and every sound recorded.
+#include <QAction>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <deque>
+
+#include "engine/catalogue.h"
+#include "engine/game.h"
+#include "sim/table.h"
+#include "ui/bankroll_window.h"
+#include "ui/dialogs_for_test.h"
+#include "ui/main_window.h"
+#include "ui/sound_board.h"
+
+namespace {
+
+class RecordingSink : public SoundSink {
+ public:
+  void Play(const QString& file, double) override { played.push_back(QFileInfo(file).fileName()); }
+  std::vector<QString> played;
+};
+
+// A window on a table in a fresh data folder that holds a stickman set.
+struct Desk {
+  QTemporaryDir folder;
+  RecordingSink sink;
+  SoundBoard sounds{sink};
+  QueuedDialogs dialogs;
+  DesktopFrontEnd frontEnd{dialogs, sounds};
+  Table table{frontEnd};
+  MainWindow window{table, frontEnd, dialogs, sounds, {folder.path(), {}}};
+
+  Desk() {
+    for (int slot = 1; slot <= 18; ++slot) {
+      QFile call(folder.filePath(QStringLiteral("Stickman%1.stk").arg(slot, 2, 10, QLatin1Char('0'))));
+      call.open(QIODevice::WriteOnly);
+    }
+    sounds.UseFolder(folder.path());
+    frontEnd.SetPauses(false);
+    table.StartUp(folder.path().toStdString(), true);
+  }
+  const Game& g() const { return table.State(); }
+  bool WaitForRunEnd(int ms = 10'000) {
+    QSignalSpy finished(&window, &MainWindow::RunFinished);
+    return !table.Busy() || finished.wait(ms);
+  }
+};
+
+TEST(MainWindow, EveryMenuItemHasItsExactCaption) {
+  Desk d;
+  const std::vector<std::pair<const char*, std::vector<const char*>>> tree = {
+      {"&Game", {"&New", "&Open ...", "&Save", "Sa&ve As ...", "Show &Path", "&Hot-Keys ...", "&Configure ...", "E&xit"}},
+      {"&Action",
+       {"&Roll the Dice  (Right mouse button)", "S&tart Auto-Roll", "&Dice Roll Files ...", "Auto-&Play ...",
+        "Auto-&Bet ...", "\"B&uy\" Place Bet", "Call bet \"O&N\"", "Call &all bets \"ON\"", "Call bet \"O&FF\"",
+        "Call a&ll bets \"OFF\"", "Re&move bet", "Remo&ve all bets", "&Key-in bet amounts", "D&isplay bets as numbers",
+        "Roll your o&wn numbers", "Display &Hop bets"}},
+      {"&Statistics",
+       {"&Games Log ...", "&Summary ...", "&Bankroll / Hyper-Drive ...", "Roll &Totals ...", "Roll &Frequencies ...",
+        "Bet R&esults ...", "Bet T&rends ...", "&Chip Stacks ...", "F&lags ..."}},
+      {"&Help", {"&Contents ...", "&Search ...", "&About Dicemill ..."}},
+  };
+  const QList<QAction*> menus = d.window.menuBar()->actions();
+  ASSERT_EQ(menus.size(), static_cast<qsizetype>(tree.size()));
+  for (size_t m = 0; m < tree.size(); ++m) {
+    EXPECT_EQ(menus[m]->text().toStdString(), tree[m].first);
+    const QList<QAction*> items = menus[m]->menu()->actions();
+    ASSERT_EQ(items.size(), static_cast<qsizetype>(tree[m].second.size())) << tree[m].first;
+    QSet<QChar> mnemonics;
+    for (qsizetype i = 0; i < items.size(); ++i) {
+      const QString caption = items[i]->text();
+      EXPECT_EQ(caption.toStdString(), tree[m].second[static_cast<size_t>(i)]);
+      const QChar mnemonic = caption.at(caption.indexOf('&') + 1).toLower();
+      EXPECT_FALSE(mnemonics.contains(mnemonic)) << caption.toStdString() << " repeats a mnemonic";
+      mnemonics.insert(mnemonic);
+      // Ctrl+letter and Ctrl+digit are the Hot-Keys': no item may take one.
+      const QKeySequence keys = items[i]->shortcut();
+      if (!keys.isEmpty()) {
+        EXPECT_NE(keys[0].keyboardModifiers(), Qt::ControlModifier) << caption.toStdString();
+      }
+    }
+  }
+  EXPECT_EQ(d.window.Action(MenuCommand::RollDice)->shortcut(), QKeySequence(Qt::Key_Space));
+  EXPECT_EQ(d.window.Action(MenuCommand::New)->shortcut(), QKeySequence(QStringLiteral("Ctrl+Shift+N")));
+}
+
+TEST(MainWindow, StartUpCallsANewShooterThenTheComeOut) {
+  Desk d;
+  EXPECT_EQ(d.sink.played, (std::vector<QString>{"Stickman18.stk", "Stickman17.stk"}));
+}
+
+TEST(MainWindow, CaptionFollowsTheGameFile) {
+  Desk d;
+  EXPECT_EQ(d.window.windowTitle(), "Dicemill");
+  d.dialogs.files.push_back(d.folder.filePath("friday.crp").toStdString());
+  d.window.Action(MenuCommand::SaveAs)->trigger();
+  EXPECT_EQ(d.window.windowTitle(), "Dicemill (friday.crp)");
+  d.table.Bet(bet::kPassLine, Currency(10));
+  d.dialogs.replies.push_back(Reply::No);  // "Save Game?": no
+  d.window.Action(MenuCommand::New)->trigger();
+  EXPECT_EQ(d.window.windowTitle(), "Dicemill");
+}
+
+TEST(MainWindow, NewWithUnsavedWorkAsksAndCancelKeepsTheBets) {
+  Desk d;
+  d.table.Bet(bet::kPassLine, Currency(10));
+  d.dialogs.replies.push_back(Reply::Cancel);
+  d.window.Action(MenuCommand::New)->trigger();
+  ASSERT_FALSE(d.dialogs.messages.empty());
+  EXPECT_EQ(d.dialogs.messages.back().title, "Save Game?");
+  EXPECT_EQ(d.g().BetAmount[bet::kPassLine], Currency(10));
+}
+
+TEST(MainWindow, ToolModesPromptAndEscLeavesThem) {
+  Desk d;
+  d.window.Action(MenuCommand::BuyTool)->trigger();
+  EXPECT_EQ(d.g().ClickTool, 89);
+  d.window.Action(MenuCommand::RemoveTool)->trigger();
+  EXPECT_EQ(d.window.findChild<QLabel*>("lblPrompt")->text(), "Click on bet to remove");
+  QTest::keyClick(&d.window, Qt::Key_Escape);
+  EXPECT_EQ(d.g().ClickTool, 1);
+  EXPECT_TRUE(d.window.findChild<QLabel*>("lblPrompt")->text().isEmpty());
+}
+
+// Place 6 for $12 wins with the point on 4; each button of the Winner notice
+// leaves the bet as its caption says.
+TEST(MainWindow, WinnerNoticeButtonsDoWhatTheySay) {
+  struct Case {
+    int button;
+    AmountRule sameBet, bet;
+    Currency after;
+  };
+  const AmountRule none{};
+  const std::vector<Case> cases = {
+      {0, none, none, Currency(0)},                        // Take Bet and Winnings
+      {1, none, none, Currency(12)},                       // Same Bet - Take Winnings
+      {2, none, none, Currency(18)},                       // Press 1 Unit: $6 on a Place 6
+      {3, none, none, Currency(24)},                       // Press - double
+      {4, none, none, Currency(24)},                       // Parlay $14 down to whole units
+      {5, {0, Currency(6), -1}, none, Currency(18)},       // Same Bet: + $6
+      {6, none, {0, Currency(30), -1}, Currency(30)},      // Bet: $30
+  };
+  for (const Case& c : cases) {
+    Desk d;
+    d.table.Roll(2, 2);
+    d.table.Bet(bet::Place(6), Currency(12));
+    d.dialogs.settles.push_back(SettleReply{c.button, c.sameBet, c.bet});
+    d.table.Roll(3, 3);
+    ASSERT_EQ(d.dialogs.notices.size(), 1u) << c.button;
+    const SettleNotice& shown = d.dialogs.notices.front();
+    EXPECT_EQ(shown.title, "* * * Winner * * *");
+    EXPECT_EQ(shown.buttons.size(), 7u);
+    EXPECT_FALSE(shown.rows.empty());
+    EXPECT_EQ(d.g().BetAmount[bet::Place(6)], c.after) << "button " << c.button;
+  }
+}
+
+TEST(MainWindow, HyperDriveRunsLiveStopsAtOnceAndExitAsksFirst) {
+  Desk d;
+  d.window.Action(MenuCommand::Bankroll)->trigger();
+  BankrollWindow* screen = d.window.Bankroll();
+  ASSERT_NE(screen, nullptr);
+  emit screen->StartRequested(10'000'000);
+  ASSERT_TRUE(d.table.Busy());
+  EXPECT_FALSE(d.window.Action(MenuCommand::New)->isEnabled());
+  EXPECT_TRUE(d.window.Action(MenuCommand::Exit)->isEnabled());
+  QTest::qWait(150);
+
+  // Exit asks; No keeps the window and the run.
+  d.window.show();
+  d.dialogs.replies.push_back(Reply::No);
+  d.window.close();
+  EXPECT_TRUE(d.window.isVisible());
+  EXPECT_TRUE(d.table.Busy());
+  ASSERT_FALSE(d.dialogs.messages.empty());
+  EXPECT_EQ(d.dialogs.messages.back().title, "Hyper-Drive Active");
+
+  QElapsedTimer clock;
+  clock.start();
+  emit screen->StopRequested();
+  ASSERT_TRUE(d.WaitForRunEnd(1000));
+  EXPECT_LT(clock.elapsed(), 1000);
+  EXPECT_GT(d.g().RollCounts[0], 0);
+  EXPECT_LT(d.g().RollCounts[0], 10'000'000);
+  EXPECT_TRUE(d.window.Action(MenuCommand::New)->isEnabled());
+}
+
+TEST(MainWindow, RollTheDiceThrowsOnTheRunnerAndRedraws) {
+  Desk d;
+  d.window.Action(MenuCommand::RollDice)->trigger();
+  ASSERT_TRUE(d.WaitForRunEnd());
+  EXPECT_EQ(d.g().RollCounts[0], 1);
+  EXPECT_NE(d.window.findChild<QLabel*>("lblStatus5")->text(), "none yet");
+}
+
+}  // namespace
