@@ -194,6 +194,28 @@ TEST(MainWindow, HyperDriveRunsLiveStopsAtOnceAndExitAsksFirst) {
   EXPECT_TRUE(d.window.Action(MenuCommand::New)->isEnabled());
 }
 
+// A script's question during a visible Auto-Roll comes to this thread, is
+// answered, and the run goes on until stopped.
+TEST(MainWindow, QuestionsDuringAnAutoRollAreAnswered) {
+  Desk d;
+  const QString script = d.folder.filePath("ask.txt");
+  QFile file(script);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("Do this\n  Yes/No question: \"Keep rolling?\"\n");
+  file.close();
+  ASSERT_TRUE(d.table.LoadScript(script.toStdString()).Done());
+  for (int i = 0; i < 50; ++i) d.dialogs.replies.push_back(Reply::Yes);
+  d.window.Action(MenuCommand::AutoRoll)->trigger();
+  ASSERT_TRUE(d.table.Busy());
+  EXPECT_EQ(d.window.Action(MenuCommand::AutoRoll)->text(), "S&top Auto-Roll");
+  QTRY_VERIFY_WITH_TIMEOUT(d.table.LiveSnapshot().Rolls >= 2, 5000);
+  d.window.Action(MenuCommand::AutoRoll)->trigger();
+  ASSERT_TRUE(d.WaitForRunEnd());
+  EXPECT_EQ(d.dialogs.messages.back().text, "Keep rolling?");
+  EXPECT_GE(d.g().RollCounts[0], 2);
+  EXPECT_EQ(d.window.Action(MenuCommand::AutoRoll)->text(), "S&tart Auto-Roll");
+}
+
 TEST(MainWindow, RollTheDiceThrowsOnTheRunnerAndRedraws) {
   Desk d;
   d.window.Action(MenuCommand::RollDice)->trigger();
