@@ -319,13 +319,18 @@ void MainWindow::UpdateStatus() {
   status_->Show(FiguresOf(g));
   felt_->SetPoint(g.Point);
   felt_->SetDice(g.Die1, g.Die2);
+  QList<QPair<QString, QString>> bets;
+  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id)
+    if (g.BetAmount[id] != 0) bets.append({QString::fromStdString(g.BetName[id]), MoneyLabel(g.BetAmount[id])});
+  felt_->SetBets(std::move(bets));
 }
 
 // --- TableListener -----------------------------------------------------------
 
 void MainWindow::BetChanged(int betId, Currency before, Currency after) {
-  if (betId >= bet::kFirstTableBet && betId <= bet::kLastTableBet && after > before && !table_.Busy())
-    sounds_.PlayChips();
+  if (table_.Busy() || betId < bet::kFirstTableBet || betId > bet::kLastTableBet) return;
+  if (after > before) sounds_.PlayChips();
+  UpdateStatus();
 }
 
 void MainWindow::BankrollChanged(Currency, Currency) { UpdateStatus(); }
@@ -365,7 +370,7 @@ void MainWindow::ShowDice(int die1, int die2, int pointAfter) {
   felt_->SetPoint(pointAfter);
 }
 
-void MainWindow::RedrawBet(int) { felt_->update(); }
+void MainWindow::RedrawBet(int) { UpdateStatus(); }
 
 void MainWindow::RefreshTable() {
   UpdateStatus();

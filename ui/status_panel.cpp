@@ -59,7 +59,7 @@ StatusPanel::StatusPanel(QWidget* parent) : QFrame(parent) {
   constexpr int kPerRow = 5;
   for (int i = 0; i < kFieldCount; ++i) {
     auto* caption = new QLabel(tr(kCaptions[i]) + ':', this);
-    caption->setStyleSheet(QStringLiteral("color: palette(mid);"));
+    caption->setStyleSheet(QStringLiteral("color: #5a5a5a;"));
     values_[i] = new QLabel(this);
     values_[i]->setObjectName(QStringLiteral("lblStatus%1").arg(i));
     values_[i]->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -24,12 +24,12 @@ constexpr std::array<std::array<bool, 9>, 7> kPips = {{
     {{1, 0, 1, 1, 0, 1, 1, 0, 1}},
 }};
 
-void PaintPuck(QPainter& p, QPointF centre, qreal radius, int point) {
+void PaintPuck(QPainter& p, const QFont& base, QPointF centre, qreal radius, int point) {
   const bool on = point != 0;
   p.setPen(QPen(Qt::black, radius * 0.06));
   p.setBrush(on ? QColor(0xfa, 0xfa, 0xf5) : QColor(0x22, 0x22, 0x22));
   p.drawEllipse(centre, radius, radius);
-  QFont font = p.font();
+  QFont font = base;
   font.setBold(true);
   font.setPixelSize(static_cast<int>(radius * 0.7));
   p.setFont(font);
@@ -76,6 +76,11 @@ void TableFelt::SetPoint(int point) {
   update();
 }
 
+void TableFelt::SetBets(QList<QPair<QString, QString>> bets) {
+  bets_ = std::move(bets);
+  update();
+}
+
 void TableFelt::SetPrompt(const QString& prompt) {
   prompt_ = prompt;
   update();
@@ -97,7 +102,7 @@ void TableFelt::paintEvent(QPaintEvent*) {
 
   const qreal unit = qMin(felt.width() / 12, felt.height() / 7);
   QFont title = font();
-  title.setPixelSize(static_cast<int>(unit * 0.9));
+  title.setPixelSize(static_cast<int>(unit * 0.75));
   title.setBold(true);
   title.setLetterSpacing(QFont::PercentageSpacing, 130);
   p.setFont(title);
@@ -105,29 +110,43 @@ void TableFelt::paintEvent(QPaintEvent*) {
   p.drawText(QRectF(felt.left(), felt.top() + unit * 0.6, felt.width(), unit * 1.4), Qt::AlignCenter,
              QStringLiteral("DICEMILL"));
 
-  PaintPuck(p, QPointF(felt.left() + unit * 1.5, felt.top() + unit * 1.3), unit * 0.6, point_);
-  if (point_ != 0) {
-    QFont label = font();
-    label.setPixelSize(static_cast<int>(unit * 0.45));
-    p.setFont(label);
-    p.setPen(kLine);
-    p.drawText(QRectF(felt.left() + unit * 2.3, felt.top() + unit * 0.9, unit * 4, unit * 0.8),
-               Qt::AlignLeft | Qt::AlignVCenter, tr("Point is %1").arg(point_));
+  const QPointF puck(felt.left() + unit * 1.4, felt.top() + unit * 1.4);
+  PaintPuck(p, font(), puck, unit * 0.6, point_);
+  QFont label = font();
+  label.setPixelSize(static_cast<int>(qMax<qreal>(12, unit * 0.32)));
+  p.setFont(label);
+  p.setPen(kLine);
+  p.drawText(QRectF(puck.x() - unit * 1.2, puck.y() + unit * 0.7, unit * 2.4, unit * 0.6), Qt::AlignCenter,
+             point_ != 0 ? tr("Point %1").arg(point_) : tr("Come-out"));
+
+  if (!bets_.isEmpty()) {
+    // What stands on the layout, until the layout itself is drawn.
+    QFont list = font();
+    list.setPixelSize(static_cast<int>(qMax<qreal>(12, unit * 0.26)));
+    p.setFont(list);
+    const qreal line = unit * 0.4;
+    QRectF row(felt.left() + unit * 0.6, puck.y() + unit * 1.5, unit * 3.2, line);
+    for (const auto& [name, amount] : bets_) {
+      p.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, name);
+      p.drawText(row, Qt::AlignRight | Qt::AlignVCenter, amount);
+      row.translate(0, line);
+    }
   }
 
   const qreal side = unit * 1.4;
-  const QPointF centre = felt.center();
+  const QPointF centre = felt.center() - QPointF(0, unit * 0.2);
   if (die1_ != 0) {
     PaintDie(p, QRectF(centre.x() - side * 1.15, centre.y() - side / 2, side, side), die1_);
     PaintDie(p, QRectF(centre.x() + side * 0.15, centre.y() - side / 2, side, side), die2_);
   }
 
   QFont small = font();
-  small.setPixelSize(static_cast<int>(qMax<qreal>(12, unit * 0.35)));
+  small.setPixelSize(static_cast<int>(qMax<qreal>(12, unit * 0.28)));
   p.setFont(small);
   p.setPen(kLine);
   const QString hint = prompt_.isEmpty() ? tr("Right click or Space to roll") : prompt_;
-  p.drawText(QRectF(felt.left(), felt.bottom() - unit * 1.2, felt.width(), unit), Qt::AlignCenter, hint);
+  p.drawText(QRectF(felt.left(), felt.bottom() - unit * 0.9, felt.width() - unit * 0.5, unit * 0.6),
+             Qt::AlignRight | Qt::AlignVCenter, hint);
 }
 
 void TableFelt::mousePressEvent(QMouseEvent* event) {

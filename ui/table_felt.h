@@ -3,6 +3,8 @@
 // the point, the last throw's dice and the prompt of a tool mode. A right
 // click rolls, as it does on the full layout.
 
+#include <QList>
+#include <QPair>
 #include <QString>
 #include <QWidget>
 
@@ -14,6 +16,8 @@ class TableFelt : public QWidget {
   void SetDice(int die1, int die2);
   void SetPoint(int point);
   void SetPrompt(const QString& prompt);
+  // The bets on the layout as name and amount, in layout order.
+  void SetBets(QList<QPair<QString, QString>> bets);
 
   QSize sizeHint() const override { return {900, 520}; }
 
@@ -27,6 +31,7 @@ class TableFelt : public QWidget {
  private:
   int die1_ = 0, die2_ = 0, point_ = 0;
   QString prompt_;
+  QList<QPair<QString, QString>> bets_;
 };
 
 // One die's face, pips and all, in `box` (also used by the screens that show dice).
