@@ -59,7 +59,7 @@ TEST(HeadlessFrontEnd, NumberPromptsTakeAQueuedValueElseTheOffer) {
 
 TEST(HeadlessFrontEnd, SettleNoticesShowRowsAndTakeButtonWords) {
   Screen s;
-  SettleNotice n{"Place 6 Bet Won", {{"Payoff at 7 to 6 for $6:", "$7"}, {"Net payoff:", "$7"}}, {}, true};
+  SettleNotice n{"Place 6 Bet Won", {{"Payoff at 7 to 6 for $6:", "$7"}, {"Net payoff:", "$7"}}, {}, true, {}, {}};
   EXPECT_FALSE(s.ui.ShowSettleNotice(n));
   EXPECT_EQ(s.Printed(), Json::parse(R"({"message":{"title":"Place 6 Bet Won",
       "text":"Payoff at 7 to 6 for $6:\t$7\rNet payoff:\t$7","reply":"same"}})"));

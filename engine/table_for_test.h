@@ -57,8 +57,9 @@ class RecordingFrontEnd : public FrontEnd {
   }
   std::optional<SettleReply> ShowSettleNotice(const SettleNotice& notice) override {
     notices.push_back(notice);
-    if (settleReplies.empty()) return std::nullopt;
-    return SettleReply{Pop(settleReplies), notice.sameBet, notice.bet};
+    const std::optional<int> button = settleReplies.empty() ? std::nullopt : Pop(settleReplies);
+    if (!button) return std::nullopt;
+    return SettleReply{*button, notice.sameBet, notice.bet};
   }
   void ShowThrow(int, int, int) override { ++throws; }
   void RollFinished(StopReason reason) override { stopReason = reason; }
