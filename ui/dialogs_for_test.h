@@ -1,8 +1,8 @@
 #pragma once
 // Dialogs that answer from queues and record every question, for tests that
-// drive the desktop program without a modal loop. An empty queue answers as a
-// player who only closes things would: OK, No, Cancel, the offered amounts,
-// the table's default for notices, no file.
+// drive the desktop program without a modal loop. An empty queue answers as
+// a silent screen would: OK, No, Cancel, the offered amounts, the table's
+// default for notices, no file.
 
 #include <deque>
 #include <optional>
@@ -14,51 +14,55 @@
 
 class QueuedDialogs : public Dialogs {
  public:
-  struct NumberAsked {
-    std::string title, text;
-    Currency offered;
-  };
   struct FileAsked {
     std::string title, pattern;
     FileMode mode;
   };
 
-  // Answers, taken from the front.
-  std::deque<MessageAnswer> answers;
+  // Answers, taken from the front. Replies answer questions (Yes/No) only: an
+  // OK message takes none, so a test queues just what it decides.
+  std::deque<Reply> replies;
+  // Taken by messages that offer "Don't show this again".
+  std::deque<bool> dontShowAgain;
   std::deque<std::optional<Currency>> numbers;
   std::deque<std::optional<std::pair<Currency, Currency>>> numberPairs;
-  std::deque<std::optional<SettleReply>> settleReplies;
-  std::deque<std::optional<std::string>> fileNames;
+  std::deque<std::optional<SettleReply>> settles;
+  std::deque<std::optional<std::string>> files;
 
-  // Questions, in the order asked.
+  // Every message and prompt in the order shown (a prompt as its title and
+  // text, a two-amount prompt with its first label as text).
   std::vector<MessageRequest> messages;
-  std::vector<NumberAsked> numbersAsked;
-  std::vector<TwoNumberRequest> numberPairsAsked;
+  std::vector<Currency> offered;  // the amounts the prompts offered
   std::vector<SettleNotice> notices;
   std::vector<FileAsked> filesAsked;
 
   MessageAnswer Message(const MessageRequest& request) override {
     messages.push_back(request);
-    const Reply closed = request.buttons == Buttons::Ok            ? Reply::Ok
-                         : request.buttons == Buttons::YesNoCancel ? Reply::Cancel
-                                                                   : Reply::No;
-    return Take(answers, MessageAnswer{closed, false});
+    MessageAnswer answer;
+    answer.reply = request.buttons == Buttons::Ok            ? Reply::Ok
+                   : request.buttons == Buttons::YesNoCancel ? Take(replies, Reply::Cancel)
+                                                             : Take(replies, Reply::No);
+    if (request.offerDontShow) answer.dontShowAgain = Take(dontShowAgain, false);
+    return answer;
   }
-  std::optional<Currency> Number(const std::string& title, const std::string& text, Currency offered) override {
-    numbersAsked.push_back({title, text, offered});
-    return Take(numbers, std::optional<Currency>(offered));
+  std::optional<Currency> Number(const std::string& title, const std::string& text, Currency amount) override {
+    messages.push_back({title, text, Buttons::Ok, false});
+    offered.push_back(amount);
+    return Take(numbers, std::optional<Currency>(amount));
   }
   std::optional<std::pair<Currency, Currency>> TwoNumbers(const TwoNumberRequest& request) override {
-    numberPairsAsked.push_back(request);
+    messages.push_back({request.title, request.firstLabel, Buttons::Ok, false});
+    offered.push_back(request.first);
+    offered.push_back(request.second);
     return Take(numberPairs, std::optional<std::pair<Currency, Currency>>({request.first, request.second}));
   }
   std::optional<SettleReply> Settle(const SettleNotice& notice) override {
     notices.push_back(notice);
-    return Take(settleReplies, std::optional<SettleReply>());
+    return Take(settles, std::optional<SettleReply>());
   }
   std::optional<std::string> FileName(const std::string& title, const std::string& pattern, FileMode mode) override {
     filesAsked.push_back({title, pattern, mode});
-    return Take(fileNames, std::optional<std::string>());
+    return Take(files, std::optional<std::string>());
   }
 
  private:

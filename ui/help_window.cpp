@@ -30,8 +30,10 @@ const QString kKeyboardTitle = QStringLiteral("Keyboard");
 
 // A heading or line as it reads once rendered: no marks of the Markdown.
 QString Plain(QString line) {
-  static const QRegularExpression marks(QStringLiteral("^#+\\s*|[`*_]|^\\s*[-|>]\\s*"));
+  static const QRegularExpression marks(QStringLiteral("^#+\\s*|[`*]|^\\s*[->]\\s"));
   line.remove(marks);
+  // Table rows read as their cells side by side.
+  line.replace(QChar('|'), QChar(' '));
   return line.simplified();
 }
 

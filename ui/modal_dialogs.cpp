@@ -44,7 +44,7 @@ QString WithExtension(const QString& path, const std::string& pattern) {
   return path + QChar('.') + extension;
 }
 
-ModalDialogs::ModalDialogs(QWidget* parent, QString startFolder) : parent_(parent), folder_(std::move(startFolder)) {}
+ModalDialogs::ModalDialogs(QString startFolder, QWidget* parent) : parent_(parent), folder_(std::move(startFolder)) {}
 
 MessageAnswer ModalDialogs::Message(const MessageRequest& request) {
   MessageDialog dialog(request, parent_);

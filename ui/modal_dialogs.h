@@ -15,8 +15,11 @@ QString WithExtension(const QString& path, const std::string& pattern);
 
 class ModalDialogs : public Dialogs {
  public:
-  // File dialogs open in `startFolder` at first, then where the player last chose a file.
-  ModalDialogs(QWidget* parent, QString startFolder);
+  // File dialogs open in `startFolder` at first, then where the player last
+  // chose a file. The parent may come later: the main window needs the
+  // dialogs before it exists.
+  explicit ModalDialogs(QString startFolder, QWidget* parent = nullptr);
+  void SetParent(QWidget* parent) { parent_ = parent; }
 
   MessageAnswer Message(const MessageRequest& request) override;
   std::optional<Currency> Number(const std::string& title, const std::string& text, Currency offered) override;

@@ -30,7 +30,7 @@ TEST(FileNames, FilterAndExtensionFollowThePattern) {
 
 TEST(ModalDialogs, ShowsAMessageModallyAndReturnsTheClick) {
   QWidget window;
-  ModalDialogs dialogs(&window, QString());
+  ModalDialogs dialogs(QString(), &window);
   // The modal loop runs until the queued click closes the dialog.
   QTimer::singleShot(0, [] {
     QWidget* shown = QApplication::activeModalWidget();
@@ -40,21 +40,31 @@ TEST(ModalDialogs, ShowsAMessageModallyAndReturnsTheClick) {
   EXPECT_EQ(dialogs.Message({"Save Game?", "Save?", Buttons::YesNoCancel, false}).reply, Reply::No);
 }
 
-TEST(QueuedDialogs, AnswersFromTheQueueThenAsAPlayerWhoClosesEverything) {
+TEST(QueuedDialogs, AnswersQuestionsFromTheQueueThenAsASilentScreen) {
   QueuedDialogs dialogs;
-  dialogs.answers.push_back({Reply::Yes, true});
+  dialogs.replies.push_back(Reply::Yes);
+  dialogs.dontShowAgain.push_back(true);
   dialogs.numbers.push_back(std::nullopt);
-  const MessageRequest asked{"Auto-Bet", "Go on?", Buttons::YesNo, true};
-  EXPECT_EQ(dialogs.Message(asked).reply, Reply::Yes);
-  EXPECT_EQ(dialogs.Message(asked).reply, Reply::No);
-  EXPECT_EQ(dialogs.Message({"Save Game?", "", Buttons::YesNoCancel, false}).reply, Reply::Cancel);
+  const MessageRequest notice{"Place 6 Bet", "Maximum", Buttons::Ok, true};
+  const MessageRequest question{"Auto-Bet", "Go on?", Buttons::YesNo, false};
+  // The OK notice takes no reply from the queue, only its tick.
+  const std::vector<std::pair<MessageRequest, MessageAnswer>> cases = {
+      {notice, {Reply::Ok, true}},
+      {question, {Reply::Yes, false}},
+      {question, {Reply::No, false}},
+      {{"Save Game?", "", Buttons::YesNoCancel, false}, {Reply::Cancel, false}},
+      {notice, {Reply::Ok, false}},
+  };
+  for (const auto& [request, answer] : cases) {
+    const MessageAnswer got = dialogs.Message(request);
+    EXPECT_EQ(got.reply, answer.reply) << request.title;
+    EXPECT_EQ(got.dontShowAgain, answer.dontShowAgain) << request.title;
+  }
   EXPECT_EQ(dialogs.Number("RNG Seed", "", 7), std::nullopt);
   EXPECT_EQ(dialogs.Number("RNG Seed", "", 7), Currency(7));
   EXPECT_EQ(dialogs.Settle(SettleNotice{}), std::nullopt);
   EXPECT_EQ(dialogs.FileName("Save Game File As", "*.crp", FileMode::Save), std::nullopt);
-  EXPECT_EQ(dialogs.messages.size(), 3u);
-  EXPECT_TRUE(dialogs.messages[0].offerDontShow);
-  EXPECT_EQ(dialogs.numbersAsked.size(), 2u);
+  EXPECT_EQ(dialogs.messages.size(), cases.size() + 2);
   EXPECT_EQ(dialogs.filesAsked.at(0).pattern, "*.crp");
 }
 

@@ -3,6 +3,7 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -191,6 +192,16 @@ QWidget* SettleNoticeDialog::EntryControls(Entry& entry, int button, bool withOp
     error_->hide();
   });
   return box;
+}
+
+void SettleNoticeDialog::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const QWidget* focus = focusWidget();
+  if (enter && focus != nullptr && (focus == sameBet_.amount || focus == bet_.amount)) {
+    event->accept();
+    return;
+  }
+  QDialog::keyPressEvent(event);
 }
 
 bool SettleNoticeDialog::ReadEntry(Entry& entry) {

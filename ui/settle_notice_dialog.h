@@ -9,6 +9,7 @@
 
 #include "engine/frontend.h"
 
+class QKeyEvent;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -26,6 +27,11 @@ class SettleNoticeDialog : public QDialog {
 
   // The button pressed with both entries, or nullopt when the window closed.
   std::optional<SettleReply> Answer() const { return answer_; }
+
+ protected:
+  // Enter in an amount entry answers with that entry's button, never also
+  // with the default one.
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   // One amount entry: the rule it edits and its controls (no operator beside

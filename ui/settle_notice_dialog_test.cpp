@@ -72,8 +72,14 @@ TEST(SettleNoticeDialog, AnswersWithTheButtonAndBothEntries) {
 TEST(SettleNoticeDialog, RefusesAnUnreadableEntryAndClosingLeavesTheChoice) {
   SettleNoticeDialog dialog(SampleWonNotice());
   dialog.show();
-  dialog.findChild<QLineEdit*>("txtModifyAmount6")->setText("200,000");
+  auto* entry = dialog.findChild<QLineEdit*>("txtModifyAmount6");
+  entry->setText("200,000");
   Button(dialog, "cmdHandle6")->click();
+  EXPECT_TRUE(dialog.isVisible());
+  // Enter in the refused entry must not fall through to the default button.
+  dialog.activateWindow();
+  entry->setFocus();
+  QTest::keyClick(entry, Qt::Key_Return);
   EXPECT_TRUE(dialog.isVisible());
   EXPECT_TRUE(dialog.findChild<QLabel*>("lblModifyError")->isVisible());
   QTest::keyClick(&dialog, Qt::Key_Escape);
