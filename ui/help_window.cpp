@@ -13,6 +13,8 @@
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QTextDocument>
+#include <QTextFrame>
+#include <QTextTable>
 #include <QTextStream>
 #include <QTreeWidget>
 #include <QUrl>
@@ -54,6 +56,23 @@ QString Snippet(const QString& line) {
   QString text = Plain(line);
   if (text.size() > kSnippetLength) text = text.left(kSnippetLength - 1) + QChar(0x2026);
   return text;
+}
+
+// Markdown tables come out with their cells touching; give them room to read.
+void PadTables(QTextFrame* frame) {
+  for (QTextFrame* child : frame->childFrames()) {
+    if (auto* table = qobject_cast<QTextTable*>(child)) {
+      QTextTableFormat format = table->format();
+      format.setCellPadding(5);
+      format.setCellSpacing(0);
+      format.setBorder(1);
+      format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+      format.setBorderCollapse(true);
+      format.setBorderBrush(QColor(0xc8, 0xc8, 0xc8));
+      table->setFormat(format);
+    }
+    PadTables(child);
+  }
 }
 
 QString EscapeCell(QString text) { return text.replace(QChar('|'), QStringLiteral("\\|")); }
@@ -164,6 +183,7 @@ void HelpWindow::ShowDocument(int index) {
   // Pictures and links in a document are relative to its folder.
   browser_->document()->setBaseUrl(QUrl::fromLocalFile(folder_ + QStringLiteral("/")));
   browser_->setMarkdown(documents_[index].markdown);
+  PadTables(browser_->document()->rootFrame());
   browser_->setExtraSelections({});
   if (contents_->currentRow() != index) {
     const QSignalBlocker quiet(contents_);
