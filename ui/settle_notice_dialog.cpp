@@ -96,8 +96,9 @@ void SettleNoticeDialog::AddRows(const SettleNotice& notice, QVBoxLayout* layout
   grid->setColumnStretch(0, 1);
   int line = 0;
   for (size_t i = 0; i < notice.rows.size(); ++i) {
-    const bool last = i + 1 == notice.rows.size();
-    // The last row is the sum of those above it, ruled off as on a slip.
+    // The last row is the sum of those above it, ruled off as on a slip; a
+    // last row without an amount only goes on with the one above.
+    const bool last = i + 1 == notice.rows.size() && !notice.rows[i].second.empty();
     if (last && i > 0) {
       auto* rule = new QFrame(this);
       rule->setObjectName("linTotal");
