@@ -19,18 +19,18 @@ Reply EscapeReply(Buttons buttons) {
   return Reply::Ok;
 }
 
-struct ButtonSpec {
+struct ButtonChoice {
   Reply reply;
   const char* caption;
   const char* objectName;
   QDialogButtonBox::ButtonRole role;
 };
 
-std::vector<ButtonSpec> SpecsOf(Buttons buttons) {
-  const ButtonSpec ok{Reply::Ok, "OK", "cmdOk", QDialogButtonBox::AcceptRole};
-  const ButtonSpec yes{Reply::Yes, "&Yes", "cmdYes", QDialogButtonBox::YesRole};
-  const ButtonSpec no{Reply::No, "&No", "cmdNo", QDialogButtonBox::NoRole};
-  const ButtonSpec cancel{Reply::Cancel, "Cancel", "cmdCancel", QDialogButtonBox::RejectRole};
+std::vector<ButtonChoice> ChoicesOf(Buttons buttons) {
+  const ButtonChoice ok{Reply::Ok, "OK", "cmdOk", QDialogButtonBox::AcceptRole};
+  const ButtonChoice yes{Reply::Yes, "&Yes", "cmdYes", QDialogButtonBox::YesRole};
+  const ButtonChoice no{Reply::No, "&No", "cmdNo", QDialogButtonBox::NoRole};
+  const ButtonChoice cancel{Reply::Cancel, "Cancel", "cmdCancel", QDialogButtonBox::RejectRole};
   switch (buttons) {
     case Buttons::Ok: return {ok};
     case Buttons::YesNo: return {yes, no};
@@ -75,13 +75,13 @@ MessageDialog::MessageDialog(const MessageRequest& request, QWidget* parent)
   body->addWidget(text, 1);
 
   auto* box = new QDialogButtonBox(this);
-  for (const ButtonSpec& spec : SpecsOf(request.buttons)) {
-    QPushButton* button = box->addButton(QString::fromLatin1(spec.caption), spec.role);
-    button->setObjectName(spec.objectName);
-    const Reply reply = spec.reply;
+  for (const ButtonChoice& choice : ChoicesOf(request.buttons)) {
+    QPushButton* button = box->addButton(QString::fromLatin1(choice.caption), choice.role);
+    button->setObjectName(choice.objectName);
+    const Reply reply = choice.reply;
     connect(button, &QPushButton::clicked, this, [this, reply] { Finish(reply); });
     // Yes is the default when asked; OK when it is the only answer.
-    if (spec.reply == Reply::Yes || spec.reply == Reply::Ok) button->setDefault(true);
+    if (choice.reply == Reply::Yes || choice.reply == Reply::Ok) button->setDefault(true);
   }
 
   auto* layout = new QVBoxLayout(this);
