@@ -15,8 +15,10 @@
 #include "engine/table_commands.h"
 #include "sim/run_snapshot.h"
 #include "sim/table.h"
+#include "ui/about_dialog.h"
 #include "ui/bankroll_window.h"
 #include "ui/dialogs.h"
+#include "ui/help_window.h"
 #include "ui/sound_board.h"
 #include "ui/status_panel.h"
 #include "ui/table_felt.h"
@@ -32,8 +34,7 @@ constexpr std::array kScreensToCome = {
     MenuCommand::HotKeys,     MenuCommand::Configure,  MenuCommand::DiceRollFiles,   MenuCommand::AutoPlay,
     MenuCommand::AutoBet,     MenuCommand::RollYourOwn, MenuCommand::GamesLog,       MenuCommand::Summary,
     MenuCommand::RollTotals,  MenuCommand::RollFrequencies, MenuCommand::BetResults, MenuCommand::BetTrends,
-    MenuCommand::ChipStacks,  MenuCommand::Flags,      MenuCommand::Contents,        MenuCommand::Search,
-    MenuCommand::About,
+    MenuCommand::ChipStacks,  MenuCommand::Flags,
 };
 
 bool ScreenToCome(MenuCommand command) {
@@ -86,6 +87,8 @@ MainWindow::~MainWindow() {
 bool MainWindow::RunUnderWay() const { return table_.Busy(); }
 
 BankrollWindow* MainWindow::Bankroll() const { return bankroll_; }
+
+HelpWindow* MainWindow::Help() const { return help_; }
 
 void MainWindow::BuildMenus() {
   QHash<QString, QMenu*> menus;
@@ -142,6 +145,9 @@ void MainWindow::Perform(MenuCommand command) {
     case BetsAsNumbers:
     case HopBets: QSettings().setValue(ViewSetting(command), Action(command)->isChecked()); break;
     case Bankroll: OpenBankroll(); break;
+    case Contents: OpenHelp(false); break;
+    case Search: OpenHelp(true); break;
+    case About: AboutDialog(QApplication::applicationVersion(), this).exec(); break;
     default: break;  // the screens to come: their items are disabled
   }
 }
@@ -203,6 +209,35 @@ void MainWindow::OpenBankroll() {
   bankroll_->show();
   bankroll_->raise();
   bankroll_->activateWindow();
+}
+
+std::vector<HelpShortcut> MainWindow::Shortcuts() const {
+  std::vector<HelpShortcut> keys;
+  for (const MenuItemSpec& spec : MainMenuItems()) {
+    if (!*spec.shortcut) continue;
+    QString what = tr(spec.caption).remove('&');
+    keys.push_back({QKeySequence(QString::fromLatin1(spec.shortcut)).toString(QKeySequence::NativeText), what});
+  }
+  keys.push_back({tr("Right click on the table"), tr("Roll the dice")});
+  keys.push_back({tr("Esc"), tr("Stop a run; otherwise leave a tool mode")});
+  keys.push_back({tr("Ctrl+A .. Ctrl+Z, Ctrl+0 .. Ctrl+9"), tr("Run the Hot-Key bound to the key")});
+  return keys;
+}
+
+void MainWindow::OpenHelp(bool search) {
+  if (!help_) {
+    const QString readme = QDir(paths_.docsFolder).filePath(QStringLiteral("../README.md"));
+    help_ = new HelpWindow(paths_.docsFolder, QFileInfo::exists(readme) ? readme : QString(), this);
+    help_->setWindowFlag(Qt::Window);
+    help_->setAttribute(Qt::WA_DeleteOnClose);
+    help_->SetShortcuts(Shortcuts());
+  }
+  if (search)
+    help_->ShowSearch();
+  else
+    help_->ShowContents();
+  help_->show();
+  help_->raise();
 }
 
 void MainWindow::StartHyperDrive(int rolls) {

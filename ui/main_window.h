@@ -9,6 +9,7 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
+#include <vector>
 
 #include "sim/run_controller.h"
 #include "sim/table_listener.h"
@@ -17,6 +18,8 @@
 #include "ui/status_panel.h"
 
 class BankrollWindow;
+class HelpWindow;
+struct HelpShortcut;
 class Dialogs;
 class QAction;
 class SoundBoard;
@@ -40,6 +43,9 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   QAction* Action(MenuCommand command) const { return actions_.value(static_cast<int>(command)); }
   bool RunUnderWay() const;
   BankrollWindow* Bankroll() const;
+  HelpWindow* Help() const;
+  // The keys the window answers, for the help's keyboard page.
+  std::vector<HelpShortcut> Shortcuts() const;
 
   // --- TableListener ---
   void BetChanged(int betId, Currency before, Currency after) override;
@@ -79,6 +85,7 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   void SaveGameAs();
   void ShowPath();
   void OpenBankroll();
+  void OpenHelp(bool search);
   bool AskToStopRun();
 
   Table& table_;
@@ -89,6 +96,7 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   TableFelt* felt_ = nullptr;
   StatusPanel* status_ = nullptr;
   QPointer<BankrollWindow> bankroll_;
+  QPointer<HelpWindow> help_;
   QHash<int, QAction*> actions_;
   QTimer liveTimer_;           // redraws from the run's snapshot while it runs
   QElapsedTimer runClock_;

@@ -9,7 +9,13 @@
 
 #include "engine/catalogue.h"
 #include "sim/table.h"
+#include "ui/about_dialog.h"
 #include "ui/desktop_front_end.h"
+#include "ui/dialog_samples.h"
+#include "ui/help_window.h"
+#include "ui/message_dialog.h"
+#include "ui/number_prompt.h"
+#include "ui/settle_notice_dialog.h"
 #include "ui/main_window.h"
 #include "ui/picture_dialogs.h"
 #include "ui/sound_board.h"
@@ -55,5 +61,20 @@ int WriteScreenshots(const QString& folder, const DesktopPaths& paths) {
     return 1;
   }
   bool all = SaveMainWindow(folder, paths);
+  MessageDialog message(SampleMessage());
+  all = Save(message, folder, QStringLiteral("message")) && all;
+  SettleNoticeDialog winner(SampleWonNotice());
+  all = Save(winner, folder, QStringLiteral("notice-winner")) && all;
+  SettleNoticeDialog lost(SampleLostNotice());
+  all = Save(lost, folder, QStringLiteral("notice-lost")) && all;
+  const NumberPromptSample sample = SampleNumberPrompt();
+  NumberPrompt prompt(sample.title, sample.text, sample.offered);
+  all = Save(prompt, folder, QStringLiteral("prompt-number")) && all;
+  AboutDialog about(QStringLiteral(DICEMILL_VERSION));
+  all = Save(about, folder, QStringLiteral("about")) && all;
+  HelpWindow help(paths.docsFolder, QDir(paths.docsFolder).filePath(QStringLiteral("../README.md")));
+  help.resize(960, 680);
+  help.ShowContents();
+  all = Save(help, folder, QStringLiteral("help")) && all;
   return all ? 0 : 1;
 }
