@@ -120,6 +120,20 @@ TEST(MainWindow, NewWithUnsavedWorkAsksAndCancelKeepsTheBets) {
   EXPECT_EQ(d.g().BetAmount[bet::kPassLine], Currency(10));
 }
 
+// A notice that a switch governs offers "Don't show this again"; ticking it
+// turns the switch off, so the next such notice stays away.
+TEST(MainWindow, DontShowAgainTurnsTheNoticeSwitchOff) {
+  Desk d;
+  d.dialogs.dontShowAgain.push_back(true);
+  d.table.Bet(bet::Place(6), Currency(100'000));
+  ASSERT_EQ(d.dialogs.messages.size(), 1u);
+  EXPECT_TRUE(d.dialogs.messages.front().offerDontShow);
+  EXPECT_EQ(d.g().NoticeMask & kNoticeLimits, 0);
+  EXPECT_NE(d.g().NoticeMask & kNoticeRefusals, 0);
+  d.table.Bet(bet::Place(8), Currency(100'000));
+  EXPECT_EQ(d.dialogs.messages.size(), 1u);
+}
+
 TEST(MainWindow, ToolModesPromptAndEscLeavesThem) {
   Desk d;
   d.window.Action(MenuCommand::BuyTool)->trigger();
