@@ -31,7 +31,10 @@ function(dicemill_install_desktop_program_and_package)
     # Qt reads SVG pictures through a plugin that no program links, so
     # dpkg-shlibdeps cannot see it.
     set(CPACK_DEBIAN_PACKAGE_RECOMMENDS libqt6svg6)
+    set(app_path $<TARGET_FILE:dicemill_app>)
   endif()
+  # scripts/run.sh opens the table from here, when there is one.
+  file(GENERATE OUTPUT ${CMAKE_BINARY_DIR}/desktop-program-path.txt CONTENT "${app_path}")
   set(CPACK_PACKAGE_NAME dicemill)
   set(CPACK_PACKAGE_VENDOR Dicemill)
   set(CPACK_PACKAGE_CONTACT "Dicemill <dev@dicemill.invalid>")
