@@ -16,10 +16,6 @@ file(GLOB DICEMILL_DOCS CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/docs/*.md)
 install(FILES ${DICEMILL_DOCS} DESTINATION ${DICEMILL_SHARE_DIR}/docs)
 install(FILES ${DICEMILL_DOCS} README.md DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/dicemill)
 
-install(FILES packaging/org.dicemill.Dicemill.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES packaging/org.dicemill.Dicemill.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-install(FILES packaging/org.dicemill.Dicemill.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-
 # The desktop program only exists where Qt was found, and its folder may be
 # added after this file is read: it and the package, whose contents depend on
 # it, wait for the end of the top folder's configuration.
@@ -27,6 +23,11 @@ function(dicemill_install_desktop_program_and_package)
   set(programs "the command line dicemill-cli")
   if(TARGET dicemill_app)
     install(TARGETS dicemill_app RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    # Menus and software centres list the program only where it is installed.
+    install(FILES packaging/org.dicemill.Dicemill.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+    install(FILES packaging/org.dicemill.Dicemill.svg
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+    install(FILES packaging/org.dicemill.Dicemill.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
     set(programs "the desktop program dicemill, ${programs}")
     # Qt reads SVG pictures through a plugin that no program links, so
     # dpkg-shlibdeps cannot see it.

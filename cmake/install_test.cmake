@@ -15,14 +15,11 @@ if(NOT result EQUAL 0)
 endif()
 
 set(share share/dicemill)
-set(expected
-    bin/dicemill-cli
-    share/applications/org.dicemill.Dicemill.desktop
-    share/icons/hicolor/scalable/apps/org.dicemill.Dicemill.svg
-    share/metainfo/org.dicemill.Dicemill.metainfo.xml
-    share/doc/dicemill/README.md)
+set(expected bin/dicemill-cli share/doc/dicemill/README.md)
 if(APP)
-  list(APPEND expected bin/dicemill)
+  list(APPEND expected bin/dicemill share/applications/org.dicemill.Dicemill.desktop
+       share/icons/hicolor/scalable/apps/org.dicemill.Dicemill.svg
+       share/metainfo/org.dicemill.Dicemill.metainfo.xml)
 endif()
 # Each shipped file, from the tree, so that a file added later is checked too.
 foreach(pair "samples/*;${share}/samples" "data/sounds/*;${share}/sounds" "docs/*.md;${share}/docs"
