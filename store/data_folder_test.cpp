@@ -7,6 +7,8 @@
 #include <map>
 
 #include "cli/temp_folder_for_test.h"
+#include "store/sound_sets.h"
+#include "test_paths.h"
 
 namespace fs = std::filesystem;
 
@@ -114,4 +116,23 @@ TEST(DataFolder, SeedingReportsWhatItCannotDo) {
       EXPECT_EQ(error, "");
     }
   }
+}
+
+TEST(DataFolder, ShippedSoundsAreOneWholeSetOfEachKind) {
+  const fs::path sounds = SourceTreeFolders(DICEMILL_SOURCE_DIR).sounds;
+  const SoundSets sets = ListSoundSets(sounds.string());
+  EXPECT_EQ(sets.Stickman, std::vector<std::string>{"Stickman"});
+  EXPECT_EQ(sets.Dice, std::vector<std::string>{"Dice"});
+  EXPECT_EQ(sets.Win, std::vector<std::string>{"Win"});
+  EXPECT_EQ(sets.Chips, std::vector<std::string>{"Chips"});
+  std::vector<std::string> names{"Chips.wav"};
+  for (int slot = 1; slot <= 18; ++slot) {
+    names.push_back((slot < 10 ? "Stickman0" : "Stickman") + std::to_string(slot) + ".stk");
+  }
+  for (const auto& [name, bytes] : Files(sounds)) {
+    // Played as WAV whatever the extension says.
+    EXPECT_TRUE(bytes.starts_with("RIFF") && bytes.substr(8, 4) == "WAVE") << name;
+    std::erase(names, name);
+  }
+  EXPECT_TRUE(names.empty()) << "missing: " << names.front();
 }
