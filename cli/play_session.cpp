@@ -6,7 +6,6 @@
 
 #include "cli/command_error.h"
 #include "cli/command_words.h"
-#include "cli/data_folder.h"
 #include "cli/interrupt.h"
 #include "cli/json_lines.h"
 #include "cli/settings_registry.h"
@@ -15,6 +14,7 @@
 #include "engine/game.h"
 #include "sim/table.h"
 #include "sim/table_limits.h"
+#include "store/data_folder.h"
 
 struct PlaySession::Command {
   const char* word;

@@ -1,8 +1,11 @@
 #!/usr/bin/env bash
-# Installs the Debian packages the build needs, only those that are missing.
+# Installs the Debian packages the build needs, only those that are missing:
+# the toolchain and libraries, Qt 6 for the desktop program, Xvfb to show it
+# without a screen, and dpkg-dev for the Debian package's dependencies.
 set -euo pipefail
 
-packages=(build-essential clang cmake libgtest-dev libgmock-dev libbenchmark-dev libcli11-dev nlohmann-json3-dev ccache)
+packages=(build-essential clang cmake libgtest-dev libgmock-dev libbenchmark-dev libcli11-dev nlohmann-json3-dev ccache
+  qt6-base-dev qt6-multimedia-dev qt6-svg-dev xvfb xauth dpkg-dev)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
