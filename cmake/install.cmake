@@ -14,6 +14,8 @@ install(DIRECTORY data/sounds/ DESTINATION ${DICEMILL_SHARE_DIR}/sounds)
 # where Debian keeps documentation too.
 file(GLOB DICEMILL_DOCS CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/docs/*.md)
 install(FILES ${DICEMILL_DOCS} DESTINATION ${DICEMILL_SHARE_DIR}/docs)
+# The help opens on the README, as "Getting started".
+install(FILES README.md DESTINATION ${DICEMILL_SHARE_DIR})
 install(FILES ${DICEMILL_DOCS} README.md DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/dicemill)
 
 # The desktop program only exists where Qt was found, and its folder may be

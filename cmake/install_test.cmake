@@ -15,7 +15,7 @@ if(NOT result EQUAL 0)
 endif()
 
 set(share share/dicemill)
-set(expected bin/dicemill-cli share/doc/dicemill/README.md)
+set(expected bin/dicemill-cli share/doc/dicemill/README.md share/dicemill/README.md)
 if(APP)
   list(APPEND expected bin/dicemill share/applications/org.dicemill.Dicemill.desktop
        share/icons/hicolor/scalable/apps/org.dicemill.Dicemill.svg

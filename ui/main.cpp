@@ -17,18 +17,18 @@
 
 namespace {
 
-// The samples, sounds and guide: installed beside the program's prefix, or
-// the source tree's when run from a build.
-struct ShareFolders {
-  QString samples, sounds, docs;
+// The samples and sounds that ship with the program, and its guide: in the
+// install prefix, or the source tree's when run from a build.
+struct Shipped {
+  ShippedFolders files;
+  QString docs;
 };
 
-ShareFolders FindShareFolders() {
-  const QString installed = QDir(QCoreApplication::applicationDirPath()).filePath("../share/dicemill");
-  if (QFileInfo::exists(installed + "/samples"))
-    return {installed + "/samples", installed + "/sounds", installed + "/docs"};
-  const QString tree = QStringLiteral(DICEMILL_SOURCE_DIR);
-  return {tree + "/samples", tree + "/data/sounds", tree + "/docs"};
+Shipped FindShipped() {
+  const std::filesystem::path share = FindShareDir(QCoreApplication::applicationFilePath().toStdString());
+  if (!share.empty()) return {InstalledFolders(share), QString::fromStdString((share / "docs").string())};
+  const std::filesystem::path tree = DICEMILL_SOURCE_DIR;
+  return {SourceTreeFolders(tree), QString::fromStdString((tree / "docs").string())};
 }
 
 }  // namespace
@@ -52,15 +52,15 @@ int main(int argc, char** argv) {
   parser.addOption(folderOption);
   parser.process(app);
 
-  const ShareFolders share = FindShareFolders();
+  const Shipped shipped = FindShipped();
   const std::filesystem::path folder =
       ChooseDataFolder(parser.value(folderOption).toStdString(), [](const char* name) { return std::getenv(name); });
   std::string error;
-  if (!SeedDataFolder(folder, share.samples.toStdString(), share.sounds.toStdString(), error)) {
+  if (!SeedDataFolder(folder, shipped.files, error)) {
     QTextStream(stderr) << "dicemill: " << QString::fromStdString(error) << '\n';
     return 1;
   }
-  const DesktopPaths paths{QString::fromStdString(folder.string()), share.docs};
+  const DesktopPaths paths{QString::fromStdString(folder.string()), shipped.docs};
   if (parser.isSet(screenshot)) return WriteScreenshots(parser.value(screenshot), paths);
 
   EffectSink sink;

@@ -84,7 +84,7 @@ void StatusPanel::Show(const StatusFigures& f) {
   values_[kNet]->setText(MoneyLabel(net));
   values_[kNet]->setStyleSheet(net < 0 ? QStringLiteral("color: #b01818;") : net > 0 ? QStringLiteral("color: #16702e;") : QString());
   values_[kPoint]->setText(f.Point == 0 ? tr("off (come-out)") : QString::number(f.Point));
-  values_[kLastRoll]->setText(f.Die1 == 0 ? tr("none yet")
+  values_[kLastRoll]->setText(f.Die1 == 0 || f.Rolls == 0 ? tr("none yet")
                                           : QStringLiteral("%1-%2 (%3)").arg(f.Die1).arg(f.Die2).arg(f.Die1 + f.Die2));
   values_[kRolls]->setText(QLocale().toString(static_cast<qlonglong>(f.Rolls)));
   values_[kDice]->setText(f.Dice);
