@@ -4,6 +4,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
+#include <QSettings>
 #include <QTextStream>
 #include <cstdlib>
 
@@ -66,6 +67,7 @@ int main(int argc, char** argv) {
   EffectSink sink;
   SoundBoard sounds(sink);
   sounds.UseFolder(paths.dataFolder);
+  sounds.SetVolume(QSettings().value(QStringLiteral("sound/volume"), sounds.Volume()).toInt());
   ModalDialogs dialogs(paths.dataFolder);
   DesktopFrontEnd frontEnd(dialogs, sounds);
   Table table(frontEnd);

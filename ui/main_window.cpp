@@ -241,7 +241,9 @@ void MainWindow::OpenHelp(bool search) {
 }
 
 void MainWindow::StartHyperDrive(int rolls) {
-  if (table_.Busy() || !table_.Set("RollCountStop", rolls).Done()) return;
+  // The run counts down the Auto-Play roll count, as it does from that screen.
+  if (table_.Busy() || !table_.Set("RollCountStop", rolls).Done() || !table_.Set("RollCountLeft", rolls).Done())
+    return;
   StartRun(RunKind::HyperDrive);
 }
 
@@ -249,13 +251,13 @@ void MainWindow::StartRun(RunKind kind) {
   runKind_ = kind;
   rollsAtStart_ = table_.State().RollCounts[event::kAllRolls];
   idleFigures_ = FiguresOf(table_.State());
-  sounds_.SetSilenced(kind == RunKind::HyperDrive);
+  sounds_.SetSilenced(kind == RunKind::HyperDrive || table_.State().DisableAllSound);
   // The run's questions and its end come back on this thread, in order.
   auto post = [](std::function<void()> task) {
     QMetaObject::invokeMethod(qApp, [task = std::move(task)] { task(); }, Qt::QueuedConnection);
   };
   if (!table_.StartLive(kind, post).Done()) {
-    sounds_.SetSilenced(false);
+    UpdateStatus();
     return;
   }
   runClock_.start();
@@ -351,6 +353,7 @@ void MainWindow::UpdateMenus() {
 void MainWindow::UpdateStatus() {
   if (table_.Busy()) return;
   const Game& g = table_.State();
+  sounds_.SetSilenced(g.DisableAllSound);
   status_->Show(FiguresOf(g));
   felt_->SetPoint(g.Point);
   felt_->SetDice(g.Die1, g.Die2);
@@ -376,11 +379,12 @@ void MainWindow::DiceThrown(int die1, int die2) { felt_->SetDice(die1, die2); }
 
 void MainWindow::UnsavedChanged(bool) { UpdateCaption(); }
 
+void MainWindow::SettingChanged(const std::string&) { UpdateStatus(); }
+
 void MainWindow::RunStarted() { UpdateMenus(); }
 
 void MainWindow::RunStopped(StopReason) {
   liveTimer_.stop();
-  sounds_.SetSilenced(false);
   if (isMinimized() && runKind_ == RunKind::HyperDrive) stoppedWhileMinimised_ = true;
   UpdateMenus();
   UpdateStatus();

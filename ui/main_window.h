@@ -53,6 +53,7 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   void PointChanged(int point) override;
   void DiceThrown(int die1, int die2) override;
   void UnsavedChanged(bool unsaved) override;
+  void SettingChanged(const std::string& name) override;
   void RunStarted() override;
   void RunStopped(StopReason reason) override;
 

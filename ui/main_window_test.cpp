@@ -44,6 +44,8 @@ struct Desk {
       QFile call(folder.filePath(QStringLiteral("Stickman%1.stk").arg(slot, 2, 10, QLatin1Char('0'))));
       call.open(QIODevice::WriteOnly);
     }
+    QFile dice(folder.filePath(QStringLiteral("Dice.dce")));
+    dice.open(QIODevice::WriteOnly);
     sounds.UseFolder(folder.path());
     frontEnd.SetPauses(false);
     table.StartUp(folder.path().toStdString(), true);
@@ -96,6 +98,32 @@ TEST(MainWindow, EveryMenuItemHasItsExactCaption) {
 TEST(MainWindow, StartUpCallsANewShooterThenTheComeOut) {
   Desk d;
   EXPECT_EQ(d.sink.played, (std::vector<QString>{"Stickman18.stk", "Stickman17.stk"}));
+}
+
+// A visible throw sounds the dice and the stickman; with all sound off, or in
+// Hyper-Drive, nothing plays.
+TEST(MainWindow, SoundsFollowTheSwitches) {
+  struct Case {
+    bool soundOff, hyperDrive, heard;
+  };
+  for (const Case& c : {Case{false, false, true}, Case{true, false, false}, Case{false, true, false}}) {
+    Desk d;
+    d.table.Set("DisableAllSound", c.soundOff ? 1 : 0);
+    d.sink.played.clear();
+    if (c.hyperDrive) {
+      d.window.Action(MenuCommand::Bankroll)->trigger();
+      emit d.window.Bankroll()->StartRequested(1000);
+    } else {
+      d.window.Action(MenuCommand::RollDice)->trigger();
+    }
+    ASSERT_TRUE(d.WaitForRunEnd());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(d.g().RollCounts[0], c.hyperDrive ? 1000 : 1);
+    EXPECT_EQ(!d.sink.played.empty(), c.heard) << c.soundOff << c.hyperDrive;
+    if (c.heard) {
+      EXPECT_EQ(d.sink.played.front(), "Dice.dce");
+    }
+  }
 }
 
 TEST(MainWindow, CaptionFollowsTheGameFile) {
