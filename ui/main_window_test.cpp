@@ -226,6 +226,10 @@ TEST(MainWindow, HyperDriveRunsLiveStopsAtOnceAndExitAsksFirst) {
   ASSERT_FALSE(d.dialogs.messages.empty());
   EXPECT_EQ(d.dialogs.messages.back().title, "Hyper-Drive Active");
 
+  // Minimised, the caption tells how the run stands.
+  d.window.setWindowState(Qt::WindowMinimized);
+  EXPECT_EQ(d.window.windowTitle(), "Dicemill Hyper-Drive Active");
+
   QElapsedTimer clock;
   clock.start();
   emit screen->StopRequested();
@@ -234,6 +238,9 @@ TEST(MainWindow, HyperDriveRunsLiveStopsAtOnceAndExitAsksFirst) {
   EXPECT_GT(d.g().RollCounts[0], 0);
   EXPECT_LT(d.g().RollCounts[0], 10'000'000);
   EXPECT_TRUE(d.window.Action(MenuCommand::New)->isEnabled());
+  EXPECT_EQ(d.window.windowTitle(), "Dicemill Hyper-Drive Stopped");
+  d.window.setWindowState(Qt::WindowNoState);
+  EXPECT_EQ(d.window.windowTitle(), "Dicemill");
 }
 
 // A script's question during a visible Auto-Roll comes to this thread, is
