@@ -19,6 +19,7 @@
 #include "ui/bankroll_window.h"
 #include "ui/dialogs.h"
 #include "ui/help_window.h"
+#include "ui/quick_stats.h"
 #include "ui/sound_board.h"
 #include "ui/status_panel.h"
 #include "ui/table_felt.h"
@@ -355,6 +356,7 @@ void MainWindow::UpdateStatus() {
   const Game& g = table_.State();
   sounds_.SetSilenced(g.DisableAllSound);
   status_->Show(FiguresOf(g));
+  status_->ShowQuickStats(QuickStatsLine(FigureQuickStats(g)));
   felt_->SetPoint(g.Point);
   felt_->SetDice(g.Die1, g.Die2);
   QList<QPair<QString, QString>> bets;

@@ -265,6 +265,15 @@ TEST(MainWindow, QuestionsDuringAnAutoRollAreAnswered) {
   EXPECT_EQ(d.window.Action(MenuCommand::AutoRoll)->text(), "S&tart Auto-Roll");
 }
 
+// A Pass Line bet costs 1.414% a decision, a decision every 3.375 rolls: $10
+// at 100 rolls an hour is expected to lose $4.19 an hour.
+TEST(MainWindow, QuickStatisticsPriceTheBetsOnTheTable) {
+  Desk d;
+  d.table.Bet(bet::kPassLine, Currency(10));
+  EXPECT_EQ(d.window.findChild<QLabel*>("lblQuickStats")->text(),
+            "Bets on the table: expect -$4.19 an hour   Session net: $0");
+}
+
 TEST(MainWindow, RollTheDiceThrowsOnTheRunnerAndRedraws) {
   Desk d;
   d.window.Action(MenuCommand::RollDice)->trigger();

@@ -73,7 +73,12 @@ StatusPanel::StatusPanel(QWidget* parent) : QFrame(parent) {
   prompt_ = new QLabel(this);
   prompt_->setObjectName(QStringLiteral("lblPrompt"));
   grid->addWidget(prompt_, 1, 8, 1, 2, Qt::AlignRight);
+  quickStats_ = new QLabel(this);
+  quickStats_->setObjectName(QStringLiteral("lblQuickStats"));
+  grid->addWidget(quickStats_, 2, 0, 1, 2 * kPerRow, Qt::AlignLeft);
 }
+
+void StatusPanel::ShowQuickStats(const QString& line) { quickStats_->setText(line); }
 
 void StatusPanel::Show(const StatusFigures& f) {
   const Currency rack = f.Bankroll - f.OnTable;

@@ -32,11 +32,13 @@ class StatusPanel : public QFrame {
   void Show(const StatusFigures& figures);
   // The prompt of a tool mode, or the run's state.
   void ShowPrompt(const QString& prompt);
+  void ShowQuickStats(const QString& line);
 
  private:
   enum Field { kRack, kOnTable, kInvested, kNet, kPoint, kLastRoll, kRolls, kDice, kAuto, kFieldCount };
   std::array<QLabel*, kFieldCount> values_{};
   QLabel* prompt_ = nullptr;
+  QLabel* quickStats_ = nullptr;
 };
 
 // "$1,234.50", "-$20": money as the status lines show it.
