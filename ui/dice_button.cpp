@@ -33,7 +33,10 @@ DiceButton::DiceButton(DiceButtonShows shows, int first, int second, QWidget* pa
     case DiceButtonShows::PairDown: setText(QStringLiteral("%1-%2").arg(first_).arg(second_)); break;
     case DiceButtonShows::Face: setText(QString::number(first_)); break;
   }
-  setToolTip(shows_ == DiceButtonShows::Total ? tr("Roll a %1").arg(first_) : tr("Roll %1").arg(text()));
+  // A face only sets one die; the roll waits for the other.
+  setToolTip(shows_ == DiceButtonShows::Total  ? tr("Roll a %1").arg(first_)
+             : shows_ == DiceButtonShows::Face ? tr("Face %1").arg(first_)
+                                               : tr("Roll %1").arg(text()));
 }
 
 QSize DiceButton::sizeHint() const {
