@@ -20,6 +20,7 @@
 #include "ui/dialogs.h"
 #include "ui/help_window.h"
 #include "ui/quick_stats.h"
+#include "ui/roll_pad.h"
 #include "ui/sound_board.h"
 #include "ui/status_panel.h"
 #include "ui/table_felt.h"
@@ -27,13 +28,15 @@
 namespace {
 
 constexpr int kLiveRedrawMs = 50;
+// A Hyper-Drive started from the pad with no Auto-Play roll count set.
+constexpr int kPadHyperDriveRolls = 1'000'000;
 const QString kAppName = QStringLiteral("Dicemill");
 
 // Screens that later versions of the window open; their items stay disabled
 // until then rather than doing nothing when chosen.
 constexpr std::array kScreensToCome = {
     MenuCommand::HotKeys,     MenuCommand::Configure,  MenuCommand::DiceRollFiles,   MenuCommand::AutoPlay,
-    MenuCommand::AutoBet,     MenuCommand::RollYourOwn, MenuCommand::GamesLog,       MenuCommand::Summary,
+    MenuCommand::AutoBet,     MenuCommand::GamesLog,    MenuCommand::Summary,
     MenuCommand::RollTotals,  MenuCommand::RollFrequencies, MenuCommand::BetResults, MenuCommand::BetTrends,
     MenuCommand::ChipStacks,  MenuCommand::Flags,
 };
@@ -146,6 +149,7 @@ void MainWindow::Perform(MenuCommand command) {
     case BetsAsNumbers:
     case HopBets: QSettings().setValue(ViewSetting(command), Action(command)->isChecked()); break;
     case Bankroll: OpenBankroll(); break;
+    case RollYourOwn: OpenPad(); break;
     case Contents: OpenHelp(false); break;
     case Search: OpenHelp(true); break;
     case About: AboutDialog(QApplication::applicationVersion(), this).exec(); break;
@@ -241,6 +245,42 @@ void MainWindow::OpenHelp(bool search) {
   help_->raise();
 }
 
+RollPad* MainWindow::Pad() const { return pad_; }
+
+void MainWindow::OpenPad() {
+  if (!pad_) {
+    pad_ = new RollPad(this);
+    pad_->setWindowFlag(Qt::Window);
+    pad_->setAttribute(Qt::WA_DeleteOnClose);
+    connect(pad_, &RollPad::PairChosen, this, [this](int die1, int die2) {
+      if (!table_.Busy()) table_.PadRoll(die1, die2);
+    });
+    connect(pad_, &RollPad::TotalChosen, this, [this](int total) {
+      if (!table_.Busy()) table_.PadTotal(total);
+    });
+    connect(pad_, &RollPad::RandomRollRequested, this, [this] { Perform(MenuCommand::RollDice); });
+    connect(pad_, &RollPad::HyperDriveRequested, this, [this] {
+      const int set = table_.State().RollCountStop;
+      StartHyperDrive(set > 0 ? set : kPadHyperDriveRolls);
+    });
+    connect(pad_, &RollPad::StopRequested, this, [this] { table_.Stop(); });
+    ShowRunState();
+    UpdateStatus();
+  }
+  pad_->show();
+  pad_->raise();
+}
+
+void MainWindow::ShowRunState() {
+  const bool busy = table_.Busy();
+  const bool hyper = busy && runKind_ == RunKind::HyperDrive;
+  if (bankroll_) bankroll_->SetRunning(hyper);
+  if (pad_) {
+    pad_->SetRunning(hyper);
+    pad_->SetEnabledForRun(!busy);
+  }
+}
+
 void MainWindow::StartHyperDrive(int rolls) {
   // The run counts down the Auto-Play roll count, as it does from that screen.
   if (table_.Busy() || !table_.Set("RollCountStop", rolls).Done() || !table_.Set("RollCountLeft", rolls).Done())
@@ -270,6 +310,7 @@ void MainWindow::ShowLiveFigures() {
   status_->Show(FiguresOf(shot, idleFigures_));
   felt_->SetPoint(shot.Point);
   if (runKind_ == RunKind::AutoRoll) felt_->SetDice(shot.Die1, shot.Die2);
+  if (pad_) pad_->SetRollCount(shot.Rolls);
   const double seconds = runClock_.elapsed() / 1000.0;
   if (bankroll_) bankroll_->ShowFigures(shot, seconds > 0 ? (shot.Rolls - rollsAtStart_) / seconds : 0);
 }
@@ -348,7 +389,7 @@ void MainWindow::UpdateMenus() {
   Action(MenuCommand::AutoRoll)->setText(tr(AutoRollCaption(busy && runKind_ == RunKind::AutoRoll)));
   // A Hyper-Drive run is stopped from its own screen, Esc or Exit.
   if (busy && runKind_ == RunKind::HyperDrive) Action(MenuCommand::AutoRoll)->setEnabled(false);
-  if (bankroll_) bankroll_->SetRunning(busy && runKind_ == RunKind::HyperDrive);
+  ShowRunState();
 }
 
 void MainWindow::UpdateStatus() {
@@ -356,6 +397,7 @@ void MainWindow::UpdateStatus() {
   const Game& g = table_.State();
   sounds_.SetSilenced(g.DisableAllSound);
   status_->Show(FiguresOf(g));
+  if (pad_) pad_->SetRollCount(g.RollCounts[event::kAllRolls]);
   status_->ShowQuickStats(QuickStatsLine(FigureQuickStats(g)));
   felt_->SetPoint(g.Point);
   felt_->SetDice(g.Die1, g.Die2);

@@ -19,6 +19,7 @@
 
 class BankrollWindow;
 class HelpWindow;
+class RollPad;
 struct HelpShortcut;
 class Dialogs;
 class QAction;
@@ -44,6 +45,7 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   bool RunUnderWay() const;
   BankrollWindow* Bankroll() const;
   HelpWindow* Help() const;
+  RollPad* Pad() const;
   // The keys the window answers, for the help's keyboard page.
   std::vector<HelpShortcut> Shortcuts() const;
 
@@ -87,6 +89,9 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   void ShowPath();
   void OpenBankroll();
   void OpenHelp(bool search);
+  void OpenPad();
+  // The run screens' buttons and the pad's choices follow the run.
+  void ShowRunState();
   bool AskToStopRun();
 
   Table& table_;
@@ -98,6 +103,7 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   StatusPanel* status_ = nullptr;
   QPointer<BankrollWindow> bankroll_;
   QPointer<HelpWindow> help_;
+  QPointer<RollPad> pad_;
   QHash<int, QAction*> actions_;
   QTimer liveTimer_;           // redraws from the run's snapshot while it runs
   QElapsedTimer runClock_;

@@ -19,6 +19,7 @@
 #include "ui/bankroll_window.h"
 #include "ui/dialogs_for_test.h"
 #include "ui/main_window.h"
+#include "ui/roll_pad.h"
 #include "ui/sound_board.h"
 
 namespace {
@@ -272,6 +273,19 @@ TEST(MainWindow, QuickStatisticsPriceTheBetsOnTheTable) {
   d.table.Bet(bet::kPassLine, Currency(10));
   EXPECT_EQ(d.window.findChild<QLabel*>("lblQuickStats")->text(),
             "Bets on the table: expect -$4.19 an hour   Session net: $0");
+}
+
+// A pad roll of 2-4 is the throw: the point goes on 6 and both dice show.
+TEST(MainWindow, PadRollsTheChosenDice) {
+  Desk d;
+  d.window.Action(MenuCommand::RollYourOwn)->trigger();
+  ASSERT_NE(d.window.Pad(), nullptr);
+  emit d.window.Pad()->PairChosen(2, 4);
+  EXPECT_EQ(d.g().Point, 6);
+  EXPECT_EQ(d.window.findChild<QLabel*>("lblStatus5")->text(), "2-4 (6)");
+  emit d.window.Pad()->TotalChosen(8);
+  EXPECT_EQ(d.g().Die1 + d.g().Die2, 8);
+  EXPECT_EQ(d.g().RollCounts[0], 2);
 }
 
 TEST(MainWindow, RollTheDiceThrowsOnTheRunnerAndRedraws) {

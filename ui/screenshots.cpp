@@ -18,6 +18,7 @@
 #include "ui/settle_notice_dialog.h"
 #include "ui/main_window.h"
 #include "ui/picture_dialogs.h"
+#include "ui/roll_pad.h"
 #include "ui/sound_board.h"
 
 namespace {
@@ -50,7 +51,9 @@ bool SaveMainWindow(const QString& folder, const DesktopPaths& paths) {
   table.Bet(bet::kPassOdds, Currency(20));
   table.Bet(bet::Place(8), Currency(12));
   window.resize(1100, 720);
-  return Save(window, folder, QStringLiteral("main-window"));
+  bool saved = Save(window, folder, QStringLiteral("main-window"));
+  window.Action(MenuCommand::RollYourOwn)->trigger();
+  return Save(*window.Pad(), folder, QStringLiteral("pad")) && saved;
 }
 
 }  // namespace
