@@ -6,10 +6,13 @@
 
 #include <memory>
 
+#include "engine/bet_status_table.h"
 #include "engine/game.h"
 #include "engine/new_game.h"
 #include "engine/table_commands.h"
+#include "ui/chip_painter.h"
 #include "ui/layout_geometry.h"
+#include "ui/layout_painter.h"
 #include "ui/table_view.h"
 
 namespace {
@@ -138,6 +141,68 @@ TEST(TableView, SpaceRollsAndDigitsChooseTheChips) {
   ASSERT_EQ(tools.count(), 2);
   EXPECT_EQ(tools[0][0].toInt(), 2);
   EXPECT_EQ(tools[1][0].toInt(), 5);
+}
+
+TEST(ChipPainter, AStackIsTheLargestChecksFirst) {
+  const CheckValues checks{1, 5, 25, 100, 500};
+  const CheckValues cents{Currency::FromRaw(2500), 1, 5, 25, 100};
+  struct Case {
+    CheckValues checks;
+    Currency amount;
+    int limit;
+    std::vector<Currency> chips;
+  };
+  const Case cases[] = {
+      {checks, 41, 10, {25, 5, 5, 5, 1}},
+      {checks, 630, 10, {500, 100, 25, 5}},
+      {checks, 12, 2, {5, 5}},  // a tall stack stops at the limit
+      {checks, Currency::FromRaw(5000), 10, {1}},  // less than a check still shows one
+      {cents, Currency::FromRaw(17500), 10, {1, Currency::FromRaw(2500), Currency::FromRaw(2500), Currency::FromRaw(2500)}},
+  };
+  for (const Case& c : cases) EXPECT_EQ(ChipsFor(c.amount, c.checks, c.limit), c.chips) << c.amount.raw;
+  // Every default check wears its own colour.
+  for (int i = 0; i < 5; ++i)
+    for (int j = i + 1; j < 5; ++j) EXPECT_NE(ChipColour(checks[i]), ChipColour(checks[j])) << i << j;
+}
+
+TEST(TableView, EveryBetIsClickedAtItsCentreWhateverTheWindowShape) {
+  for (QSize size : {QSize(1000, 560), QSize(1400, 500), QSize(600, 700)}) {
+    Desk d(true);
+    d.view.resize(size);
+    QSignalSpy bets(&d.view, &TableView::BetClicked);
+    for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id)
+      QTest::mouseClick(&d.view, Qt::LeftButton, {}, d.At(id));
+    ASSERT_EQ(bets.count(), bet::kLastTableBet);
+    for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) {
+      EXPECT_EQ(bets[id - 1][0].toInt(), id) << size.width() << "x" << size.height();
+    }
+  }
+}
+
+TEST(TableView, PuckMarkersAndDescriptionFollowTheLook) {
+  auto g = std::make_unique<Game>();
+  FillDefaults(*g);
+  g->Point = 6;
+  g->BetAmount[bet::Place(8)] = 12;
+  g->BetStatus.Set(bet::Place(8), status::kCalledOff);
+  Desk d;
+  d.view.resize(1000, 560);
+  d.view.SetLook(LookOf(*g));
+  QTest::mouseClick(&d.view, Qt::LeftButton, {}, d.At(bet::Place(8)));
+  EXPECT_EQ(d.view.accessibleDescription().toStdString(), "Place 8: $12, pays 7 to 6, called OFF");
+  // Below the puck's word, where only its face shows.
+  const QPointF belowWord(0, layout::Marks().puckRadius * 0.65);
+  const auto pixel = [&](QPointF at) { return d.view.grab().toImage().pixelColor((at + belowWord).toPoint()); };
+  EXPECT_GT(pixel(layout::PuckOn(6)).lightness(), 200);  // the white ON puck on the point
+  g->Point = 0;
+  d.view.SetLook(LookOf(*g));
+  EXPECT_LT(pixel(layout::Marks().puckOff).lightness(), 60);  // black OFF in the Don't Come bar
+}
+
+TEST(LayoutPainter, DrawsAtTheDevicePixelRatio) {
+  const QPixmap sharp = PaintLayout({500, 280}, 2, LayoutPrint{});
+  EXPECT_EQ(sharp.size(), QSize(1000, 560));
+  EXPECT_EQ(sharp.deviceIndependentSize(), QSizeF(500, 280));
 }
 
 TEST(TableLook, FieldPrintsItsWinningTotalsAndBetterPayoffs) {
