@@ -97,6 +97,7 @@ QColor ChipColour(Currency value) {
 std::vector<Currency> ChipsFor(Currency amount, const CheckValues& checks, int limit) {
   std::vector<Currency> chips;
   Currency left = amount;
+  // The checks stand in ascending order, so the largest is taken first.
   for (auto it = checks.rbegin(); it != checks.rend(); ++it) {
     if (it->raw <= 0) continue;
     while (left >= *it && static_cast<int>(chips.size()) < limit) {

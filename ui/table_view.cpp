@@ -78,6 +78,7 @@ void TableView::paintEvent(QPaintEvent*) {
   } else {
     PaintPuck(p, marks.puckOff, marks.puckRadius, false);
   }
+  PaintHover(p);
   PaintBets(p);
   PaintTray(p);
   if (hasFocus()) PaintFocus(p);
@@ -121,8 +122,7 @@ void TableView::PaintTray(QPainter& p) const {
       p.drawText(caption, Qt::AlignCenter, QString::number(tool));
     } else if (tool >= kToolFirstStack && tool <= kToolLastStack) {
       const TrayStackLook& stack = look_.stacks[tool - kToolFirstStack];
-      PaintChipStack(p, c + QPointF(0, r * 0.5), r * 0.9, stack.amount.raw > 0 ? stack.amount : Currency(0),
-                     look_.checks);
+      PaintChipStack(p, c + QPointF(0, r * 0.5), r * 0.9, stack.amount, look_.checks);
       p.setFont(small);
       p.setPen(QColor(0xf3, 0xed, 0xd6));
       p.drawText(caption, Qt::AlignCenter, stack.amount.raw > 0 ? AmountLabel(stack.amount) : QStringLiteral("STACK"));
@@ -146,12 +146,35 @@ void TableView::PaintTray(QPainter& p) const {
   }
 }
 
+void TableView::PaintHover(QPainter& p) const {
+  if (hover_ == 0) return;
+  p.setPen(Qt::NoPen);
+  p.setBrush(QColor(0xff, 0xff, 0xff, 34));
+  p.drawPath(layout::Region(hover_));
+}
+
 void TableView::PaintFocus(QPainter& p) const {
   QPen ring(QColor(0xff, 0xe0, 0x40), 3, Qt::DashLine);
   ring.setCosmetic(true);
   p.setPen(ring);
   p.setBrush(QColor(0xff, 0xe0, 0x40, 40));
   p.drawPath(layout::Region(focus_));
+}
+
+QString TableView::DescribeTool(int tool) const {
+  if (tool >= kToolFirstChip && tool <= kToolLastChip)
+    return tr("Check %1: %2").arg(tool).arg(AmountLabel(look_.checks[tool - kToolFirstChip]));
+  if (tool >= kToolFirstStack && tool <= kToolLastStack) {
+    const TrayStackLook& stack = look_.stacks[tool - kToolFirstStack];
+    return stack.name.isEmpty() ? tr("No Chip-Stack on this tool")
+                                : tr("%1: %2").arg(stack.name, AmountLabel(stack.amount));
+  }
+  switch (tool) {
+    case kToolBuy: return tr("Buy a Place bet");
+    case kToolCallOff: return tr("Call a bet OFF");
+    case kToolCallOn: return tr("Call a bet ON");
+    default: return tr("Take a bet down");
+  }
 }
 
 QString TableView::Describe(int betId) const {
@@ -190,6 +213,23 @@ void TableView::mousePressEvent(QMouseEvent* event) {
   }
 }
 
+void TableView::mouseMoveEvent(QMouseEvent* event) {
+  const int id = layout::BetAt(Logical(event->position()), look_.showHop);
+  if (id != hover_) {
+    hover_ = id;
+    update();
+  }
+  QWidget::mouseMoveEvent(event);
+}
+
+void TableView::leaveEvent(QEvent* event) {
+  if (hover_ != 0) {
+    hover_ = 0;
+    update();
+  }
+  QWidget::leaveEvent(event);
+}
+
 void TableView::keyPressEvent(QKeyEvent* event) {
   const int key = event->key();
   auto step = [&](int dx, int dy) { MoveFocus(layout::Neighbour(focus_, dx, dy, look_.showHop)); };
@@ -214,9 +254,11 @@ void TableView::keyPressEvent(QKeyEvent* event) {
 bool TableView::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip) {
     auto* help = static_cast<QHelpEvent*>(event);
-    const int id = layout::BetAt(Logical(help->pos()), look_.showHop);
-    if (id != 0) {
+    const QPointF at = Logical(help->pos());
+    if (const int id = layout::BetAt(at, look_.showHop)) {
       QToolTip::showText(help->globalPos(), Describe(id), this);
+    } else if (const int tool = layout::ToolAt(at)) {
+      QToolTip::showText(help->globalPos(), DescribeTool(tool), this);
     } else {
       QToolTip::hideText();
       event->ignore();

@@ -35,6 +35,8 @@ class TableView : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   bool event(QEvent* event) override;
 
@@ -43,14 +45,17 @@ class TableView : public QWidget {
   const QPixmap& Layout();
   void PaintBets(QPainter& p) const;
   void PaintTray(QPainter& p) const;
+  void PaintHover(QPainter& p) const;
   void PaintFocus(QPainter& p) const;
   void MoveFocus(int betId);
   // Name, amount and payoff of a spot, as the tooltip and screen readers say it.
   QString Describe(int betId) const;
+  QString DescribeTool(int tool) const;
 
   TableLook look_;
   LayoutColours colours_;
   int focus_;
+  int hover_ = 0;  // the spot under the pointer, lit faintly
   // The printed layout, kept until its size, pixel ratio or print changes.
   QPixmap layout_;
   LayoutPrint printed_;
