@@ -156,7 +156,7 @@ void PaintChipStack(QPainter& p, QPointF base, qreal radius, Currency amount, co
   p.restore();
 }
 
-void PaintAmount(QPainter& p, QPointF centre, qreal radius, Currency amount) {
+QRectF PaintAmount(QPainter& p, QPointF centre, qreal radius, Currency amount) {
   p.save();
   p.setRenderHint(QPainter::Antialiasing);
   const QString text = AmountLabel(amount);
@@ -172,6 +172,7 @@ void PaintAmount(QPainter& p, QPointF centre, qreal radius, Currency amount) {
   p.setPen(QColor(0xff, 0xe0, 0x70));
   p.drawText(ticket, Qt::AlignCenter, text);
   p.restore();
+  return ticket;
 }
 
 void PaintCallMarker(QPainter& p, QPointF centre, qreal radius, bool on) {

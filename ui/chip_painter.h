@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QPointF>
+#include <QRectF>
 #include <QString>
 #include <array>
 #include <vector>
@@ -28,8 +29,8 @@ QString AmountLabel(Currency amount);
 void PaintChip(QPainter& p, QPointF centre, qreal radius, Currency value, const QString& label);
 // A bet's stack standing on `base`, its amount on the top chip.
 void PaintChipStack(QPainter& p, QPointF base, qreal radius, Currency amount, const CheckValues& checks);
-// A bet's amount as a number on a dark ticket.
-void PaintAmount(QPainter& p, QPointF centre, qreal radius, Currency amount);
+// A bet's amount as a number on a dark ticket; answers the ticket's box.
+QRectF PaintAmount(QPainter& p, QPointF centre, qreal radius, Currency amount);
 // The small ON (white) or OFF (black) button beside a called bet.
 void PaintCallMarker(QPainter& p, QPointF centre, qreal radius, bool on);
 // The puck: white ON on the point, black OFF while the table comes out.

@@ -90,14 +90,16 @@ void TableView::PaintBets(QPainter& p) const {
     const Currency amount = look_.amounts[id];
     if (amount.raw <= 0 || (bet::IsHop(id) && !look_.showHop)) continue;
     const QPointF at = layout::ChipPoint(id);
+    // The marker stands just right of the chips or the ticket.
+    QPointF marker = at + QPointF(r * 1.45, r * 0.35);
     if (look_.betsAsNumbers) {
-      PaintAmount(p, at, r * 0.8, amount);
+      marker.setX(PaintAmount(p, at, r * 0.8, amount).right() + r * 0.5);
     } else {
       PaintChipStack(p, at, r, amount, look_.checks);
     }
     const int32_t status = look_.statuses[id];
     if (status == status::kCalledOn || status == status::kCalledOff)
-      PaintCallMarker(p, at + QPointF(r * 1.45, r * 0.35), r * 0.62, status == status::kCalledOn);
+      PaintCallMarker(p, marker, r * 0.62, status == status::kCalledOn);
   }
 }
 

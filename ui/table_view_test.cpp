@@ -199,6 +199,24 @@ TEST(TableView, PuckMarkersAndDescriptionFollowTheLook) {
   EXPECT_LT(pixel(layout::Marks().puckOff).lightness(), 60);  // black OFF in the Don't Come bar
 }
 
+TEST(TableView, TheLayoutIsPrintedAgainWhenWhatItPrintsChanges) {
+  using Change = void (*)(TableLook&);
+  const std::pair<const char*, Change> changes[] = {
+      {"field", [](TableLook& l) { l.field.notes = QStringList{QStringLiteral("12 PAYS TRIPLE")}; }},
+      {"bar", [](TableLook& l) { l.barNumber = 2; }},
+      {"payoff", [](TableLook& l) { l.payoffs[bet::kSeven] = QStringLiteral("5 for 1"); }},
+      {"hop", [](TableLook& l) { l.showHop = true; }},
+  };
+  for (const auto& [what, change] : changes) {
+    Desk d;
+    const QImage before = d.view.grab().toImage();
+    TableLook look = d.view.Look();
+    change(look);
+    d.view.SetLook(look);
+    EXPECT_TRUE(d.view.grab().toImage() != before) << what;
+  }
+}
+
 TEST(LayoutPainter, DrawsAtTheDevicePixelRatio) {
   const QPixmap sharp = PaintLayout({500, 280}, 2, LayoutPrint{});
   EXPECT_EQ(sharp.size(), QSize(1000, 560));
