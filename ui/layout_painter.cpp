@@ -12,6 +12,7 @@ namespace {
 
 constexpr qreal kLineWidth = 2.2;
 
+// The painter with the scheme's colours, for lettering, outlines and rules.
 struct Pen {
   QPainter& p;
   const LayoutColours& c;
