@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "engine/pad.h"
-#include "ui/table_felt.h"
+#include "ui/die_painter.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <QRadialGradient>
 
 #include "ui/layout_geometry.h"
-#include "ui/table_felt.h"
+#include "ui/die_painter.h"
 
 namespace {
 

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QSettings>
 #include <QVBoxLayout>
@@ -23,7 +24,9 @@
 #include "ui/roll_pad.h"
 #include "ui/sound_board.h"
 #include "ui/status_panel.h"
-#include "ui/table_felt.h"
+#include "ui/layout_geometry.h"
+#include "ui/table_look.h"
+#include "ui/table_view.h"
 
 namespace {
 
@@ -64,12 +67,20 @@ MainWindow::MainWindow(Table& table, DesktopFrontEnd& frontEnd, Dialogs& dialogs
   auto* centre = new QWidget(this);
   auto* column = new QVBoxLayout(centre);
   column->setContentsMargins(6, 6, 6, 6);
-  felt_ = new TableFelt(centre);
+  view_ = new TableView(centre);
+  keyIn_ = new QLineEdit(view_);
+  keyIn_->setObjectName(QStringLiteral("txtEnterBet"));
+  keyIn_->setAlignment(Qt::AlignRight);
+  keyIn_->setFixedWidth(96);
+  keyIn_->hide();
+  connect(keyIn_, &QLineEdit::returnPressed, this, [this] { CommitKeyIn(); });
   status_ = new StatusPanel(centre);
-  column->addWidget(felt_, 1);
+  column->addWidget(view_, 1);
   column->addWidget(status_);
   setCentralWidget(centre);
-  connect(felt_, &TableFelt::RollRequested, this, [this] { Perform(MenuCommand::RollDice); });
+  connect(view_, &TableView::RollRequested, this, [this] { Perform(MenuCommand::RollDice); });
+  connect(view_, &TableView::BetClicked, this, &MainWindow::ClickBet);
+  connect(view_, &TableView::ToolClicked, this, &MainWindow::PickTool);
 
   BuildMenus();
   liveTimer_.setInterval(kLiveRedrawMs);
@@ -137,17 +148,16 @@ void MainWindow::Perform(MenuCommand command) {
     case BuyTool: ChooseTool(kToolBuy, tr("Click on bet to buy")); break;
     case CallOnTool: ChooseTool(kToolCallOn, tr("Click on bet to call it \"ON\"")); break;
     case CallOffTool: ChooseTool(kToolCallOff, tr("Click on bet to call it \"OFF\"")); break;
-    case RemoveTool:
-      tool_ = WindowTool::Remove;
-      felt_->SetPrompt(tr("Click on bet to remove"));
-      status_->ShowPrompt(tr("Click on bet to remove"));
-      break;
+    case RemoveTool: PickTool(layout::kToolRemove); break;
     case CallAllOn: table_.CallAll(true); break;
     case CallAllOff: table_.CallAll(false); break;
     case RemoveAll: table_.RemoveAll(); break;
     case KeyIn:
     case BetsAsNumbers:
-    case HopBets: QSettings().setValue(ViewSetting(command), Action(command)->isChecked()); break;
+    case HopBets:
+      QSettings().setValue(ViewSetting(command), Action(command)->isChecked());
+      UpdateStatus();
+      break;
     case Bankroll: OpenBankroll(); break;
     case RollYourOwn: OpenPad(); break;
     case Contents: OpenHelp(false); break;
@@ -160,15 +170,63 @@ void MainWindow::Perform(MenuCommand command) {
 void MainWindow::ChooseTool(int tool, const QString& prompt) {
   if (!table_.SetClickTool(tool).Done()) return;
   tool_ = WindowTool::TableTool;
-  felt_->SetPrompt(prompt);
   status_->ShowPrompt(prompt);
+  UpdateStatus();
+}
+
+void MainWindow::PickTool(int tool) {
+  if (table_.Busy()) return;
+  switch (tool) {
+    case kToolBuy: ChooseTool(tool, tr("Click on bet to buy")); return;
+    case kToolCallOn: ChooseTool(tool, tr("Click on bet to call it \"ON\"")); return;
+    case kToolCallOff: ChooseTool(tool, tr("Click on bet to call it \"OFF\"")); return;
+    case layout::kToolRemove:
+      tool_ = WindowTool::Remove;
+      status_->ShowPrompt(tr("Click on bet to remove"));
+      UpdateStatus();
+      return;
+    default: ChooseTool(tool, {});  // a chip or a Chip-Stack: every click adds it
+  }
+}
+
+void MainWindow::ClickBet(int betId, bool shift) {
+  if (table_.Busy()) return;
+  if (tool_ == WindowTool::Remove && !shift) {
+    table_.Remove(betId);
+  } else if (Action(MenuCommand::KeyIn)->isChecked() && !shift) {
+    OpenKeyIn(betId);
+  } else {
+    table_.Click(betId, shift);
+  }
+}
+
+void MainWindow::OpenKeyIn(int betId) {
+  CommitKeyIn();
+  keyInBet_ = betId;
+  keyIn_->setText(QString::fromStdString(FormatNumberWithCommas(table_.State().BetAmount[betId])));
+  const QPointF centre = view_->BetCentre(betId);
+  keyIn_->move(static_cast<int>(centre.x()) - keyIn_->width() / 2, static_cast<int>(centre.y()) - keyIn_->height() / 2);
+  keyIn_->show();
+  keyIn_->selectAll();
+  keyIn_->setFocus();
+}
+
+bool MainWindow::CommitKeyIn() {
+  if (!keyIn_->isVisible()) return true;
+  keyIn_->hide();
+  view_->setFocus();
+  const TableResult r = table_.Enter(keyInBet_, keyIn_->text().toStdString());
+  if (r.code == TableCode::WrongType)
+    dialogs_.Message({table_.State().BetName[keyInBet_] + " Bet", r.text, Buttons::Ok, false});
+  return r.Done();
 }
 
 void MainWindow::LeaveToolMode() {
+  keyIn_->hide();
   table_.SetClickTool(kToolFirstChip);
   tool_ = WindowTool::TableTool;
-  felt_->SetPrompt({});
   status_->ShowPrompt({});
+  UpdateStatus();
 }
 
 void MainWindow::OpenGame() {
@@ -253,10 +311,10 @@ void MainWindow::OpenPad() {
     pad_->setWindowFlag(Qt::Window);
     pad_->setAttribute(Qt::WA_DeleteOnClose);
     connect(pad_, &RollPad::PairChosen, this, [this](int die1, int die2) {
-      if (!table_.Busy()) table_.PadRoll(die1, die2);
+      if (!table_.Busy() && CommitKeyIn()) table_.PadRoll(die1, die2);
     });
     connect(pad_, &RollPad::TotalChosen, this, [this](int total) {
-      if (!table_.Busy()) table_.PadTotal(total);
+      if (!table_.Busy() && CommitKeyIn()) table_.PadTotal(total);
     });
     connect(pad_, &RollPad::RandomRollRequested, this, [this] { Perform(MenuCommand::RollDice); });
     connect(pad_, &RollPad::HyperDriveRequested, this, [this] {
@@ -289,6 +347,8 @@ void MainWindow::StartHyperDrive(int rolls) {
 }
 
 void MainWindow::StartRun(RunKind kind) {
+  // An amount being keyed in goes on the table first; a refusal stops the roll.
+  if (!CommitKeyIn()) return;
   runKind_ = kind;
   rollsAtStart_ = table_.State().RollCounts[event::kAllRolls];
   idleFigures_ = FiguresOf(table_.State());
@@ -308,8 +368,12 @@ void MainWindow::StartRun(RunKind kind) {
 void MainWindow::ShowLiveFigures() {
   const RunSnapshot shot = table_.LiveSnapshot();
   status_->Show(FiguresOf(shot, idleFigures_));
-  felt_->SetPoint(shot.Point);
-  if (runKind_ == RunKind::AutoRoll) felt_->SetDice(shot.Die1, shot.Die2);
+  TableLook look = view_->Look();
+  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) look.amounts[id] = shot.Bets[id];
+  look.point = shot.Point;
+  // A visible throw shows its own dice as it lands; Hyper-Drive's go by too fast to draw.
+  if (runKind_ == RunKind::HyperDrive) look.die1 = look.die2 = 0;
+  view_->SetLook(look);
   if (pad_) pad_->SetRollCount(shot.Rolls);
   const double seconds = runClock_.elapsed() / 1000.0;
   if (bankroll_) bankroll_->ShowFigures(shot, seconds > 0 ? (shot.Rolls - rollsAtStart_) / seconds : 0);
@@ -399,12 +463,12 @@ void MainWindow::UpdateStatus() {
   status_->Show(FiguresOf(g));
   if (pad_) pad_->SetRollCount(g.RollCounts[event::kAllRolls]);
   status_->ShowQuickStats(QuickStatsLine(FigureQuickStats(g)));
-  felt_->SetPoint(g.Point);
-  felt_->SetDice(g.Die1, g.Die2);
-  QList<QPair<QString, QString>> bets;
-  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id)
-    if (g.BetAmount[id] != 0) bets.append({QString::fromStdString(g.BetName[id]), MoneyLabel(g.BetAmount[id])});
-  felt_->SetBets(std::move(bets));
+  TableLook look = LookOf(g);
+  look.showHop = Action(MenuCommand::HopBets)->isChecked();
+  look.betsAsNumbers = Action(MenuCommand::BetsAsNumbers)->isChecked();
+  if (tool_ == WindowTool::Remove) look.tool = layout::kToolRemove;
+  if (g.RollCounts[event::kAllRolls] == 0) look.die1 = look.die2 = 0;
+  view_->SetLook(look);
 }
 
 // --- TableListener -----------------------------------------------------------
@@ -417,9 +481,9 @@ void MainWindow::BetChanged(int betId, Currency before, Currency after) {
 
 void MainWindow::BankrollChanged(Currency, Currency) { UpdateStatus(); }
 
-void MainWindow::PointChanged(int point) { felt_->SetPoint(point); }
+void MainWindow::PointChanged(int) { UpdateStatus(); }
 
-void MainWindow::DiceThrown(int die1, int die2) { felt_->SetDice(die1, die2); }
+void MainWindow::DiceThrown(int, int) { UpdateStatus(); }
 
 void MainWindow::UnsavedChanged(bool) { UpdateCaption(); }
 
@@ -449,13 +513,14 @@ void MainWindow::RunStopped(StopReason) {
 // --- TableScreen ---------------------------------------------------------------
 
 void MainWindow::ShowDice(int die1, int die2, int pointAfter) {
-  felt_->SetDice(die1, die2);
-  felt_->SetPoint(pointAfter);
+  TableLook look = view_->Look();
+  look.die1 = die1;
+  look.die2 = die2;
+  look.point = pointAfter;
+  view_->SetLook(look);
+  view_->AnimateThrow(die1, die2);
 }
 
 void MainWindow::RedrawBet(int) { UpdateStatus(); }
 
-void MainWindow::RefreshTable() {
-  UpdateStatus();
-  felt_->update();
-}
+void MainWindow::RefreshTable() { UpdateStatus(); }

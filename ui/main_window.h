@@ -25,7 +25,8 @@ class Dialogs;
 class QAction;
 class SoundBoard;
 class Table;
-class TableFelt;
+class TableView;
+class QLineEdit;
 
 struct DesktopPaths {
   QString dataFolder;  // the player's files: games, scripts, sounds
@@ -44,6 +45,7 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   QAction* Action(MenuCommand command) const { return actions_.value(static_cast<int>(command)); }
   bool RunUnderWay() const;
   BankrollWindow* Bankroll() const;
+  TableView* View() const { return view_; }
   HelpWindow* Help() const;
   RollPad* Pad() const;
   // The keys the window answers, for the help's keyboard page.
@@ -83,6 +85,11 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   void StartRun(RunKind kind);
   void StartHyperDrive(int rolls);
   void ChooseTool(int tool, const QString& prompt);
+  void PickTool(int tool);
+  void ClickBet(int betId, bool shift);
+  void OpenKeyIn(int betId);
+  // Puts a keyed-in amount on its bet; false when the table refused it.
+  bool CommitKeyIn();
   void LeaveToolMode();
   void OpenGame();
   void SaveGameAs();
@@ -99,7 +106,9 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   Dialogs& dialogs_;
   SoundBoard& sounds_;
   DesktopPaths paths_;
-  TableFelt* felt_ = nullptr;
+  TableView* view_ = nullptr;
+  QLineEdit* keyIn_ = nullptr;  // the bet-entry box of Key-in mode
+  int keyInBet_ = 0;
   StatusPanel* status_ = nullptr;
   QPointer<BankrollWindow> bankroll_;
   QPointer<HelpWindow> help_;

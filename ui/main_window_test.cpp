@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSignalSpy>
@@ -20,6 +21,7 @@
 #include "ui/dialogs_for_test.h"
 #include "ui/main_window.h"
 #include "ui/roll_pad.h"
+#include "ui/table_view.h"
 #include "ui/sound_board.h"
 
 namespace {
@@ -286,6 +288,80 @@ TEST(MainWindow, PadRollsTheChosenDice) {
   emit d.window.Pad()->TotalChosen(8);
   EXPECT_EQ(d.g().Die1 + d.g().Die2, 8);
   EXPECT_EQ(d.g().RollCounts[0], 2);
+}
+
+// The table worked by mouse: a click where the spot is drawn.
+void ClickSpot(Desk& d, int betId, Qt::KeyboardModifiers modifiers = {}) {
+  TableView* view = d.window.View();
+  QTest::mouseClick(view, Qt::LeftButton, modifiers, view->BetCentre(betId).toPoint());
+}
+
+TEST(MainWindow, TheLayoutTakesBetsByMouse) {
+  Desk d;
+  d.window.resize(1100, 760);
+  d.window.show();
+  d.table.Set("AutoAdjustMode", 0);  // amounts exactly as clicked
+  emit d.window.View()->ToolClicked(2);  // the $5 chip
+  ClickSpot(d, bet::Place(6));
+  EXPECT_EQ(d.g().BetAmount[bet::Place(6)], Currency(5));
+  ClickSpot(d, bet::Place(6), Qt::ShiftModifier);
+  EXPECT_EQ(d.g().BetAmount[bet::Place(6)], Currency(0));
+
+  // No Come bet on the come-out: its refusal, word for word in its notice.
+  ClickSpot(d, bet::kCome);
+  ASSERT_FALSE(d.dialogs.messages.empty());
+  EXPECT_EQ(d.dialogs.messages.back().title, "Come Bet");
+  EXPECT_EQ(d.g().BetAmount[bet::kCome], Currency(0));
+
+  // Called OFF, the bet shows its marker; a press the other way withdraws the call.
+  ClickSpot(d, bet::Place(8));
+  emit d.window.View()->ToolClicked(90);
+  ClickSpot(d, bet::Place(8));
+  EXPECT_EQ(d.window.View()->Look().statuses[bet::Place(8)], -1);
+  emit d.window.View()->ToolClicked(91);
+  ClickSpot(d, bet::Place(8));
+  EXPECT_NE(d.window.View()->Look().statuses[bet::Place(8)], -1);
+
+  // The remove tool takes a bet down.
+  d.window.Action(MenuCommand::RemoveTool)->trigger();
+  ClickSpot(d, bet::Place(8));
+  EXPECT_EQ(d.g().BetAmount[bet::Place(8)], Currency(0));
+}
+
+// A keyed-in amount goes on the table before the next throw; one that is no
+// amount is refused and the throw is not made.
+TEST(MainWindow, KeyedInAmountGoesOnBeforeTheRoll) {
+  Desk d;
+  d.window.resize(1100, 760);
+  d.window.show();
+  d.window.Action(MenuCommand::RollYourOwn)->trigger();
+  d.window.Action(MenuCommand::KeyIn)->trigger();
+  auto* box = d.window.findChild<QLineEdit*>("txtEnterBet");
+  ClickSpot(d, bet::kPassLine);
+  ASSERT_TRUE(box->isVisible());
+  box->setText("ten");
+  emit d.window.Pad()->PairChosen(2, 2);
+  EXPECT_EQ(d.g().RollCounts[0], 0);
+  EXPECT_FALSE(box->isVisible());
+  ClickSpot(d, bet::kPassLine);
+  box->setText("$15");
+  emit d.window.Pad()->PairChosen(2, 2);
+  EXPECT_EQ(d.g().RollCounts[0], 1);
+  EXPECT_EQ(d.g().Point, 4);
+  EXPECT_EQ(d.g().BetAmount[bet::kPassLine], Currency(15));
+  d.window.Action(MenuCommand::KeyIn)->trigger();
+}
+
+// 4-4 from the pad: the stickman calls the eight, then the hard way.
+TEST(MainWindow, HardEightCallsTheTotalThenTheDouble) {
+  Desk d;
+  d.window.Action(MenuCommand::RollYourOwn)->trigger();
+  d.sink.played.clear();
+  emit d.window.Pad()->PairChosen(4, 4);
+  const std::vector<QString> calls(d.sink.played.begin() + 1, d.sink.played.end());  // after the dice
+  ASSERT_GE(calls.size(), 2u);
+  EXPECT_EQ(calls[0], "Stickman08.stk");
+  EXPECT_EQ(calls[1], "Stickman16.stk");
 }
 
 TEST(MainWindow, RollTheDiceThrowsOnTheRunnerAndRedraws) {

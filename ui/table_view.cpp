@@ -1,5 +1,10 @@
 #include "ui/table_view.h"
 
+#include <QRandomGenerator>
+#include <cmath>
+#include <functional>
+#include <tuple>
+
 #include <QAccessible>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -10,7 +15,7 @@
 #include "engine/bet_status_table.h"
 #include "engine/table_commands.h"
 #include "ui/layout_geometry.h"
-#include "ui/table_felt.h"
+#include "ui/die_painter.h"
 
 namespace {
 
@@ -40,6 +45,7 @@ TableView::TableView(QWidget* parent) : QWidget(parent), focus_(bet::kPassLine) 
 }
 
 void TableView::SetLook(const TableLook& look) {
+  StartTravel(look_, look);
   look_ = look;
   if (bet::IsHop(focus_) && !look_.showHop) focus_ = bet::kPassLine;
   setAccessibleDescription(Describe(focus_));
@@ -81,7 +87,102 @@ void TableView::paintEvent(QPaintEvent*) {
   PaintHover(p);
   PaintBets(p);
   PaintTray(p);
+  PaintTravel(p);
+  PaintThrow(p);
   if (hasFocus()) PaintFocus(p);
+}
+
+namespace {
+
+constexpr int kThrowMs = 450;
+constexpr int kTravelMs = 350;
+constexpr int kTumbleSteps = 7;  // faces shown on the way
+
+QVariantAnimation* Animate(QObject* owner, int ms, std::function<void(double)> step) {
+  auto* animation = new QVariantAnimation(owner);
+  animation->setStartValue(0.0);
+  animation->setEndValue(1.0);
+  animation->setDuration(ms);
+  animation->setEasingCurve(QEasingCurve::OutCubic);
+  QObject::connect(animation, &QVariantAnimation::valueChanged, owner,
+                   [step = std::move(step)](const QVariant& v) { step(v.toDouble()); });
+  animation->start(QAbstractAnimation::DeleteWhenStopped);
+  return animation;
+}
+
+}  // namespace
+
+void TableView::AnimateThrow(int die1, int die2) {
+  SkipAnimation();
+  throw_ = {die1, die2, 0, 1, 1};
+  throwAnimation_ = Animate(this, kThrowMs, [this](double t) {
+    const int step = static_cast<int>(t * kTumbleSteps);
+    // The tumble is for the eye only: it draws on the screen's own generator,
+    // never on the table's dice.
+    if (step != static_cast<int>(throw_.progress * kTumbleSteps)) {
+      throw_.tumbleFace1 = QRandomGenerator::global()->bounded(1, 7);
+      throw_.tumbleFace2 = QRandomGenerator::global()->bounded(1, 7);
+    }
+    throw_.progress = t;
+    update();
+  });
+  update();
+}
+
+bool TableView::Animating() const { return throw_.progress < 1 || travel_.progress < 1; }
+
+void TableView::SkipAnimation() {
+  if (throwAnimation_) throwAnimation_->stop();
+  if (travelAnimation_) travelAnimation_->stop();
+  throw_.progress = 1;
+  travel_.progress = 1;
+  update();
+}
+
+void TableView::StartTravel(const TableLook& before, const TableLook& after) {
+  // A box bet that left its box for a number it was not on before.
+  for (const auto& [box, first, last] : {std::tuple{bet::kCome, bet::kComeNumberBase, bet::kComeNumberBase + 5},
+                                          std::tuple{bet::kDontCome, bet::kDontComeBase,
+                                                     bet::kDontComeBase + 5}}) {
+    if (before.amounts[box].raw <= 0 || after.amounts[box] != 0) continue;
+    for (int id = first; id <= last; ++id) {
+      if (before.amounts[id] != 0 || after.amounts[id].raw <= 0) continue;
+      travel_ = {box, id, after.amounts[id], 0};
+      if (travelAnimation_) travelAnimation_->stop();
+      travelAnimation_ = Animate(this, kTravelMs, [this](double t) {
+        travel_.progress = t;
+        update();
+      });
+      return;
+    }
+  }
+}
+
+void TableView::PaintTravel(QPainter& p) const {
+  if (travel_.progress >= 1) return;
+  const QPointF from = layout::ChipPoint(travel_.from), to = layout::ChipPoint(travel_.to);
+  const QPointF at = from + (to - from) * travel_.progress;
+  PaintChipStack(p, at, layout::Marks().chipRadius, travel_.amount, look_.checks);
+}
+
+void TableView::PaintThrow(QPainter& p) const {
+  if (throw_.progress >= 1) return;
+  // The dice come in from the far end of the layout and land on their spot.
+  const QRectF dice = layout::Marks().dice;
+  const qreal side = dice.height() * 0.78;
+  const QPointF landing = dice.center();
+  const QPointF start(layout::kWidth * 0.15, layout::kHeight * 0.35);
+  const QPointF at = start + (landing - start) * throw_.progress;
+  const qreal hop = std::sin(throw_.progress * 3.14159 * 2) * side * 0.4 * (1 - throw_.progress);
+  p.save();
+  for (int i = 0; i < 2; ++i) {
+    p.save();
+    p.translate(at + QPointF((i == 0 ? -1 : 1) * (side * 0.5 + 6), -hop));
+    p.rotate((1 - throw_.progress) * (i == 0 ? 540 : -420));
+    PaintDie(p, QRectF(-side / 2, -side / 2, side, side), i == 0 ? throw_.tumbleFace1 : throw_.tumbleFace2);
+    p.restore();
+  }
+  p.restore();
 }
 
 void TableView::PaintBets(QPainter& p) const {
@@ -201,6 +302,7 @@ void TableView::MoveFocus(int betId) {
 }
 
 void TableView::mousePressEvent(QMouseEvent* event) {
+  if (Animating()) SkipAnimation();
   if (event->button() == Qt::RightButton) {
     emit RollRequested();
     return;
@@ -233,6 +335,7 @@ void TableView::leaveEvent(QEvent* event) {
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {
+  if (Animating()) SkipAnimation();
   const int key = event->key();
   auto step = [&](int dx, int dy) { MoveFocus(layout::Neighbour(focus_, dx, dy, look_.showHop)); };
   switch (key) {

@@ -5,6 +5,8 @@
 // gave it and answers clicks and keys with signals; the owner acts on them.
 
 #include <QPixmap>
+#include <QPointer>
+#include <QVariantAnimation>
 #include <QWidget>
 
 #include "ui/layout_painter.h"
@@ -21,6 +23,12 @@ class TableView : public QWidget {
 
   // Where a bet's chips stand, in widget coordinates.
   QPointF BetCentre(int betId) const;
+  // A visible throw: the dice tumble onto the table before they show their
+  // faces. A click or a key cuts it short.
+  void AnimateThrow(int die1, int die2);
+  bool Animating() const;
+  void SkipAnimation();
+
   // The spot the keys have reached (a BetId).
   int FocusedBet() const { return focus_; }
 
@@ -51,6 +59,25 @@ class TableView : public QWidget {
   // Name, amount and payoff of a spot, as the tooltip and screen readers say it.
   QString Describe(int betId) const;
   QString DescribeTool(int tool) const;
+  // A Come or Don't Come bet that the last look moved to its number travels
+  // there rather than jumping.
+  void StartTravel(const TableLook& before, const TableLook& after);
+  void PaintThrow(QPainter& p) const;
+  void PaintTravel(QPainter& p) const;
+
+  struct Throw {
+    int die1 = 0, die2 = 0;
+    double progress = 1;  // 0 thrown .. 1 landed
+    int tumbleFace1 = 1, tumbleFace2 = 1;
+  };
+  struct Travel {
+    int from = 0, to = 0;
+    Currency amount;
+    double progress = 1;
+  };
+  Throw throw_;
+  Travel travel_;
+  QPointer<QVariantAnimation> throwAnimation_, travelAnimation_;
 
   TableLook look_;
   LayoutColours colours_;
