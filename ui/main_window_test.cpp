@@ -126,6 +126,10 @@ TEST(MainWindow, SoundsFollowTheSwitches) {
     if (c.heard) {
       EXPECT_EQ(d.sink.played.front(), "Dice.dce");
     }
+    // Hyper-Drive draws no throw.
+    if (c.hyperDrive) {
+      EXPECT_FALSE(d.window.View()->Animating());
+    }
   }
 }
 

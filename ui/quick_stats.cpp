@@ -3,6 +3,7 @@
 #include <QObject>
 #include <cmath>
 
+#include "engine/bet_status_table.h"
 #include "engine/catalogue.h"
 #include "engine/game.h"
 #include "stats/advantage.h"
@@ -12,7 +13,8 @@ QuickStats FigureQuickStats(const Game& g) {
   QuickStats stats;
   double perRoll = 0;
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) {
-    if (g.BetAmount[id] == 0) continue;
+    // A bet called OFF stands on the table but risks nothing until called back.
+    if (g.BetAmount[id] == 0 || g.BetStatus[id] == status::kCalledOff) continue;
     perRoll += FigureAdvantage(g, id).EvPerRoll * g.BetAmount[id].ToDouble();
   }
   stats.expectedPerHour = perRoll * g.SimRollRate.ToDouble();

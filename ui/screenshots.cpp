@@ -19,6 +19,7 @@
 #include "ui/main_window.h"
 #include "ui/picture_dialogs.h"
 #include "ui/roll_pad.h"
+#include "ui/table_view.h"
 #include "ui/sound_board.h"
 
 namespace {
@@ -37,23 +38,70 @@ bool Save(QWidget& widget, const QString& folder, const QString& name) {
   return saved;
 }
 
-// A table in play: a point on, a line bet with odds and two place bets.
-bool SaveMainWindow(const QString& folder, const DesktopPaths& paths) {
+// A window on a table of its own that nobody answers, for pictures.
+struct PictureTable {
   PictureDialogs dialogs;
   SilentSink sink;
-  SoundBoard sounds(sink);
-  DesktopFrontEnd frontEnd(dialogs, sounds);
-  Table table(frontEnd);
-  table.StartFresh();
-  MainWindow window(table, frontEnd, dialogs, sounds, paths);
+  SoundBoard sounds{sink};
+  DesktopFrontEnd frontEnd{dialogs, sounds};
+  Table table{frontEnd};
+  std::unique_ptr<MainWindow> window;
+
+  explicit PictureTable(const DesktopPaths& paths) {
+    table.StartFresh();
+    table.Set("AutoAdjustMode", 0);  // every amount as placed
+    window = std::make_unique<MainWindow>(table, frontEnd, dialogs, sounds, paths);
+  }
+  bool Save(const QString& folder, const QString& name, QSize size) {
+    window->resize(size);
+    window->View()->SkipAnimation();
+    return ::Save(*window, folder, name);
+  }
+};
+
+// A point on 6 and a bet of every kind a player makes: the line with odds,
+// a Come bet moved to 8 with its odds, Place bets (one called OFF), the Field,
+// propositions.
+void PlaceBusyBets(Table& table) {
   table.Bet(bet::kPassLine, Currency(10));
   table.Roll(4, 2);
-  table.Bet(bet::kPassOdds, Currency(20));
-  table.Bet(bet::Place(8), Currency(12));
-  window.resize(1100, 720);
-  bool saved = Save(window, folder, QStringLiteral("main-window"));
-  window.Action(MenuCommand::RollYourOwn)->trigger();
-  return Save(*window.Pad(), folder, QStringLiteral("pad")) && saved;
+  table.Bet(bet::kPassOdds, Currency(25));
+  table.Bet(bet::kCome, Currency(10));
+  table.Roll(5, 3);
+  table.Bet(bet::ComeOdds(8), Currency(20));
+  table.Bet(bet::kCome, Currency(10));
+  table.Bet(bet::Place(5), Currency(10));
+  table.Bet(bet::Place(9), Currency(10));
+  table.Bet(bet::Place(10), Currency(25));
+  table.Call(bet::Place(10), false);
+  table.Bet(bet::kField, Currency(5));
+  table.Bet(bet::kHard8, Currency(2));
+  table.Bet(bet::kCraps, Currency(1));
+  table.Bet(bet::kFirstHop + 3, Currency(1));
+}
+
+bool SaveTables(const QString& folder, const DesktopPaths& paths) {
+  bool all = true;
+  {
+    PictureTable empty(paths);
+    all = empty.Save(folder, QStringLiteral("table-empty"), {1100, 760}) && all;
+  }
+  PictureTable busy(paths);
+  PlaceBusyBets(busy.table);
+  all = busy.Save(folder, QStringLiteral("main-window"), {1100, 760}) && all;
+  busy.window->Action(MenuCommand::HopBets)->trigger();
+  all = busy.Save(folder, QStringLiteral("table-busy"), {1100, 760}) && all;
+  all = busy.Save(folder, QStringLiteral("table-busy-small"), {800, 560}) && all;
+  busy.window->Action(MenuCommand::HopBets)->trigger();  // the switch is the player's: leave it as it was
+  {
+    PictureTable hop(paths);
+    hop.window->Action(MenuCommand::HopBets)->trigger();
+    for (int id = bet::kFirstHop; id <= bet::kLastHop; id += 3) hop.table.Bet(id, Currency(1));
+    all = hop.Save(folder, QStringLiteral("table-hop-bets"), {1100, 760}) && all;
+    hop.window->Action(MenuCommand::HopBets)->trigger();
+  }
+  busy.window->Action(MenuCommand::RollYourOwn)->trigger();
+  return ::Save(*busy.window->Pad(), folder, QStringLiteral("pad")) && all;
 }
 
 }  // namespace
@@ -63,7 +111,7 @@ int WriteScreenshots(const QString& folder, const DesktopPaths& paths) {
     QTextStream(stderr) << "dicemill: cannot make the folder " << folder << '\n';
     return 1;
   }
-  bool all = SaveMainWindow(folder, paths);
+  bool all = SaveTables(folder, paths);
   MessageDialog message(SampleMessage());
   all = Save(message, folder, QStringLiteral("message")) && all;
   SettleNoticeDialog winner(SampleWonNotice());
