@@ -289,6 +289,9 @@ TEST(MainWindow, PadRollsTheChosenDice) {
   emit d.window.Pad()->PairChosen(2, 4);
   EXPECT_EQ(d.g().Point, 6);
   EXPECT_EQ(d.window.findChild<QLabel*>("lblStatus5")->text(), "2-4 (6)");
+  const TableLook& shown = d.window.View()->Look();
+  EXPECT_EQ(shown.point, 6);  // the puck ON on 6
+  EXPECT_EQ(std::pair(shown.die1, shown.die2), std::pair(2, 4));
   emit d.window.Pad()->TotalChosen(8);
   EXPECT_EQ(d.g().Die1 + d.g().Die2, 8);
   EXPECT_EQ(d.g().RollCounts[0], 2);
