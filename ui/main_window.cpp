@@ -107,19 +107,19 @@ HelpWindow* MainWindow::Help() const { return help_; }
 
 void MainWindow::BuildMenus() {
   QHash<QString, QMenu*> menus;
-  for (const MenuSpec& spec : MainMenus()) {
-    QMenu* menu = menuBar()->addMenu(tr(spec.caption));
-    menu->setObjectName(QString::fromLatin1(spec.objectName));
-    menus.insert(QString::fromLatin1(spec.objectName), menu);
+  for (const MenuEntry& entry : MainMenus()) {
+    QMenu* menu = menuBar()->addMenu(tr(entry.caption));
+    menu->setObjectName(QString::fromLatin1(entry.objectName));
+    menus.insert(QString::fromLatin1(entry.objectName), menu);
   }
   QSettings settings;
-  for (const MenuItemSpec& spec : MainMenuItems()) {
-    QAction* action = menus.value(QString::fromLatin1(spec.menu))->addAction(tr(spec.caption));
-    action->setObjectName(QString::fromLatin1(spec.objectName));
-    if (*spec.shortcut) action->setShortcut(QKeySequence(QString::fromLatin1(spec.shortcut)));
-    action->setCheckable(spec.checkable);
-    if (const char* key = ViewSetting(spec.command)) action->setChecked(settings.value(key, false).toBool());
-    const MenuCommand command = spec.command;
+  for (const MenuItemEntry& entry : MainMenuItems()) {
+    QAction* action = menus.value(QString::fromLatin1(entry.menu))->addAction(tr(entry.caption));
+    action->setObjectName(QString::fromLatin1(entry.objectName));
+    if (*entry.shortcut) action->setShortcut(QKeySequence(QString::fromLatin1(entry.shortcut)));
+    action->setCheckable(entry.checkable);
+    if (const char* key = ViewSetting(entry.command)) action->setChecked(settings.value(key, false).toBool());
+    const MenuCommand command = entry.command;
     connect(action, &QAction::triggered, this, [this, command] { Perform(command); });
     actions_.insert(static_cast<int>(command), action);
   }
@@ -276,10 +276,10 @@ void MainWindow::OpenBankroll() {
 
 std::vector<HelpShortcut> MainWindow::Shortcuts() const {
   std::vector<HelpShortcut> keys;
-  for (const MenuItemSpec& spec : MainMenuItems()) {
-    if (!*spec.shortcut) continue;
-    QString what = tr(spec.caption).remove('&');
-    keys.push_back({QKeySequence(QString::fromLatin1(spec.shortcut)).toString(QKeySequence::NativeText), what});
+  for (const MenuItemEntry& entry : MainMenuItems()) {
+    if (!*entry.shortcut) continue;
+    QString what = tr(entry.caption).remove('&');
+    keys.push_back({QKeySequence(QString::fromLatin1(entry.shortcut)).toString(QKeySequence::NativeText), what});
   }
   keys.push_back({tr("Right click on the table"), tr("Roll the dice")});
   keys.push_back({tr("Esc"), tr("Stop a run; otherwise leave a tool mode")});
@@ -446,9 +446,9 @@ void MainWindow::UpdateCaption() {
 
 void MainWindow::UpdateMenus() {
   const bool busy = table_.Busy();
-  for (const MenuItemSpec& spec : MainMenuItems()) {
-    QAction* action = Action(spec.command);
-    action->setEnabled(!ScreenToCome(spec.command) && (!busy || spec.duringRun == DuringRun::Enabled));
+  for (const MenuItemEntry& entry : MainMenuItems()) {
+    QAction* action = Action(entry.command);
+    action->setEnabled(!ScreenToCome(entry.command) && (!busy || entry.duringRun == DuringRun::Enabled));
   }
   Action(MenuCommand::AutoRoll)->setText(tr(AutoRollCaption(busy && runKind_ == RunKind::AutoRoll)));
   // A Hyper-Drive run is stopped from its own screen, Esc or Exit.

@@ -15,7 +15,7 @@ enum class MenuCommand {
 // When an item may act while a run owns the table.
 enum class DuringRun { Disabled, Enabled };
 
-struct MenuItemSpec {
+struct MenuItemEntry {
   const char* menu;        // object name of the menu: mnuGame, mnuAction, ...
   MenuCommand command;
   const char* caption;
@@ -25,13 +25,13 @@ struct MenuItemSpec {
   DuringRun duringRun;
 };
 
-struct MenuSpec {
+struct MenuEntry {
   const char* objectName;
   const char* caption;
 };
 
-std::span<const MenuSpec> MainMenus();
-std::span<const MenuItemSpec> MainMenuItems();
+std::span<const MenuEntry> MainMenus();
+std::span<const MenuItemEntry> MainMenuItems();
 
 // The caption of the Auto-Roll item while a run is or is not under way.
 const char* AutoRollCaption(bool running);
