@@ -91,7 +91,9 @@ MainWindow::MainWindow(Table& table, DesktopFrontEnd& frontEnd, Dialogs& dialogs
   UpdateCaption();
   UpdateMenus();
   UpdateStatus();
-  resize(980, 680);
+  resize(1120, 800);
+  // The window opens where the player left it.
+  restoreGeometry(QSettings().value(QStringLiteral("window/geometry")).toByteArray());
 }
 
 MainWindow::~MainWindow() {
@@ -399,6 +401,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     return;
   }
   if (bankroll_) bankroll_->close();
+  QSettings().setValue(QStringLiteral("window/geometry"), saveGeometry());
   event->accept();
 }
 
