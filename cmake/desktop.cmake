@@ -25,3 +25,10 @@ gtest_discover_tests(dicemill_ui_tests DISCOVERY_TIMEOUT 60 PROPERTIES ENVIRONME
 add_test(NAME DesktopScreenshots
          COMMAND ${CMAKE_COMMAND} -DPROGRAM=$<TARGET_FILE:dicemill_app> -DWORK=${CMAKE_CURRENT_BINARY_DIR}/screenshots
                  -P ${CMAKE_CURRENT_SOURCE_DIR}/cmake/screenshots_test.cmake)
+
+# What the window costs a live run, against the same run headless.
+if(DICEMILL_BENCH)
+  find_package(benchmark REQUIRED)
+  add_executable(dicemill_ui_bench bench/desktop/live_run_bench.cpp)
+  target_link_libraries(dicemill_ui_bench PRIVATE dicemill_ui Qt6::Test benchmark::benchmark)
+endif()

@@ -7,6 +7,7 @@
 void TakeRunSnapshot(const Game& g, bool running, RunSnapshot& shot) {
   shot.Running = running;
   shot.Rolls = g.RollCounts[0];
+  shot.RollsLeft = g.RollCountLeft;
   shot.Bankroll = g.Bankroll();
   shot.TotalOnTable = g.TotalOnTable;
   shot.Rack = g.Bankroll() - g.TotalOnTable;

@@ -15,6 +15,7 @@ struct Game;
 struct RunSnapshot {
   bool Running = false;  // false in the copy taken as the run ended
   int64_t Rolls = 0;     // of the game, not of this run
+  int32_t RollsLeft = 0; // of the Auto-Play roll count, as Auto-Roll counts it down
   Currency Bankroll, Rack, TotalOnTable;
   Currency HighBankroll, LowBankroll;
   int32_t Point = 0, Die1 = 0, Die2 = 0;
