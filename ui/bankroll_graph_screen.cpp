@@ -251,6 +251,7 @@ QWidget* BankrollGraphScreen::BuildControls() {
   hoursLabel_ = Figure(panel, "lblSimHours");
   rateLabel_ = Figure(panel, "lblRollsPerHour");
   speedLabel_ = Figure(panel, "lblRollsPerSecond");
+  speedLabel_->setText(QStringLiteral("-"));
   pair(0, 0, tr("High:"), highLabel_);
   pair(1, 0, tr("Current:"), currentLabel_);
   pair(2, 0, tr("Low:"), lowLabel_);
@@ -568,10 +569,14 @@ void BankrollGraphScreen::AutoPrintFullWindow() {
 }
 
 void PlayForGraphPicture(Table& table, int rolls) {
+  // A player who puts a lost bet back: the runs are short so that the bets return.
+  constexpr int kRollsBetweenBets = 10;
+  const std::array<std::pair<int, Currency>, 3> bets = {{{bet::kPassLine, 10}, {bet::Place(6), 12}, {bet::Place(8), 12}}};
   table.StartFresh();
   table.Set("AutoTakeFullOdds", 1);
-  table.Bet(bet::kPassLine, 10);
-  table.Bet(bet::Place(6), 12);
-  table.Bet(bet::Place(8), 12);
-  table.HyperDrive(rolls);
+  for (int played = 0; played < rolls; played += kRollsBetweenBets) {
+    for (const auto& [id, amount] : bets)
+      if (table.State().BetAmount[static_cast<size_t>(id)] == 0) table.Bet(id, amount);
+    table.HyperDrive(std::min(kRollsBetweenBets, rolls - played));
+  }
 }

@@ -10,6 +10,7 @@
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
@@ -130,6 +131,14 @@ TEST(BankrollGraphScreen, ReferenceLinesGiveTheirDifferences) {
       EXPECT_EQ(s.Text("lblRefRolls"), "Rolls:  -");
     }
   }
+  // A line dragged on the graph stands where the mouse lets it go.
+  BankrollGraphView* view = s.screen->View();
+  view->resize(view->sizeHint());
+  const int y = view->height() / 2;
+  QTest::mousePress(view, Qt::LeftButton, {}, QPoint(static_cast<int>(view->XOf(500)), y));
+  QTest::mouseMove(view, QPoint(static_cast<int>(view->XOf(200)), y));
+  QTest::mouseRelease(view, Qt::LeftButton, {}, QPoint(static_cast<int>(view->XOf(200)), y));
+  EXPECT_EQ(s.g().RefLinePosition[1], 200);
   s.Trigger("mnuDisplayRefLines");
   EXPECT_FALSE(s.g().DisplayRefLines);
 }
@@ -149,6 +158,23 @@ TEST(BankrollGraphScreen, PrintNowFillsAPageBeforeAskingForTheFile) {
             "Would you like to finish printing now?");
   ASSERT_EQ(s.dialogs.filesAsked.size(), 1u);
   EXPECT_GT(QFileInfo(pdf).size(), 0);
+}
+
+TEST(BankrollGraphScreen, AutoPrintTakesEachFullWindowItSees) {
+  struct Case {
+    int rolls;
+    bool printed;
+  };
+  for (const Case c : {Case{1050, true}, Case{1000, false}}) {
+    Screen s;
+    QTemporaryDir folder;
+    const QString pdf = folder.filePath("auto.pdf");
+    s.dialogs.files.push_back(pdf.toStdString());
+    s.Trigger("mnuAutoPrint");
+    EXPECT_EQ(s.Text("lblAutoPrint"), "Auto-Print ON");
+    s.table.HyperDrive(c.rolls);
+    EXPECT_EQ(QFileInfo::exists(pdf), c.printed) << c.rolls;
+  }
 }
 
 TEST(BankrollGraphScreen, TheButtonAsksForRunsAndTheThrottleReachesTheTable) {
