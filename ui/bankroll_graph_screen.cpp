@@ -111,7 +111,7 @@ BankrollGraphScreen::BankrollGraphScreen(Table& table, Dialogs& dialogs, QWidget
 BankrollGraphScreen::~BankrollGraphScreen() { table_.Unsubscribe(this); }
 
 void BankrollGraphScreen::BuildMenus(QMenuBar* bar) {
-  auto action = [this](QMenu* menu, const char* name, const QString& text, bool checkable = false) {
+  auto action = [](QMenu* menu, const char* name, const QString& text, bool checkable = false) {
     QAction* a = menu->addAction(text);
     a->setObjectName(QString::fromLatin1(name));
     a->setCheckable(checkable);
@@ -153,8 +153,8 @@ void BankrollGraphScreen::BuildMenus(QMenuBar* bar) {
     showAverage_ = on;
     Refresh();
   });
-  connect(action(display, "mnuSetAverage", tr("&Set Moving Average ...")), &QAction::triggered, this,
-          [this] { ChooseAverage(); });
+  setAverage_ = action(display, "mnuSetAverage", tr("&Set Moving Average ..."));
+  connect(setAverage_, &QAction::triggered, this, [this] { ChooseAverage(); });
   refLines_ = action(display, "mnuDisplayRefLines", tr("Display &Reference Lines"), true);
   connect(refLines_, &QAction::triggered, this, [this](bool on) { ToggleReferenceLines(on); });
   display->addSeparator();
@@ -403,7 +403,8 @@ void BankrollGraphScreen::ShowReferenceDifferences() {
     refBankroll_->setText(tr("Bankroll:  -"));
     return;
   }
-  const Currency gap = picture_.points[static_cast<size_t>(second - 1)] - picture_.points[static_cast<size_t>(first - 1)];
+  const auto at = [this](int point) { return picture_.points[static_cast<size_t>(point - 1)]; };
+  const Currency gap = at(second) - at(first);
   refRolls_->setText(tr("Rolls:  ") + Count(second - first));
   refBankroll_->setText(tr("Bankroll:  ") + MoneyLabel(gap));
 }
@@ -429,6 +430,9 @@ void BankrollGraphScreen::SetRunning(bool running) {
   running_ = running;
   button_->setText(running ? tr("Stop Hyper-&Drive") : tr("Start Hyper-&Drive"));
   count_->setEnabled(!running);
+  // What the game keeps waits for the run to end; the window's moves and the look do not.
+  setAverage_->setEnabled(!running);
+  for (QAction* a : adjust_) a->setEnabled(!running);
 }
 
 void BankrollGraphScreen::SetRolls(int rolls) {
@@ -452,6 +456,11 @@ void BankrollGraphScreen::RunStopped(StopReason reason) {
   speedLabel_->setText(seconds > 0 ? Count(static_cast<int64_t>((rolls_ - before) / seconds)) : QStringLiteral("-"));
   runClock_.invalidate();
   if (autoPrint_ && picture_.count == kWindowPoints) AutoPrintFullWindow();
+}
+
+void BankrollGraphScreen::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  Refresh();  // rolls made while it was hidden were not drawn
 }
 
 void BankrollGraphScreen::RollFinished(std::span<const Settlement>) {
@@ -513,7 +522,8 @@ void BankrollGraphScreen::CommitReferenceLines() {
 void PlayForGraphPicture(Table& table, int rolls) {
   // A player who puts a lost bet back: the runs are short so that the bets return.
   constexpr int kRollsBetweenBets = 10;
-  const std::array<std::pair<int, Currency>, 3> bets = {{{bet::kPassLine, 10}, {bet::Place(6), 12}, {bet::Place(8), 12}}};
+  const std::array<std::pair<int, Currency>, 3> bets = {
+      {{bet::kPassLine, 10}, {bet::Place(6), 12}, {bet::Place(8), 12}}};
   table.StartFresh();
   table.Set("AutoTakeFullOdds", 1);
   for (int played = 0; played < rolls; played += kRollsBetweenBets) {

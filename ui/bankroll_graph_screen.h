@@ -51,6 +51,9 @@ class BankrollGraphScreen : public QWidget, public TableListener {
   void StartRequested(int rolls);
   void StopRequested();
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+
  private:
   void BuildMenus(QMenuBar* bar);
   QWidget* BuildControls();
@@ -102,7 +105,7 @@ class BankrollGraphScreen : public QWidget, public TableListener {
   QSpinBox* count_ = nullptr;
   QPushButton* button_ = nullptr;
   QSlider* throttle_ = nullptr;
-  QAction *displayAverage_, *grid_, *refLines_, *autoPrintAction_;
+  QAction *displayAverage_, *setAverage_, *grid_, *refLines_, *autoPrintAction_;
   std::vector<QAction*> adjust_, styles_, colours_;
 };
 

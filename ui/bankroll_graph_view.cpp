@@ -86,7 +86,8 @@ void PaintSeries(QPainter& painter, const QRectF& plot, const GraphPicture& p, c
 
 void PaintReferenceLines(QPainter& painter, const QRectF& plot, const GraphLook& look) {
   painter.setPen(QPen(kRefLineColour, 1, Qt::DashLine));
-  for (int point : look.refLine) painter.drawLine(QPointF(X(plot, point), plot.top()), QPointF(X(plot, point), plot.bottom()));
+  for (int point : look.refLine)
+    painter.drawLine(QPointF(X(plot, point), plot.top()), QPointF(X(plot, point), plot.bottom()));
 }
 
 }  // namespace
