@@ -448,7 +448,8 @@ void BankrollGraphScreen::RunStarted() {
 }
 
 void BankrollGraphScreen::RunStopped(StopReason reason) {
-  reasonLabel_->setText(QString::fromUtf8(StopReasonText(reason)));
+  // The texts break their lines as the message box does, with carriage returns.
+  reasonLabel_->setText(QString::fromUtf8(StopReasonText(reason)).replace(QLatin1Char('\r'), QLatin1Char('\n')));
   if (linesPending_) CommitReferenceLines();
   const double seconds = runClock_.isValid() ? runClock_.elapsed() / 1000.0 : 0;
   const int64_t before = rollsAtStart_;
