@@ -1,0 +1,114 @@
+#pragma once
+// The bankroll graph and Hyper-Drive screen: the window of the last 525
+// rolls with its scale, average and reference lines, the run's figures, the
+// throttle and the button that starts and stops Hyper-Drive. Runs are
+// started and stopped through its signals by the window that owns the table;
+// everything else goes through the table's commands.
+
+#include <QElapsedTimer>
+#include <QWidget>
+#include <optional>
+#include <vector>
+
+#include "sim/table_listener.h"
+#include "ui/bankroll_graph_print.h"
+#include "ui/bankroll_graph_view.h"
+
+class Dialogs;
+class QAction;
+class QLabel;
+class QMenuBar;
+class QPushButton;
+class QScrollBar;
+class QSlider;
+class QSpinBox;
+class Table;
+struct Game;
+struct RunSnapshot;
+
+class BankrollGraphScreen : public QWidget, public TableListener {
+  Q_OBJECT
+ public:
+  BankrollGraphScreen(Table& table, Dialogs& dialogs, QWidget* parent = nullptr);
+  ~BankrollGraphScreen() override;
+
+  // Redraws from the run's snapshot while one is under way, from the game otherwise.
+  void Refresh();
+  // As Refresh, from a snapshot the caller took; the speed is measured here.
+  void ShowFigures(const RunSnapshot& shot, double rollsPerSecond);
+  void SetRunning(bool running);
+  void SetRolls(int rolls);
+  int Rolls() const;
+
+  BankrollGraphView* View() const { return view_; }
+
+  // --- TableListener ---
+  void RunStarted() override;
+  void RunStopped(StopReason reason) override;
+  void RollFinished(std::span<const Settlement> settlements) override;
+
+ signals:
+  void StartRequested(int rolls);
+  void StopRequested();
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void BuildMenus(QMenuBar* bar);
+  QWidget* BuildControls();
+  void ShowGame(const Game& g);
+  void ShowRun(const RunSnapshot& shot, double rollsPerSecond);
+  void ShowWindowFigures(Currency high, Currency low, Currency current, int64_t rolls);
+  void Redraw();
+  void StepGraph(int step);
+  void ChooseAdjust(int type);
+  void ChooseAverage();
+  void ToggleReferenceLines(bool on);
+  void MoveReferenceLine(int line, int point, bool commit);
+  void CommitReferenceLines();
+  void ShowReferenceDifferences();
+  void PrintNow();
+  void ToggleAutoPrint(bool on);
+  void AutoPrintFullWindow();
+  PrintedGraph CurrentGraph() const;
+  void SyncMenus();
+
+  Table& table_;
+  Dialogs& dialogs_;
+  BankrollGraphView* view_ = nullptr;
+  GraphPicture picture_;
+  GraphLook look_;
+  bool showAverage_ = false;
+  int32_t averageRolls_ = 0;
+  int32_t adjustType_ = 0;
+  bool running_ = false;
+  bool linesPending_ = false;  // lines moved during a run, told to the table after it
+  Currency rate_ = 100;        // simulated rolls per hour; fixed while a run owns the game
+  QStringList files_;          // the header's file lines, read while the game is free
+  Currency high_, low_, current_;
+  int64_t rolls_ = 0;
+  QElapsedTimer runClock_;
+  int64_t rollsAtStart_ = 0;
+
+  // Print Now fills a page; Auto-Print keeps its own document.
+  PrintedPage page_;
+  bool autoPrint_ = false;
+  QString autoPrintFile_;
+  std::vector<PrintedPage> autoPages_;
+  int64_t lastAutoPrinted_ = -1;  // the first roll of the last window printed
+
+  QLabel *highLabel_, *lowLabel_, *currentLabel_, *rollsLabel_, *hoursLabel_, *rateLabel_, *speedLabel_;
+  QLabel *averageLabel_, *leftLabel_, *rightLabel_, *refRolls_, *refBankroll_, *autoPrintLabel_, *reasonLabel_;
+  QWidget* refPanel_ = nullptr;
+  QScrollBar* refBars_[2] = {};
+  QSpinBox* count_ = nullptr;
+  QPushButton* button_ = nullptr;
+  QSlider* throttle_ = nullptr;
+  QAction *displayAverage_, *setAverage_, *grid_, *refLines_, *autoPrintAction_;
+  std::vector<QAction*> adjust_, styles_, colours_;
+};
+
+// Plays a fresh game of `rolls` Hyper-Drive rolls with a line bet and odds,
+// so that the screen has a realistic window to show in the manual.
+void PlayForGraphPicture(Table& table, int rolls);

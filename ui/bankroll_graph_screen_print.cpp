@@ -1,0 +1,70 @@
+// The screen's printing: Print Now fills a page of graphs and asks before it
+// is finished; Auto-Print adds every full window it sees to its own file.
+
+#include <optional>
+
+#include "engine/game.h"
+#include "sim/table.h"
+#include "stats/game_measures.h"
+#include "ui/bankroll_graph_screen.h"
+#include "ui/dialogs.h"
+
+namespace {
+
+QString Count(int64_t n) { return QString::fromStdString(FormatWithCommas(n)); }
+QString Money(Currency c) { return QString::fromStdString(FormatNumberWithCommas(c)); }
+QString Text(const std::string& s) { return QString::fromStdString(s); }
+
+}  // namespace
+
+PrintedGraph BankrollGraphScreen::CurrentGraph() const {
+  PrintedGraph printed{files_, picture_, look_};
+  printed.header << tr("High:  ") + Money(high_) + tr("  Current:  ") + Money(current_) + tr("  Low:  ") + Money(low_);
+  const double rate = static_cast<double>(rate_.raw) / Currency::kScale;
+  printed.header << Count(rolls_) + tr(" rolls @ ") + Text(RollsPerHourText(rate_)) + tr(" rolls/hr = ") +
+                        Text(SimHoursText(rate > 0 ? static_cast<double>(rolls_) / rate : 0)) + tr(" sim hrs");
+  if (picture_.withAverage)
+    printed.header << (averageRolls_ <= 0 ? tr("All rolls average") : Text(MovingAverageCaption(averageRolls_)));
+  return printed;
+}
+
+void BankrollGraphScreen::PrintNow() {
+  if (table_.Busy()) {
+    if (dialogs_.Message({"Hyper-Drive Active", "Do you want to stop Hyper-Drive?", Buttons::YesNo, false}).reply !=
+        Reply::Yes)
+      return;
+    emit StopRequested();
+  }
+  page_.push_back(CurrentGraph());
+  const int sent = static_cast<int>(page_.size());
+  if (sent < kGraphsPerPage &&
+      dialogs_.Message({"Print Now", PagePrompt(sent).toStdString(), Buttons::YesNo, false}).reply != Reply::Yes)
+    return;
+  const std::optional<std::string> file = dialogs_.FileName("Print Bankroll Graph", "*.pdf", FileMode::Save);
+  if (file && !WriteGraphPages(QString::fromStdString(*file), {page_}))
+    dialogs_.Message({"Print Now", "The graph could not be written to " + *file + ".", Buttons::Ok, false});
+  page_.clear();
+}
+
+void BankrollGraphScreen::ToggleAutoPrint(bool on) {
+  if (on) {
+    const std::optional<std::string> file = dialogs_.FileName("Auto-Print Bankroll Graph", "*.pdf", FileMode::Save);
+    autoPrint_ = file.has_value();
+    autoPrintFile_ = file ? QString::fromStdString(*file) : QString();
+    autoPages_.clear();
+    lastAutoPrinted_ = picture_.count == graph::kWindowPoints ? picture_.firstRoll : -1;
+  } else {
+    autoPrint_ = false;
+    // A page begun is finished when the printing stops.
+    if (!autoPages_.empty()) WriteGraphPages(autoPrintFile_, autoPages_);
+  }
+  SyncMenus();
+}
+
+void BankrollGraphScreen::AutoPrintFullWindow() {
+  if (picture_.firstRoll == lastAutoPrinted_) return;
+  lastAutoPrinted_ = picture_.firstRoll;
+  if (autoPages_.empty() || static_cast<int>(autoPages_.back().size()) == kGraphsPerPage) autoPages_.emplace_back();
+  autoPages_.back().push_back(CurrentGraph());
+  WriteGraphPages(autoPrintFile_, autoPages_);
+}
