@@ -17,7 +17,7 @@
 #include "sim/run_snapshot.h"
 #include "sim/table.h"
 #include "ui/about_dialog.h"
-#include "ui/bankroll_window.h"
+#include "ui/bankroll_graph_screen.h"
 #include "ui/dialogs.h"
 #include "ui/help_window.h"
 #include "ui/quick_stats.h"
@@ -103,7 +103,7 @@ MainWindow::~MainWindow() {
 
 bool MainWindow::RunUnderWay() const { return table_.Busy(); }
 
-BankrollWindow* MainWindow::Bankroll() const { return bankroll_; }
+BankrollGraphScreen* MainWindow::Bankroll() const { return bankroll_; }
 
 HelpWindow* MainWindow::Help() const { return help_; }
 
@@ -259,16 +259,13 @@ void MainWindow::ShowPath() {
 
 void MainWindow::OpenBankroll() {
   if (!bankroll_) {
-    bankroll_ = new BankrollWindow(this);
+    bankroll_ = new BankrollGraphScreen(table_, dialogs_, this);
+    bankroll_->setWindowFlag(Qt::Window);
     bankroll_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(bankroll_, &BankrollWindow::StartRequested, this, &MainWindow::StartHyperDrive);
-    connect(bankroll_, &BankrollWindow::StopRequested, this, [this] { table_.Stop(); });
-    if (!table_.Busy()) {
-      bankroll_->SetRolls(table_.State().RollCountStop);
-      RunSnapshot shot;
-      TakeRunSnapshot(table_.State(), false, shot);
-      bankroll_->ShowFigures(shot, 0);
-    }
+    connect(bankroll_, &BankrollGraphScreen::StartRequested, this, &MainWindow::StartHyperDrive);
+    connect(bankroll_, &BankrollGraphScreen::StopRequested, this, [this] { table_.Stop(); });
+    if (!table_.Busy()) bankroll_->SetRolls(table_.State().RollCountStop);
+    bankroll_->Refresh();
     bankroll_->SetRunning(table_.Busy() && runKind_ == RunKind::HyperDrive);
   }
   bankroll_->show();
@@ -352,7 +349,6 @@ void MainWindow::StartRun(RunKind kind) {
   // An amount being keyed in goes on the table first; a refusal stops the roll.
   if (!CommitKeyIn()) return;
   runKind_ = kind;
-  rollsAtStart_ = table_.State().RollCounts[event::kAllRolls];
   idleFigures_ = FiguresOf(table_.State());
   sounds_.SetSilenced(kind == RunKind::HyperDrive || table_.State().DisableAllSound);
   // The run's questions and its end come back on this thread, in order.
@@ -363,7 +359,6 @@ void MainWindow::StartRun(RunKind kind) {
     UpdateStatus();
     return;
   }
-  runClock_.start();
   liveTimer_.start();
 }
 
@@ -377,8 +372,7 @@ void MainWindow::ShowLiveFigures() {
   if (runKind_ == RunKind::HyperDrive) look.die1 = look.die2 = 0;
   view_->SetLook(look);
   if (pad_) pad_->SetRollCount(shot.Rolls);
-  const double seconds = runClock_.elapsed() / 1000.0;
-  if (bankroll_) bankroll_->ShowFigures(shot, seconds > 0 ? (shot.Rolls - rollsAtStart_) / seconds : 0);
+  if (bankroll_) bankroll_->Refresh();
 }
 
 bool MainWindow::AskToStopRun() {
@@ -500,12 +494,6 @@ void MainWindow::RunStopped(StopReason) {
   UpdateMenus();
   UpdateStatus();
   UpdateCaption();
-  if (bankroll_) {
-    RunSnapshot shot;
-    TakeRunSnapshot(table_.State(), false, shot);
-    const double seconds = runClock_.isValid() ? runClock_.elapsed() / 1000.0 : 0;
-    bankroll_->ShowFigures(shot, seconds > 0 ? (shot.Rolls - rollsAtStart_) / seconds : 0);
-  }
   emit RunFinished();
   if (quitAfterRun_) {
     quitAfterRun_ = false;

@@ -4,7 +4,6 @@
 // table tells its listeners, and while a run owns the game draws from the
 // run's snapshots.
 
-#include <QElapsedTimer>
 #include <QHash>
 #include <QMainWindow>
 #include <QPointer>
@@ -17,7 +16,7 @@
 #include "ui/menu_tree.h"
 #include "ui/status_panel.h"
 
-class BankrollWindow;
+class BankrollGraphScreen;
 class HelpWindow;
 class RollPad;
 struct HelpShortcut;
@@ -44,7 +43,7 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
 
   QAction* Action(MenuCommand command) const { return actions_.value(static_cast<int>(command)); }
   bool RunUnderWay() const;
-  BankrollWindow* Bankroll() const;
+  BankrollGraphScreen* Bankroll() const;
   TableView* View() const { return view_; }
   HelpWindow* Help() const;
   RollPad* Pad() const;
@@ -110,13 +109,11 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   QLineEdit* keyIn_ = nullptr;  // the bet-entry box of Key-in mode
   int keyInBet_ = 0;
   StatusPanel* status_ = nullptr;
-  QPointer<BankrollWindow> bankroll_;
+  QPointer<BankrollGraphScreen> bankroll_;
   QPointer<HelpWindow> help_;
   QPointer<RollPad> pad_;
   QHash<int, QAction*> actions_;
   QTimer liveTimer_;           // redraws from the run's snapshot while it runs
-  QElapsedTimer runClock_;
-  int64_t rollsAtStart_ = 0;
   StatusFigures idleFigures_;  // what a run's snapshot does not carry
   RunKind runKind_ = RunKind::AutoRoll;
   WindowTool tool_ = WindowTool::TableTool;

@@ -17,7 +17,7 @@
 #include "engine/catalogue.h"
 #include "engine/game.h"
 #include "sim/table.h"
-#include "ui/bankroll_window.h"
+#include "ui/bankroll_graph_screen.h"
 #include "ui/dialogs_for_test.h"
 #include "ui/main_window.h"
 #include "ui/roll_pad.h"
@@ -216,7 +216,7 @@ TEST(MainWindow, WinnerNoticeButtonsDoWhatTheySay) {
 TEST(MainWindow, HyperDriveRunsLiveStopsAtOnceAndExitAsksFirst) {
   Desk d;
   d.window.Action(MenuCommand::Bankroll)->trigger();
-  BankrollWindow* screen = d.window.Bankroll();
+  BankrollGraphScreen* screen = d.window.Bankroll();
   ASSERT_NE(screen, nullptr);
   emit screen->StartRequested(10'000'000);
   ASSERT_TRUE(d.table.Busy());

@@ -7,7 +7,7 @@
 #include <benchmark/benchmark.h>
 
 #include "sim/table.h"
-#include "ui/bankroll_window.h"
+#include "ui/bankroll_graph_screen.h"
 #include "ui/desktop_front_end.h"
 #include "ui/main_window.h"
 #include "ui/picture_dialogs.h"
