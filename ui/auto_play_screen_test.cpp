@@ -1,5 +1,6 @@
 // The Auto-Play screen on a fresh table, offscreen, every question answered
 // from a queue.
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -212,6 +213,32 @@ TEST(AutoPlayScreen, TheRunButtonAsksTheWindowAndShowsTheRun) {
   EXPECT_EQ(start.count(), 1);
   EXPECT_EQ(stop.count(), 1);
   EXPECT_EQ(d.Find<QLabel>("lblAutoRollsRemaining")->text(), "Left: 1,234");
+}
+
+// While a run owns the table nothing can be changed here but the run itself.
+TEST(AutoPlayScreen, ARunLeavesOnlyItsButton) {
+  struct Case {
+    bool autoRoll;  // the window says the run is this screen's Auto-Roll
+    bool buttonLive;
+  };
+  for (const Case& c : {Case{true, true}, Case{false, false}}) {
+    Desk d;
+    d.table.Set("RollCountLeft", 100'000'000);
+    auto post = [](std::function<void()> task) {
+      QMetaObject::invokeMethod(qApp, [task = std::move(task)] { task(); }, Qt::QueuedConnection);
+    };
+    ASSERT_TRUE(d.table.StartLive(RunKind::HyperDrive, post).Done());
+    d.screen->SetRunning(c.autoRoll);
+    for (const char* name : {"chkAutoTakeFullOdds", "lstWorkOnComeOut", "txtNumAutoRolls", "listAutoStop",
+                             "optHandleWinningBets3", "cmdUnits0", "cmbLayBias"})
+      EXPECT_FALSE(d.Find(name)->isEnabled()) << name;
+    EXPECT_EQ(d.Find("cmdAutoRoll")->isEnabled(), c.buttonLive);
+    d.table.Stop();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !d.table.Busy(); }, 10'000));
+    d.screen->SetRunning(false);
+    EXPECT_TRUE(d.Find("chkAutoTakeFullOdds")->isEnabled());
+    EXPECT_TRUE(d.Find("cmdUnits0")->isEnabled());
+  }
 }
 
 }  // namespace
