@@ -13,12 +13,10 @@
 
 class Dialogs;
 class ModifyAmountRow;
-class QAbstractButton;
 class QButtonGroup;
 class QCheckBox;
 class QComboBox;
 class QFrame;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QListWidget;
