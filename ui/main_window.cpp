@@ -17,6 +17,7 @@
 #include "sim/run_snapshot.h"
 #include "sim/table.h"
 #include "ui/about_dialog.h"
+#include "ui/auto_play_screen.h"
 #include "ui/bankroll_graph_screen.h"
 #include "ui/dialogs.h"
 #include "ui/help_window.h"
@@ -38,7 +39,7 @@ const QString kAppName = QStringLiteral("Dicemill");
 // Screens that later versions of the window open; their items stay disabled
 // until then rather than doing nothing when chosen.
 constexpr std::array kScreensToCome = {
-    MenuCommand::HotKeys,     MenuCommand::Configure,  MenuCommand::DiceRollFiles,   MenuCommand::AutoPlay,
+    MenuCommand::HotKeys,     MenuCommand::Configure,  MenuCommand::DiceRollFiles,
     MenuCommand::AutoBet,     MenuCommand::GamesLog,    MenuCommand::Summary,
     MenuCommand::RollTotals,  MenuCommand::RollFrequencies, MenuCommand::BetResults, MenuCommand::BetTrends,
     MenuCommand::ChipStacks,  MenuCommand::Flags,
@@ -133,7 +134,10 @@ void MainWindow::Perform(MenuCommand command) {
       !ViewSetting(command))
     return;  // disabled during a run; a shortcut may still arrive
   switch (command) {
-    case New: table_.New(false); break;
+    case New:
+      table_.New(false);
+      if (autoPlay_) autoPlay_->Refresh();
+      break;
     case Open: OpenGame(); break;
     case Save: table_.Save(); break;
     case SaveAs: SaveGameAs(); break;
@@ -162,6 +166,7 @@ void MainWindow::Perform(MenuCommand command) {
       break;
     case Bankroll: OpenBankroll(); break;
     case RollYourOwn: OpenPad(); break;
+    case AutoPlay: OpenAutoPlay(); break;
     case Contents: OpenHelp(false); break;
     case Search: OpenHelp(true); break;
     case About: AboutDialog(QApplication::applicationVersion(), this).exec(); break;
@@ -234,6 +239,7 @@ void MainWindow::LeaveToolMode() {
 void MainWindow::OpenGame() {
   auto path = dialogs_.FileName("Open Game File", "*.crp", FileMode::Open);
   if (path) table_.Open(*path);
+  if (autoPlay_) autoPlay_->Refresh();
   UpdateCaption();
 }
 
@@ -304,6 +310,8 @@ void MainWindow::OpenHelp(bool search) {
 
 RollPad* MainWindow::Pad() const { return pad_; }
 
+AutoPlayScreen* MainWindow::AutoPlay() const { return autoPlay_; }
+
 void MainWindow::OpenPad() {
   if (!pad_) {
     pad_ = new RollPad(this);
@@ -328,9 +336,25 @@ void MainWindow::OpenPad() {
   pad_->raise();
 }
 
+void MainWindow::OpenAutoPlay() {
+  if (!autoPlay_) {
+    autoPlay_ = new AutoPlayScreen(table_, dialogs_, this);
+    autoPlay_->setWindowFlag(Qt::Window);
+    autoPlay_->setAttribute(Qt::WA_DeleteOnClose);
+    connect(autoPlay_, &AutoPlayScreen::StartAutoRollRequested, this, [this] {
+      if (!table_.Busy()) Perform(MenuCommand::AutoRoll);
+    });
+    connect(autoPlay_, &AutoPlayScreen::StopAutoRollRequested, this, [this] { table_.Stop(); });
+    ShowRunState();
+  }
+  autoPlay_->show();
+  autoPlay_->raise();
+}
+
 void MainWindow::ShowRunState() {
   const bool busy = table_.Busy();
   const bool hyper = busy && runKind_ == RunKind::HyperDrive;
+  if (autoPlay_) autoPlay_->SetRunning(busy && runKind_ == RunKind::AutoRoll);
   if (bankroll_) bankroll_->SetRunning(hyper);
   if (pad_) {
     pad_->SetRunning(hyper);
@@ -373,6 +397,7 @@ void MainWindow::ShowLiveFigures() {
   view_->SetLook(look);
   if (pad_) pad_->SetRollCount(shot.Rolls);
   if (bankroll_) bankroll_->Refresh();
+  if (autoPlay_) autoPlay_->ShowRollsLeft(shot.RollsLeft);
 }
 
 bool MainWindow::AskToStopRun() {

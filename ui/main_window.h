@@ -16,6 +16,7 @@
 #include "ui/menu_tree.h"
 #include "ui/status_panel.h"
 
+class AutoPlayScreen;
 class BankrollGraphScreen;
 class HelpWindow;
 class RollPad;
@@ -47,6 +48,7 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   TableView* View() const { return view_; }
   HelpWindow* Help() const;
   RollPad* Pad() const;
+  AutoPlayScreen* AutoPlay() const;
   // The keys the window answers, for the help's keyboard page.
   std::vector<HelpShortcut> Shortcuts() const;
 
@@ -96,6 +98,7 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   void OpenBankroll();
   void OpenHelp(bool search);
   void OpenPad();
+  void OpenAutoPlay();
   // The run screens' buttons and the pad's choices follow the run.
   void ShowRunState();
   bool AskToStopRun();
@@ -112,6 +115,7 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   QPointer<BankrollGraphScreen> bankroll_;
   QPointer<HelpWindow> help_;
   QPointer<RollPad> pad_;
+  QPointer<AutoPlayScreen> autoPlay_;
   QHash<int, QAction*> actions_;
   QTimer liveTimer_;           // redraws from the run's snapshot while it runs
   StatusFigures idleFigures_;  // what a run's snapshot does not carry

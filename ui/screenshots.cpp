@@ -1,6 +1,8 @@
 #include "ui/screenshots.h"
 
 #include <QDir>
+#include <QEventLoop>
+#include <QTimer>
 #include <QTextStream>
 #include <QWidget>
 #include <functional>
@@ -10,6 +12,8 @@
 #include "engine/catalogue.h"
 #include "sim/table.h"
 #include "ui/about_dialog.h"
+#include "ui/auto_play_screen.h"
+#include "ui/bankroll_graph_screen.h"
 #include "ui/desktop_front_end.h"
 #include "ui/dialog_samples.h"
 #include "ui/help_window.h"
@@ -104,6 +108,52 @@ bool SaveTables(const QString& folder, const DesktopPaths& paths) {
   return ::Save(*busy.window->Pad(), folder, QStringLiteral("pad")) && all;
 }
 
+// Lets the window's event loop run for a while: a live run's figures arrive through it.
+void RunEvents(int ms) {
+  QEventLoop loop;
+  QTimer::singleShot(ms, &loop, &QEventLoop::quit);
+  loop.exec();
+}
+
+bool SaveRunScreens(const QString& folder, const DesktopPaths& paths) {
+  bool all = true;
+  {
+    PictureTable t(paths);
+    t.window->Action(MenuCommand::AutoPlay)->trigger();
+    StageAutoPlayPicture(t.table, *t.window->AutoPlay());
+    all = ::Save(*t.window->AutoPlay(), folder, QStringLiteral("auto-play")) && all;
+  }
+  {
+    PictureTable t(paths);
+    PlayForGraphPicture(t.table, 1000);
+    t.window->Action(MenuCommand::Bankroll)->trigger();
+    BankrollGraphScreen& graph = *t.window->Bankroll();
+    graph.resize(900, 600);
+    graph.Refresh();
+    all = ::Save(graph, folder, QStringLiteral("bankroll-graph")) && all;
+  }
+  {
+    PictureTable t(paths);
+    PlayForGraphPicture(t.table, 300);
+    // Bets that stay up whatever the dice, so the line moves as the run goes.
+    t.table.Set("WonBetAction", 2);
+    t.table.Set("HandleLosingBets", 3);
+    t.table.Bet(bet::kPassLine, Currency(10));
+    t.table.Bet(bet::kField, Currency(5));
+    t.window->Action(MenuCommand::Bankroll)->trigger();
+    BankrollGraphScreen& graph = *t.window->Bankroll();
+    graph.resize(900, 600);
+    graph.show();
+    emit graph.StartRequested(10'000'000);
+    RunEvents(300);
+    graph.Refresh();
+    all = ::Save(graph, folder, QStringLiteral("bankroll-graph-running")) && all;
+    t.table.Stop();
+    while (t.table.Busy()) RunEvents(20);
+  }
+  return all;
+}
+
 }  // namespace
 
 int WriteScreenshots(const QString& folder, const DesktopPaths& paths) {
@@ -112,6 +162,7 @@ int WriteScreenshots(const QString& folder, const DesktopPaths& paths) {
     return 1;
   }
   bool all = SaveTables(folder, paths);
+  all = SaveRunScreens(folder, paths) && all;
   MessageDialog message(SampleMessage());
   all = Save(message, folder, QStringLiteral("message")) && all;
   SettleNoticeDialog winner(SampleWonNotice());
