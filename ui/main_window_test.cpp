@@ -20,6 +20,7 @@
 #include "ui/bankroll_graph_screen.h"
 #include "ui/dialogs_for_test.h"
 #include "ui/main_window.h"
+#include "ui/auto_play_screen.h"
 #include "ui/roll_pad.h"
 #include "ui/table_view.h"
 #include "ui/sound_board.h"
@@ -369,6 +370,29 @@ TEST(MainWindow, HardEightCallsTheTotalThenTheDouble) {
   ASSERT_GE(calls.size(), 2u);
   EXPECT_EQ(calls[0], "Stickman08.stk");
   EXPECT_EQ(calls[1], "Stickman16.stk");
+}
+
+// Auto-Roll from its screen: five rolls, then "Left:" reads the count again;
+// with "Any 7" ticked, a seven stops the run before its count is out.
+TEST(MainWindow, AutoRollFromItsScreenCountsDownAndStops) {
+  Desk d;
+  d.window.Action(MenuCommand::AutoPlay)->trigger();
+  AutoPlayScreen* screen = d.window.AutoPlay();
+  ASSERT_NE(screen, nullptr);
+  d.table.Set("RollCountStop", 5);
+  d.table.Set("RollCountLeft", 5);
+  emit screen->StartAutoRollRequested();
+  ASSERT_TRUE(d.WaitForRunEnd());
+  EXPECT_EQ(d.g().RollCounts[0], 5);
+  EXPECT_EQ(screen->findChild<QLabel*>("lblAutoRollsRemaining")->text(), "Left: 5");
+
+  d.table.Set("RollCountStop", 1000);
+  d.table.Set("RollCountLeft", 1000);
+  d.table.Set("StopOnRoll.9", 1);  // "Any 7": the rows count from "Any winning roll" at 0
+  emit screen->StartAutoRollRequested();
+  ASSERT_TRUE(d.WaitForRunEnd());
+  EXPECT_EQ(d.g().Die1 + d.g().Die2, 7);
+  EXPECT_LT(d.g().RollCounts[0], 5 + 1000);
 }
 
 TEST(MainWindow, RollTheDiceThrowsOnTheRunnerAndRedraws) {
