@@ -125,7 +125,9 @@ void RollListView::paintEvent(QPaintEvent*) {
   const int64_t readable = std::clamp<int64_t>(rolls_ - top + 1, 0, shown);
   const QByteArray& bytes = Bytes(top, readable);
   const QFontMetrics fm = fontMetrics();
-  const int numberRight = kCaretMargin + fm.horizontalAdvance(QStringLiteral("100,000,000"));
+  // As wide as the file's longest roll number, so that small files keep their dice near.
+  const QString widest = QLocale().toString(static_cast<qlonglong>(std::max<int64_t>(rolls_, 99'999)));
+  const int numberRight = kCaretMargin + fm.horizontalAdvance(widest) + 4;
   const int die = rowH - 6;
   const int diceLeft = numberRight + 14;
   const int totalLeft = diceLeft + 2 * die + 16;
@@ -150,7 +152,7 @@ void RollListView::paintEvent(QPaintEvent*) {
       p.setPen(kQuietText);
       p.drawText(row.adjusted(diceLeft, 0, 0, 0), Qt::AlignVCenter, tr("end of file"));
     } else {
-      p.drawText(QRect(0, row.top(), numberRight, rowH), Qt::AlignRight | Qt::AlignVCenter,
+      p.drawText(QRect(kCaretMargin, row.top(), numberRight - kCaretMargin, rowH), Qt::AlignRight | Qt::AlignVCenter,
                  QLocale().toString(static_cast<qlonglong>(roll)));
       if (CheckRollValue(byte)) {
         PaintDie(p, QRectF(diceLeft, row.top() + 3, die, die), Die1Of(byte));
