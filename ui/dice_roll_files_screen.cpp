@@ -57,6 +57,7 @@ DiceRollFilesScreen::DiceRollFilesScreen(Table& table, Dialogs& dialogs, QWidget
   BuildMenus(bar);
 
   table_.Subscribe(this);
+  if (table_.Busy()) RunStarted();  // opened during a run: filled when it ends
   Refresh();
   resize(760, 640);
 }
