@@ -19,6 +19,8 @@
 #include "ui/about_dialog.h"
 #include "ui/auto_play_screen.h"
 #include "ui/bankroll_graph_screen.h"
+#include "ui/dice_roll_files_screen.h"
+#include "ui/hot_keys_screen.h"
 #include "ui/dialogs.h"
 #include "ui/help_window.h"
 #include "ui/quick_stats.h"
@@ -39,7 +41,7 @@ const QString kAppName = QStringLiteral("Dicemill");
 // Screens that later versions of the window open; their items stay disabled
 // until then rather than doing nothing when chosen.
 constexpr std::array kScreensToCome = {
-    MenuCommand::HotKeys,     MenuCommand::Configure,  MenuCommand::DiceRollFiles,
+    MenuCommand::Configure,
     MenuCommand::AutoBet,     MenuCommand::GamesLog,    MenuCommand::Summary,
     MenuCommand::RollTotals,  MenuCommand::RollFrequencies, MenuCommand::BetResults, MenuCommand::BetTrends,
     MenuCommand::ChipStacks,  MenuCommand::Flags,
@@ -167,6 +169,8 @@ void MainWindow::Perform(MenuCommand command) {
     case Bankroll: OpenBankroll(); break;
     case RollYourOwn: OpenPad(); break;
     case AutoPlay: OpenAutoPlay(); break;
+    case HotKeys: OpenScreen(hotKeys_); break;
+    case DiceRollFiles: OpenScreen(rollFiles_); break;
     case Contents: OpenHelp(false); break;
     case Search: OpenHelp(true); break;
     case About: AboutDialog(QApplication::applicationVersion(), this).exec(); break;
@@ -335,6 +339,22 @@ void MainWindow::OpenPad() {
   pad_->show();
   pad_->raise();
 }
+
+template <class Screen>
+void MainWindow::OpenScreen(QPointer<Screen>& screen) {
+  if (!screen) {
+    screen = new Screen(table_, dialogs_, this);
+    screen->setWindowFlag(Qt::Window);
+    screen->setAttribute(Qt::WA_DeleteOnClose);
+  }
+  screen->Refresh();
+  screen->show();
+  screen->raise();
+}
+
+HotKeysScreen* MainWindow::HotKeys() const { return hotKeys_; }
+
+DiceRollFilesScreen* MainWindow::RollFiles() const { return rollFiles_; }
 
 void MainWindow::OpenAutoPlay() {
   if (!autoPlay_) {
@@ -539,4 +559,8 @@ void MainWindow::ShowDice(int die1, int die2, int pointAfter) {
 
 void MainWindow::RedrawBet(int) { UpdateStatus(); }
 
-void MainWindow::RefreshTable() { UpdateStatus(); }
+void MainWindow::RefreshTable() {
+  UpdateStatus();
+  // After a rewind of the Dice Roll File its screen shows where play resumes.
+  if (rollFiles_ && !table_.Busy()) rollFiles_->Refresh();
+}

@@ -17,6 +17,8 @@
 #include "ui/status_panel.h"
 
 class AutoPlayScreen;
+class DiceRollFilesScreen;
+class HotKeysScreen;
 class BankrollGraphScreen;
 class HelpWindow;
 class RollPad;
@@ -49,6 +51,8 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   HelpWindow* Help() const;
   RollPad* Pad() const;
   AutoPlayScreen* AutoPlay() const;
+  HotKeysScreen* HotKeys() const;
+  DiceRollFilesScreen* RollFiles() const;
   // The keys the window answers, for the help's keyboard page.
   std::vector<HelpShortcut> Shortcuts() const;
 
@@ -99,6 +103,9 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   void OpenHelp(bool search);
   void OpenPad();
   void OpenAutoPlay();
+  // A modeless screen of the table, made on first use.
+  template <class Screen>
+  void OpenScreen(QPointer<Screen>& screen);
   // The run screens' buttons and the pad's choices follow the run.
   void ShowRunState();
   bool AskToStopRun();
@@ -116,6 +123,8 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   QPointer<HelpWindow> help_;
   QPointer<RollPad> pad_;
   QPointer<AutoPlayScreen> autoPlay_;
+  QPointer<HotKeysScreen> hotKeys_;
+  QPointer<DiceRollFilesScreen> rollFiles_;
   QHash<int, QAction*> actions_;
   QTimer liveTimer_;           // redraws from the run's snapshot while it runs
   StatusFigures idleFigures_;  // what a run's snapshot does not carry

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QEventLoop>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QTextStream>
 #include <QWidget>
@@ -13,6 +14,8 @@
 #include "sim/table.h"
 #include "ui/about_dialog.h"
 #include "ui/auto_play_screen.h"
+#include "ui/dice_roll_files_screen.h"
+#include "ui/hot_keys_screen.h"
 #include "ui/bankroll_graph_screen.h"
 #include "ui/desktop_front_end.h"
 #include "ui/dialog_samples.h"
@@ -122,6 +125,20 @@ bool SaveRunScreens(const QString& folder, const DesktopPaths& paths) {
     t.window->Action(MenuCommand::AutoPlay)->trigger();
     StageAutoPlayPicture(t.table, *t.window->AutoPlay());
     all = ::Save(*t.window->AutoPlay(), folder, QStringLiteral("auto-play")) && all;
+  }
+  {
+    PictureTable t(paths);
+    DefineSampleHotKeys(t.table, "/home/player/Dicemill");
+    t.window->Action(MenuCommand::HotKeys)->trigger();
+    t.window->HotKeys()->SelectKey('D');
+    all = ::Save(*t.window->HotKeys(), folder, QStringLiteral("hot-keys")) && all;
+  }
+  {
+    PictureTable t(paths);
+    QTemporaryDir scratch;
+    t.window->Action(MenuCommand::DiceRollFiles)->trigger();
+    ShowSampleRollFile(*t.window->RollFiles(), t.table, scratch.path().toStdString());
+    all = ::Save(*t.window->RollFiles(), folder, QStringLiteral("dice-roll-files")) && all;
   }
   {
     PictureTable t(paths);
