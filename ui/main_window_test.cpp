@@ -395,6 +395,14 @@ TEST(MainWindow, AutoRollFromItsScreenCountsDownAndStops) {
   EXPECT_LT(d.g().RollCounts[0], 5 + 1000);
 }
 
+// A Hot-Key pressed at the table runs its file once.
+TEST(MainWindow, HotKeyRunsItsFile) {
+  Desk d;
+  ASSERT_TRUE(d.table.DefineHotKey('1', DICEMILL_SOURCE_DIR "/samples/pass-line-full-odds.bet", "line").Done());
+  QTest::keyClick(&d.window, Qt::Key_1, Qt::ControlModifier);
+  EXPECT_EQ(d.g().BetAmount[bet::kPassLine], Currency(10));
+}
+
 TEST(MainWindow, RollTheDiceThrowsOnTheRunnerAndRedraws) {
   Desk d;
   d.window.Action(MenuCommand::RollDice)->trigger();
