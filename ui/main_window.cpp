@@ -20,9 +20,7 @@
 #include "ui/auto_play_screen.h"
 #include "ui/bankroll_graph_screen.h"
 #include "ui/dice_roll_files_screen.h"
-#include "ui/hot_keys_screen.h"
 #include "ui/dialogs.h"
-#include "ui/help_window.h"
 #include "ui/quick_stats.h"
 #include "ui/roll_pad.h"
 #include "ui/sound_board.h"
@@ -34,8 +32,6 @@
 namespace {
 
 constexpr int kLiveRedrawMs = 50;
-// A Hyper-Drive started from the pad with no Auto-Play roll count set.
-constexpr int kPadHyperDriveRolls = 1'000'000;
 const QString kAppName = QStringLiteral("Dicemill");
 
 // Screens that later versions of the window open; their items stay disabled
@@ -106,10 +102,6 @@ MainWindow::~MainWindow() {
 
 bool MainWindow::RunUnderWay() const { return table_.Busy(); }
 
-BankrollGraphScreen* MainWindow::Bankroll() const { return bankroll_; }
-
-HelpWindow* MainWindow::Help() const { return help_; }
-
 void MainWindow::BuildMenus() {
   QHash<QString, QMenu*> menus;
   for (const MenuEntry& entry : MainMenus()) {
@@ -169,75 +161,13 @@ void MainWindow::Perform(MenuCommand command) {
     case Bankroll: OpenBankroll(); break;
     case RollYourOwn: OpenPad(); break;
     case AutoPlay: OpenAutoPlay(); break;
-    case HotKeys: OpenScreen(hotKeys_); break;
-    case DiceRollFiles: OpenScreen(rollFiles_); break;
+    case HotKeys: OpenHotKeys(); break;
+    case DiceRollFiles: OpenRollFiles(); break;
     case Contents: OpenHelp(false); break;
     case Search: OpenHelp(true); break;
     case About: AboutDialog(QApplication::applicationVersion(), this).exec(); break;
     default: break;  // the screens to come: their items are disabled
   }
-}
-
-void MainWindow::ChooseTool(int tool, const QString& prompt) {
-  if (!table_.SetClickTool(tool).Done()) return;
-  tool_ = WindowTool::TableTool;
-  status_->ShowPrompt(prompt);
-  UpdateStatus();
-}
-
-void MainWindow::PickTool(int tool) {
-  if (table_.Busy()) return;
-  switch (tool) {
-    case kToolBuy: ChooseTool(tool, tr("Click on bet to buy")); return;
-    case kToolCallOn: ChooseTool(tool, tr("Click on bet to call it \"ON\"")); return;
-    case kToolCallOff: ChooseTool(tool, tr("Click on bet to call it \"OFF\"")); return;
-    case layout::kToolRemove:
-      tool_ = WindowTool::Remove;
-      status_->ShowPrompt(tr("Click on bet to remove"));
-      UpdateStatus();
-      return;
-    default: ChooseTool(tool, {});  // a chip or a Chip-Stack: every click adds it
-  }
-}
-
-void MainWindow::ClickBet(int betId, bool shift) {
-  if (table_.Busy()) return;
-  if (tool_ == WindowTool::Remove && !shift) {
-    table_.Remove(betId);
-  } else if (Action(MenuCommand::KeyIn)->isChecked() && !shift) {
-    OpenKeyIn(betId);
-  } else {
-    table_.Click(betId, shift);
-  }
-}
-
-void MainWindow::OpenKeyIn(int betId) {
-  CommitKeyIn();
-  keyInBet_ = betId;
-  keyIn_->setText(QString::fromStdString(FormatNumberWithCommas(table_.State().BetAmount[betId])));
-  const QPointF centre = view_->BetCentre(betId);
-  keyIn_->move(static_cast<int>(centre.x()) - keyIn_->width() / 2, static_cast<int>(centre.y()) - keyIn_->height() / 2);
-  keyIn_->show();
-  keyIn_->selectAll();
-  keyIn_->setFocus();
-}
-
-bool MainWindow::CommitKeyIn() {
-  if (!keyIn_->isVisible()) return true;
-  keyIn_->hide();
-  view_->setFocus();
-  const TableResult r = table_.Enter(keyInBet_, keyIn_->text().toStdString());
-  if (r.code == TableCode::WrongType)
-    dialogs_.Message({table_.State().BetName[keyInBet_] + " Bet", r.text, Buttons::Ok, false});
-  return r.Done();
-}
-
-void MainWindow::LeaveToolMode() {
-  keyIn_->hide();
-  table_.SetClickTool(kToolFirstChip);
-  tool_ = WindowTool::TableTool;
-  status_->ShowPrompt({});
-  UpdateStatus();
 }
 
 void MainWindow::OpenGame() {
@@ -265,121 +195,6 @@ void MainWindow::ShowPath() {
   text += "Probability file: " + g.ProbFileName + "\r";
   text += "Games log: " + name(g.GamesLogFile, "(none)");
   dialogs_.Message({"Show Path", text, Buttons::Ok, false});
-}
-
-void MainWindow::OpenBankroll() {
-  if (!bankroll_) {
-    bankroll_ = new BankrollGraphScreen(table_, dialogs_, this);
-    bankroll_->setWindowFlag(Qt::Window);
-    bankroll_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(bankroll_, &BankrollGraphScreen::StartRequested, this, &MainWindow::StartHyperDrive);
-    connect(bankroll_, &BankrollGraphScreen::StopRequested, this, [this] { table_.Stop(); });
-    if (!table_.Busy()) bankroll_->SetRolls(table_.State().RollCountStop);
-    bankroll_->Refresh();
-    bankroll_->SetRunning(table_.Busy() && runKind_ == RunKind::HyperDrive);
-  }
-  bankroll_->show();
-  bankroll_->raise();
-  bankroll_->activateWindow();
-}
-
-std::vector<HelpShortcut> MainWindow::Shortcuts() const {
-  std::vector<HelpShortcut> keys;
-  for (const MenuItemEntry& entry : MainMenuItems()) {
-    if (!*entry.shortcut) continue;
-    QString what = tr(entry.caption).remove('&');
-    keys.push_back({QKeySequence(QString::fromLatin1(entry.shortcut)).toString(QKeySequence::NativeText), what});
-  }
-  keys.push_back({tr("Right click on the table"), tr("Roll the dice")});
-  keys.push_back({tr("Esc"), tr("Stop a run; otherwise leave a tool mode")});
-  keys.push_back({tr("Ctrl+A .. Ctrl+Z, Ctrl+0 .. Ctrl+9"), tr("Run the Hot-Key bound to the key")});
-  return keys;
-}
-
-void MainWindow::OpenHelp(bool search) {
-  if (!help_) {
-    const QString readme = QDir(paths_.docsFolder).filePath(QStringLiteral("../README.md"));
-    help_ = new HelpWindow(paths_.docsFolder, QFileInfo::exists(readme) ? readme : QString(), this);
-    help_->setWindowFlag(Qt::Window);
-    help_->setAttribute(Qt::WA_DeleteOnClose);
-    help_->SetShortcuts(Shortcuts());
-  }
-  if (search)
-    help_->ShowSearch();
-  else
-    help_->ShowContents();
-  help_->show();
-  help_->raise();
-}
-
-RollPad* MainWindow::Pad() const { return pad_; }
-
-AutoPlayScreen* MainWindow::AutoPlay() const { return autoPlay_; }
-
-void MainWindow::OpenPad() {
-  if (!pad_) {
-    pad_ = new RollPad(this);
-    pad_->setWindowFlag(Qt::Window);
-    pad_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(pad_, &RollPad::PairChosen, this, [this](int die1, int die2) {
-      if (!table_.Busy() && CommitKeyIn()) table_.PadRoll(die1, die2);
-    });
-    connect(pad_, &RollPad::TotalChosen, this, [this](int total) {
-      if (!table_.Busy() && CommitKeyIn()) table_.PadTotal(total);
-    });
-    connect(pad_, &RollPad::RandomRollRequested, this, [this] { Perform(MenuCommand::RollDice); });
-    connect(pad_, &RollPad::HyperDriveRequested, this, [this] {
-      const int set = table_.State().RollCountStop;
-      StartHyperDrive(set > 0 ? set : kPadHyperDriveRolls);
-    });
-    connect(pad_, &RollPad::StopRequested, this, [this] { table_.Stop(); });
-    ShowRunState();
-    UpdateStatus();
-  }
-  pad_->show();
-  pad_->raise();
-}
-
-template <class Screen>
-void MainWindow::OpenScreen(QPointer<Screen>& screen) {
-  if (!screen) {
-    screen = new Screen(table_, dialogs_, this);
-    screen->setWindowFlag(Qt::Window);
-    screen->setAttribute(Qt::WA_DeleteOnClose);
-  }
-  screen->Refresh();
-  screen->show();
-  screen->raise();
-}
-
-HotKeysScreen* MainWindow::HotKeys() const { return hotKeys_; }
-
-DiceRollFilesScreen* MainWindow::RollFiles() const { return rollFiles_; }
-
-void MainWindow::OpenAutoPlay() {
-  if (!autoPlay_) {
-    autoPlay_ = new AutoPlayScreen(table_, dialogs_, this);
-    autoPlay_->setWindowFlag(Qt::Window);
-    autoPlay_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(autoPlay_, &AutoPlayScreen::StartAutoRollRequested, this, [this] {
-      if (!table_.Busy()) Perform(MenuCommand::AutoRoll);
-    });
-    connect(autoPlay_, &AutoPlayScreen::StopAutoRollRequested, this, [this] { table_.Stop(); });
-    ShowRunState();
-  }
-  autoPlay_->show();
-  autoPlay_->raise();
-}
-
-void MainWindow::ShowRunState() {
-  const bool busy = table_.Busy();
-  const bool hyper = busy && runKind_ == RunKind::HyperDrive;
-  if (autoPlay_) autoPlay_->SetRunning(busy && runKind_ == RunKind::AutoRoll);
-  if (bankroll_) bankroll_->SetRunning(hyper);
-  if (pad_) {
-    pad_->SetRunning(hyper);
-    pad_->SetEnabledForRun(!busy);
-  }
 }
 
 void MainWindow::StartHyperDrive(int rolls) {

@@ -103,6 +103,8 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   void OpenHelp(bool search);
   void OpenPad();
   void OpenAutoPlay();
+  void OpenHotKeys();
+  void OpenRollFiles();
   // A modeless screen of the table, made on first use.
   template <class Screen>
   void OpenScreen(QPointer<Screen>& screen);
