@@ -70,7 +70,8 @@ HotKeysScreen::HotKeysScreen(Table& table, Dialogs& dialogs, QWidget* parent)
   connect(list_, &QTableWidget::itemSelectionChanged, this, [this] {
     const char key = ChosenKey();
     define_->setEnabled(key != 0);
-    clear_->setEnabled(key != 0 && FindHotKey(table_.State(), key));
+    // The game is a run's while one is under way: the buttons wait for it.
+    clear_->setEnabled(key != 0 && !table_.Busy() && FindHotKey(table_.State(), key));
   });
 
   define_ = new QPushButton(tr("&Define ..."), this);
@@ -102,6 +103,7 @@ HotKeysScreen::HotKeysScreen(Table& table, Dialogs& dialogs, QWidget* parent)
 }
 
 void HotKeysScreen::Refresh() {
+  if (table_.Busy()) return;
   filling_ = true;
   const Game& g = table_.State();
   for (int row = 0; row < kKeyCount; ++row) {
@@ -137,6 +139,7 @@ char HotKeysScreen::ChosenKey() const {
 void HotKeysScreen::DefineChosen() {
   const char key = ChosenKey();
   if (key == 0) return;
+  if (table_.Busy()) return ShowRefusal(kBusyText);
   const auto path = dialogs_.FileName("Select Auto-Bet File for Hot-Key", "*.bet", FileMode::Open);
   if (!path) return;
   if (path->size() > kHotKeyFieldBytes) {
@@ -153,6 +156,7 @@ void HotKeysScreen::DefineChosen() {
 
 void HotKeysScreen::ClearChosen() {
   const char key = ChosenKey();
+  if (table_.Busy()) return ShowRefusal(kBusyText);
   if (key == 0 || !FindHotKey(table_.State(), key)) return;
   const TableResult result = table_.ClearHotKey(key);
   if (result.code == TableCode::Busy) ShowRefusal(result.text);
@@ -161,6 +165,7 @@ void HotKeysScreen::ClearChosen() {
 
 void HotKeysScreen::LabelEdited(QTableWidgetItem* item) {
   if (filling_ || item->column() != kLabelColumn) return;
+  if (table_.Busy()) return ShowRefusal(kBusyText);
   const char key = KeyOfRow(item->row());
   const HotKeyBinding* binding = FindHotKey(table_.State(), key);
   if (!binding) return;

@@ -87,6 +87,7 @@ void MainWindow::OpenPad() {
     });
     connect(pad_, &RollPad::RandomRollRequested, this, [this] { Perform(MenuCommand::RollDice); });
     connect(pad_, &RollPad::HyperDriveRequested, this, [this] {
+      if (table_.Busy()) return;  // the game is the run's
       const int set = table_.State().RollCountStop;
       StartHyperDrive(set > 0 ? set : kPadHyperDriveRolls);
     });
