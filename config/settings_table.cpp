@@ -24,6 +24,9 @@ constexpr Currency kMostBankroll = 1'000'000'000;
 constexpr Currency kMostRatio = 1'000;
 constexpr Currency kMostModify = 100'000;
 constexpr Currency kMostRollRate = 36'000'000;  // rolls an hour: 10,000 a second
+// The graph line's colours the desktop offers; a game file may carry any index.
+constexpr Currency kLastGraphColour = 7;
+constexpr Currency kLastGraphStyle = 2;  // plain, striped, solid
 constexpr Currency kMostSeed = Currency::FromRaw(int64_t{4'294'967'295} * Currency::kScale);  // the millisecond clock's largest reading
 
 Currency AsCurrency(Currency v) { return v; }
@@ -130,6 +133,12 @@ std::vector<SettingRow> BuildTable() {
       Row<&G::SpeedUnit>("SpeedUnit", 0, kInt32Max, 0, false),  // measured at start-up
       // The table's click tool: 1..5 checks, 7..10 tray Chip-Stacks, 89 buy, 90/91 call
       Row<&G::ClickTool>("ClickTool", kToolFirstChip, kToolCallOn, kToolFirstChip),
+      // The bankroll graph's look: kept with the graph's own record of the game file
+      Flag<&G::DisplayAverage>("DisplayAverage", false),
+      Flag<&G::DisplayGridLines>("DisplayGridLines", true),
+      Row<&G::GraphStyle>("GraphStyle", 0, kLastGraphStyle, 0),
+      Row<&G::GraphColor>("GraphColor", 0, kLastGraphColour, 0),
+      Flag<&G::AutoPrint>("AutoPrint", false),
       // Auto-Bet
       Flag<&G::AutoBetActivated>("AutoBetActivated", false),
       Flag<&G::ShowingSteps>("ShowingSteps", false, false),

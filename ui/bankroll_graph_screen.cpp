@@ -45,6 +45,9 @@ const std::array<NamedColour, 8> kColours = {{{"&Green", QColor(0, 128, 0)},
 
 constexpr std::array<const char*, 3> kAdjustCaptions = {"&Manual", "Automatic with &Expanding Scale",
                                                         "Automatic with &Snap-back Scale"};
+// The game's names of the display switches, in the order of Switch.
+constexpr std::array<const char*, 5> kSwitchNames = {"DisplayAverage", "DisplayGridLines", "GraphStyle", "GraphColor",
+                                                     "AutoPrint"};
 constexpr std::array<const char*, 3> kStyleCaptions = {"&Plain", "&Striped", "S&olid"};
 // Where the reference lines first stand: a fifth in from each edge.
 constexpr std::array<int, 2> kFirstLines = {kWindowPoints / 5, kWindowPoints - kWindowPoints / 5};
@@ -96,15 +99,13 @@ BankrollGraphScreen::BankrollGraphScreen(Table& table, Dialogs& dialogs, QWidget
   BuildMenus(bar);
 
   const Game& g = table_.State();
-  showAverage_ = g.DisplayAverage;
-  look_.grid = g.DisplayGridLines;
-  look_.style = static_cast<GraphStyle>(std::clamp(g.GraphStyle, 0, 2));
-  look_.colour = kColours[static_cast<size_t>(std::clamp(g.GraphColor, 0, int(kColours.size()) - 1))].colour;
   throttle_->setValue(g.ThrottleValue);
   SetRolls(g.RollCountStop > 0 ? g.RollCountStop : 1'000'000);
   SetRunning(table_.Busy());
   table_.Subscribe(this);
   Refresh();
+  // A full window already there was printed, if at all, before this screen.
+  lastAutoPrinted_ = picture_.count == kWindowPoints ? picture_.firstRoll : -1;
   resize(760, 560);
 }
 
@@ -144,15 +145,9 @@ void BankrollGraphScreen::BuildMenus(QMenuBar* bar) {
 
   QMenu* display = bar->addMenu(tr("&Display"));
   grid_ = action(display, "mnuDisplayGridLines", tr("Display &Grid Lines"), true);
-  connect(grid_, &QAction::toggled, this, [this](bool on) {
-    look_.grid = on;
-    Redraw();
-  });
+  connect(grid_, &QAction::toggled, this, [this](bool on) { Choose(Switch::Grid, on); });
   displayAverage_ = action(display, "mnuDisplayAverage", tr("Display &Moving Average"), true);
-  connect(displayAverage_, &QAction::toggled, this, [this](bool on) {
-    showAverage_ = on;
-    Refresh();
-  });
+  connect(displayAverage_, &QAction::toggled, this, [this](bool on) { Choose(Switch::Average, on); });
   setAverage_ = action(display, "mnuSetAverage", tr("&Set Moving Average ..."));
   connect(setAverage_, &QAction::triggered, this, [this] { ChooseAverage(); });
   refLines_ = action(display, "mnuDisplayRefLines", tr("Display &Reference Lines"), true);
@@ -160,18 +155,12 @@ void BankrollGraphScreen::BuildMenus(QMenuBar* bar) {
   display->addSeparator();
   QMenu* type = display->addMenu(tr("Graph &Type"));
   type->setObjectName(QStringLiteral("mnuGraphType"));
-  group(type, "mnuGraphType", kStyleCaptions, styles_, [this](int style) {
-    look_.style = static_cast<GraphStyle>(style);
-    Redraw();
-  });
+  group(type, "mnuGraphType", kStyleCaptions, styles_, [this](int style) { Choose(Switch::Style, style); });
   QMenu* colour = display->addMenu(tr("Set &Color"));
   colour->setObjectName(QStringLiteral("mnuSetColor"));
   std::array<const char*, kColours.size()> names{};
   for (size_t i = 0; i < kColours.size(); ++i) names[i] = kColours[i].name;
-  group(colour, "mnuSetColor", names, colours_, [this](int c) {
-    look_.colour = kColours[static_cast<size_t>(c)].colour;
-    Redraw();
-  });
+  group(colour, "mnuSetColor", names, colours_, [this](int c) { Choose(Switch::Colour, c); });
 
   QMenu* print = bar->addMenu(tr("&Print"));
   connect(action(print, "mnuPrintNow", tr("Print &Now ...")), &QAction::triggered, this, [this] { PrintNow(); });
@@ -324,11 +313,13 @@ void BankrollGraphScreen::ShowGame(const Game& g) {
   std::copy_n(g.GraphBankroll.begin() + 1, kWindowPoints, picture_.points.begin());
   averageRolls_ = g.MovingAverageRolls;
   adjustType_ = g.AutoAdjustType;
+  fromGame_ = {g.DisplayAverage, g.DisplayGridLines, g.GraphStyle, g.GraphColor, g.AutoPrint};
+  ApplyLook();
   picture_.withAverage = false;
-  if (showAverage_ && g.DisplayAverage) {
+  if (ShowsAverage() && g.DisplayAverage) {
     std::copy_n(g.GraphAverage.begin() + 1, kWindowPoints, picture_.averages.begin());
     picture_.withAverage = true;
-  } else if (showAverage_) {
+  } else if (ShowsAverage()) {
     FillAverages(picture_, &g, averageRolls_);
   }
   if (!linesPending_) {
@@ -349,11 +340,12 @@ void BankrollGraphScreen::ShowRun(const RunSnapshot& shot, double rollsPerSecond
   picture_.top = shot.GraphTop;
   picture_.scale = shot.GraphScale;
   picture_.points = shot.GraphPoints;
+  ApplyLook();
   picture_.withAverage = false;
-  if (showAverage_ && shot.DisplayAverage) {
+  if (ShowsAverage() && shot.DisplayAverage) {
     picture_.averages = shot.GraphAverages;
     picture_.withAverage = true;
-  } else if (showAverage_) {
+  } else if (ShowsAverage()) {
     FillAverages(picture_, nullptr, averageRolls_);
   }
   // The window's high and low, as far as its points tell them.
@@ -364,7 +356,7 @@ void BankrollGraphScreen::ShowRun(const RunSnapshot& shot, double rollsPerSecond
   }
   ShowWindowFigures(high, low, shot.Bankroll, shot.Rolls);
   speedLabel_->setText(rollsPerSecond > 0 ? Count(static_cast<int64_t>(rollsPerSecond)) : QStringLiteral("-"));
-  if (autoPrint_ && shot.GraphCount == kWindowPoints) AutoPrintFullWindow();
+  if (AutoPrinting() && shot.GraphCount == kWindowPoints) AutoPrintFullWindow();
 }
 
 void BankrollGraphScreen::ShowWindowFigures(Currency high, Currency low, Currency current, int64_t rolls) {
@@ -381,7 +373,7 @@ void BankrollGraphScreen::ShowWindowFigures(Currency high, Currency low, Currenc
   rateLabel_->setText(QString::fromStdString(RollsPerHourText(rate_)));
   leftLabel_->setText(Count(picture_.firstRoll));
   rightLabel_->setText(Count(picture_.firstRoll + kWindowPoints));
-  averageLabel_->setText(showAverage_ ? QString::fromStdString(MovingAverageCaption(averageRolls_)) : QString());
+  averageLabel_->setText(ShowsAverage() ? QString::fromStdString(MovingAverageCaption(averageRolls_)) : QString());
   Redraw();
 }
 
@@ -415,13 +407,13 @@ void BankrollGraphScreen::SyncMenus() {
     a->setChecked(on);
   };
   check(grid_, look_.grid);
-  check(displayAverage_, showAverage_);
+  check(displayAverage_, ShowsAverage());
   check(refLines_, look_.refLines);
-  check(autoPrintAction_, autoPrint_);
+  check(autoPrintAction_, AutoPrinting());
   for (size_t i = 0; i < adjust_.size(); ++i) check(adjust_[i], static_cast<int32_t>(i) == adjustType_);
   for (size_t i = 0; i < styles_.size(); ++i) check(styles_[i], static_cast<int>(i) == static_cast<int>(look_.style));
-  for (size_t i = 0; i < colours_.size(); ++i) check(colours_[i], kColours[i].colour == look_.colour);
-  autoPrintLabel_->setText(autoPrint_ ? tr("Auto-Print ON") : QString());
+  for (size_t i = 0; i < colours_.size(); ++i) check(colours_[i], static_cast<int32_t>(i) == Value(Switch::Colour));
+  autoPrintLabel_->setText(AutoPrinting() ? tr("Auto-Print ON") : QString());
 }
 
 // --- The run -------------------------------------------------------------------
@@ -451,12 +443,13 @@ void BankrollGraphScreen::RunStopped(StopReason reason) {
   // The texts break their lines as the message box does, with carriage returns.
   reasonLabel_->setText(QString::fromUtf8(StopReasonText(reason)).replace(QLatin1Char('\r'), QLatin1Char('\n')));
   if (linesPending_) CommitReferenceLines();
+  TellPending();
   const double seconds = runClock_.isValid() ? runClock_.elapsed() / 1000.0 : 0;
   const int64_t before = rollsAtStart_;
   Refresh();
   speedLabel_->setText(seconds > 0 ? Count(static_cast<int64_t>((rolls_ - before) / seconds)) : QStringLiteral("-"));
   runClock_.invalidate();
-  if (autoPrint_ && picture_.count == kWindowPoints) AutoPrintFullWindow();
+  if (AutoPrinting() && picture_.count == kWindowPoints) AutoPrintFullWindow();
 }
 
 void BankrollGraphScreen::showEvent(QShowEvent* event) {
@@ -466,6 +459,45 @@ void BankrollGraphScreen::showEvent(QShowEvent* event) {
 
 void BankrollGraphScreen::RollFinished(std::span<const Settlement>) {
   if (!table_.Busy() && isVisible()) Refresh();
+}
+
+void BankrollGraphScreen::SettingChanged(const std::string& name) {
+  // Another screen or a script may switch the look too.
+  if (std::find(kSwitchNames.begin(), kSwitchNames.end(), name) != kSwitchNames.end() && !table_.Busy()) Refresh();
+}
+
+// --- The display switches -------------------------------------------------------
+
+int32_t BankrollGraphScreen::Value(Switch which) const {
+  const auto i = static_cast<size_t>(which);
+  return pending_[i].value_or(fromGame_[i]);
+}
+
+void BankrollGraphScreen::ApplyLook() {
+  look_.grid = Value(Switch::Grid) != 0;
+  look_.style = static_cast<GraphStyle>(std::clamp(Value(Switch::Style), 0, static_cast<int>(kStyleCaptions.size()) - 1));
+  look_.colour =
+      kColours[static_cast<size_t>(std::clamp(Value(Switch::Colour), 0, static_cast<int>(kColours.size()) - 1))].colour;
+}
+
+void BankrollGraphScreen::Choose(Switch which, int32_t value) {
+  const auto i = static_cast<size_t>(which);
+  pending_[i].reset();
+  if (!Tell(which, value) && table_.Busy()) pending_[i] = value;
+  Refresh();
+}
+
+bool BankrollGraphScreen::Tell(Switch which, int32_t value) {
+  if (!table_.Set(kSwitchNames[static_cast<size_t>(which)], value).Done()) return false;
+  // The game keeps no averages while they are hidden: shown again, they are worked out afresh.
+  if (which == Switch::Average && value != 0) table_.SetGraphAverage(table_.State().MovingAverageRolls);
+  return true;
+}
+
+void BankrollGraphScreen::TellPending() {
+  for (size_t i = 0; i < kSwitches; ++i) {
+    if (pending_[i] && Tell(static_cast<Switch>(i), *pending_[i])) pending_[i].reset();
+  }
 }
 
 // --- Scale, average and lines ------------------------------------------------------
@@ -487,8 +519,7 @@ void BankrollGraphScreen::ChooseAverage() {
   // The table keeps the count within 0..525 itself.
   const int64_t whole = rolls->raw / Currency::kScale;
   if (!table_.SetGraphAverage(static_cast<int32_t>(std::clamp<int64_t>(whole, -1, kWindowPoints + 1))).Done()) return;
-  showAverage_ = true;
-  Refresh();
+  Choose(Switch::Average, 1);
 }
 
 void BankrollGraphScreen::ToggleReferenceLines(bool on) {

@@ -7,6 +7,7 @@
 
 #include <QElapsedTimer>
 #include <QWidget>
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -46,6 +47,7 @@ class BankrollGraphScreen : public QWidget, public TableListener {
   void RunStarted() override;
   void RunStopped(StopReason reason) override;
   void RollFinished(std::span<const Settlement> settlements) override;
+  void SettingChanged(const std::string& name) override;
 
  signals:
   void StartRequested(int rolls);
@@ -74,12 +76,25 @@ class BankrollGraphScreen : public QWidget, public TableListener {
   PrintedGraph CurrentGraph() const;
   void SyncMenus();
 
+  // The display switches the game keeps. A run answers busy to their
+  // setting: the choice is drawn at once and told to the table after it.
+  enum class Switch { Average, Grid, Style, Colour, AutoPrint, Count };
+  void Choose(Switch which, int32_t value);
+  bool Tell(Switch which, int32_t value);
+  void TellPending();
+  int32_t Value(Switch which) const;
+  bool ShowsAverage() const { return Value(Switch::Average) != 0; }
+  bool AutoPrinting() const { return Value(Switch::AutoPrint) != 0; }
+  void ApplyLook();
+
   Table& table_;
   Dialogs& dialogs_;
   BankrollGraphView* view_ = nullptr;
   GraphPicture picture_;
   GraphLook look_;
-  bool showAverage_ = false;
+  static constexpr size_t kSwitches = static_cast<size_t>(Switch::Count);
+  std::array<int32_t, kSwitches> fromGame_{};  // as last read while the game was free
+  std::array<std::optional<int32_t>, kSwitches> pending_{};
   int32_t averageRolls_ = 0;
   int32_t adjustType_ = 0;
   bool running_ = false;
@@ -91,9 +106,9 @@ class BankrollGraphScreen : public QWidget, public TableListener {
   QElapsedTimer runClock_;
   int64_t rollsAtStart_ = 0;
 
-  // Print Now fills a page; Auto-Print keeps its own document.
+  // Print Now fills a page; Auto-Print keeps its own document, asked for
+  // when it is switched on (or at its first page, when the game came with it on).
   PrintedPage page_;
-  bool autoPrint_ = false;
   QString autoPrintFile_;
   std::vector<PrintedPage> autoPages_;
   int64_t lastAutoPrinted_ = -1;  // the first roll of the last window printed

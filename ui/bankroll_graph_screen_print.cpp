@@ -46,24 +46,47 @@ void BankrollGraphScreen::PrintNow() {
   page_.clear();
 }
 
+namespace {
+
+std::optional<QString> AskAutoPrintFile(Dialogs& dialogs) {
+  const std::optional<std::string> file = dialogs.FileName("Auto-Print Bankroll Graph", "*.pdf", FileMode::Save);
+  if (!file) return std::nullopt;
+  return QString::fromStdString(*file);
+}
+
+}  // namespace
+
 void BankrollGraphScreen::ToggleAutoPrint(bool on) {
   if (on) {
-    const std::optional<std::string> file = dialogs_.FileName("Auto-Print Bankroll Graph", "*.pdf", FileMode::Save);
-    autoPrint_ = file.has_value();
-    autoPrintFile_ = file ? QString::fromStdString(*file) : QString();
+    const std::optional<QString> file = AskAutoPrintFile(dialogs_);
+    if (!file) {
+      SyncMenus();
+      return;
+    }
+    autoPrintFile_ = *file;
     autoPages_.clear();
     lastAutoPrinted_ = picture_.count == graph::kWindowPoints ? picture_.firstRoll : -1;
+    Choose(Switch::AutoPrint, 1);
   } else {
-    autoPrint_ = false;
     // A page begun is finished when the printing stops.
     if (!autoPages_.empty()) WriteGraphPages(autoPrintFile_, autoPages_);
+    autoPages_.clear();
+    Choose(Switch::AutoPrint, 0);
   }
-  SyncMenus();
 }
 
 void BankrollGraphScreen::AutoPrintFullWindow() {
   if (picture_.firstRoll == lastAutoPrinted_) return;
   lastAutoPrinted_ = picture_.firstRoll;
+  if (autoPrintFile_.isEmpty()) {
+    // The game came with Auto-Print on: its document is asked for at its first page.
+    const std::optional<QString> file = AskAutoPrintFile(dialogs_);
+    if (!file) {
+      Choose(Switch::AutoPrint, 0);
+      return;
+    }
+    autoPrintFile_ = *file;
+  }
   if (autoPages_.empty() || static_cast<int>(autoPages_.back().size()) == kGraphsPerPage) autoPages_.emplace_back();
   autoPages_.back().push_back(CurrentGraph());
   WriteGraphPages(autoPrintFile_, autoPages_);

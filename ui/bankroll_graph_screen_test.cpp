@@ -163,17 +163,73 @@ TEST(BankrollGraphScreen, PrintNowFillsAPageBeforeAskingForTheFile) {
 TEST(BankrollGraphScreen, AutoPrintTakesEachFullWindowItSees) {
   struct Case {
     int rolls;
+    bool fromGame;  // switched on in the game, not from the menu: the file is asked at the first page
     bool printed;
   };
-  for (const Case c : {Case{1050, true}, Case{1000, false}}) {
+  for (const Case c : {Case{1050, false, true}, Case{1000, false, false}, Case{1050, true, true}}) {
     Screen s;
     QTemporaryDir folder;
     const QString pdf = folder.filePath("auto.pdf");
     s.dialogs.files.push_back(pdf.toStdString());
-    s.Trigger("mnuAutoPrint");
+    if (c.fromGame) {
+      ASSERT_TRUE(s.table.Set("AutoPrint", 1).Done());
+      EXPECT_TRUE(s.dialogs.filesAsked.empty());
+    } else {
+      s.Trigger("mnuAutoPrint");
+      EXPECT_TRUE(s.g().AutoPrint);
+    }
     EXPECT_EQ(s.Text("lblAutoPrint"), "Auto-Print ON");
     s.table.HyperDrive(c.rolls);
     EXPECT_EQ(QFileInfo::exists(pdf), c.printed) << c.rolls;
+    EXPECT_EQ(s.dialogs.filesAsked.size(), 1u) << c.rolls;
+  }
+}
+
+// The look's menu items set the game's switches; during a run the choice is
+// drawn at once and told to the table when the run ends.
+TEST(BankrollGraphScreen, DisplaySwitchesAreTheGamesAndWaitOutARun) {
+  struct Case {
+    const char* action;
+    const char* setting;
+    int32_t value;
+  };
+  const Case cases[] = {{"mnuDisplayGridLines", "DisplayGridLines", 0}, {"mnuDisplayAverage", "DisplayAverage", 1},
+                        {"mnuGraphType2", "GraphStyle", 2},            {"mnuGraphType1", "GraphStyle", 1},
+                        {"mnuSetColor5", "GraphColor", 5},             {"mnuSetColor0", "GraphColor", 0}};
+  for (const bool duringRun : {false, true}) {
+    for (const Case& c : cases) {
+      SCOPED_TRACE(std::string(c.action) + (duringRun ? " during a run" : ""));
+      Screen s(600);
+      if (c.value == 0) {
+        ASSERT_TRUE(s.table.Set(c.setting, 1).Done());  // so that the choice changes it
+      }
+      if (duringRun) s.table.BeginRun();
+      s.Trigger(c.action);
+      EXPECT_TRUE(s.screen->findChild<QAction*>(c.action)->isChecked() || c.value == 0);
+      if (duringRun) {
+        EXPECT_NE(s.table.Get(c.setting).value, c.value);
+        s.table.EndRun(StopReason::None);
+      }
+      EXPECT_EQ(s.table.Get(c.setting).value, c.value);
+    }
+  }
+}
+
+TEST(BankrollGraphScreen, TheLookIsDrawnAsTheGameKeepsIt) {
+  Screen s(600);
+  const GraphPicture& shown = s.screen->View()->Picture();
+  EXPECT_FALSE(shown.withAverage);
+  ASSERT_TRUE(s.table.Set("GraphStyle", 2).Done());
+  ASSERT_TRUE(s.table.Set("DisplayGridLines", 0).Done());
+  EXPECT_TRUE(s.screen->findChild<QAction*>("mnuGraphType2")->isChecked());
+  EXPECT_FALSE(s.screen->findChild<QAction*>("mnuDisplayGridLines")->isChecked());
+  // Averages the game did not keep while hidden are there once they are shown.
+  s.Trigger("mnuDisplayAverage");
+  ASSERT_TRUE(s.g().DisplayAverage);
+  ASSERT_TRUE(shown.withAverage);
+  for (const int point : {1, 300, 75}) {
+    EXPECT_EQ(s.g().GraphAverage[static_cast<size_t>(point)], MovingAverage(s.g(), point, s.g().MovingAverageRolls));
+    EXPECT_EQ(shown.averages[static_cast<size_t>(point - 1)], s.g().GraphAverage[static_cast<size_t>(point)]);
   }
 }
 
