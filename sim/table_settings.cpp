@@ -11,6 +11,7 @@
 #include "engine/bet_status.h"
 #include "engine/notices.h"
 #include "sim/table_command.h"
+#include "stats/bankroll_graph.h"
 #include "sim/table_listener.h"
 
 namespace {
@@ -45,6 +46,13 @@ const std::map<std::string, Store>& SpecialStores() {
          return true;
        }},
       {"AllowNegativeBankroll", [](Game& g, int, Currency v) { return SetAllowNegativeBankroll(g, v != 0); }},
+      // The averages are kept only while shown: shown again, the window's are worked out anew.
+      {"DisplayAverage",
+       [](Game& g, int, Currency v) {
+         g.DisplayAverage = v != 0;
+         if (g.DisplayAverage) SetMovingAverageRolls(g, g.MovingAverageRolls);
+         return true;
+       }},
       // A change of come-out working status shows at once on a bet that is not called.
       {"WorkOnComeOut",
        [](Game& g, int id, Currency v) {

@@ -8,6 +8,7 @@
 #include "engine/game.h"
 #include "engine/refusals.h"
 #include "sim/table_listener.h"
+#include "stats/bankroll_graph.h"
 #include "testkit/task_queue.h"
 
 namespace {
@@ -162,6 +163,18 @@ class Recorder : public TableListener {
 };
 
 }  // namespace
+
+// The graph keeps no averages while they are hidden; showing them works out
+// those of the window already drawn.
+TEST(Table, ShowingTheAverageWorksOutTheWindowsAverages) {
+  Fresh f;
+  f.table.HyperDrive(100);
+  const Game& g = f.table.State();
+  ASSERT_FALSE(g.DisplayAverage);
+  ASSERT_TRUE(f.table.Set("DisplayAverage", 1).Done());
+  EXPECT_EQ(g.GraphAverage[100], MovingAverage(g, 100, g.MovingAverageRolls));
+  EXPECT_NE(g.GraphAverage[100], Currency(0));
+}
 
 TEST(Table, CommandsTellTheirListenersWhatChanged) {
   Fresh f;
