@@ -143,6 +143,8 @@ bool SaveRunScreens(const QString& folder, const DesktopPaths& paths) {
   {
     PictureTable t(paths);
     PlayForGraphPicture(t.table, 1000);
+    t.table.SetGraphAverage(100);
+    t.table.Set("DisplayAverage", 1);
     t.window->Action(MenuCommand::Bankroll)->trigger();
     BankrollGraphScreen& graph = *t.window->Bankroll();
     graph.resize(900, 600);
