@@ -7,6 +7,7 @@
 
 #include <QElapsedTimer>
 #include <QWidget>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -18,6 +19,7 @@ class Dialogs;
 class QAction;
 class QLabel;
 class QMenuBar;
+class QPrinter;
 class QPushButton;
 class QScrollBar;
 class QSlider;
@@ -91,11 +93,12 @@ class BankrollGraphScreen : public QWidget, public TableListener {
   QElapsedTimer runClock_;
   int64_t rollsAtStart_ = 0;
 
-  // Print Now fills a page; Auto-Print keeps its own document.
+  // Print Now fills a page; Auto-Print keeps its own job open while it is on
+  // (the job goes before its printer).
   PrintedPage page_;
   bool autoPrint_ = false;
-  QString autoPrintFile_;
-  std::vector<PrintedPage> autoPages_;
+  std::unique_ptr<QPrinter> autoPrinter_;
+  std::unique_ptr<GraphPrintJob> autoJob_;
   int64_t lastAutoPrinted_ = -1;  // the first roll of the last window printed
 
   QLabel *highLabel_, *lowLabel_, *currentLabel_, *rollsLabel_, *hoursLabel_, *rateLabel_, *speedLabel_;

@@ -1,6 +1,7 @@
 // The screen's printing: Print Now fills a page of graphs and asks before it
 // is finished; Auto-Print adds every full window it sees to its own file.
 
+#include <QPrinter>
 #include <optional>
 
 #include "engine/game.h"
@@ -40,23 +41,29 @@ void BankrollGraphScreen::PrintNow() {
   if (sent < kGraphsPerPage &&
       dialogs_.Message({"Print Now", PagePrompt(sent).toStdString(), Buttons::YesNo, false}).reply != Reply::Yes)
     return;
-  const std::optional<std::string> file = dialogs_.FileName("Print Bankroll Graph", "*.pdf", FileMode::Save);
-  if (file && !WriteGraphPages(QString::fromStdString(*file), {page_}))
-    dialogs_.Message({"Print Now", "The graph could not be written to " + *file + ".", Buttons::Ok, false});
+  QPrinter printer;
+  PrepareGraphPrinter(printer, tr("Bankroll graph"));
+  if (dialogs_.ChoosePrinter(printer, "Print Bankroll Graph") && !PrintGraphPage(printer, page_))
+    dialogs_.Message({"Print Now", "The graph could not be printed.", Buttons::Ok, false});
   page_.clear();
 }
 
 void BankrollGraphScreen::ToggleAutoPrint(bool on) {
   if (on) {
-    const std::optional<std::string> file = dialogs_.FileName("Auto-Print Bankroll Graph", "*.pdf", FileMode::Save);
-    autoPrint_ = file.has_value();
-    autoPrintFile_ = file ? QString::fromStdString(*file) : QString();
-    autoPages_.clear();
+    autoPrinter_ = std::make_unique<QPrinter>();
+    PrepareGraphPrinter(*autoPrinter_, tr("Bankroll graph"));
+    autoPrint_ = dialogs_.ChoosePrinter(*autoPrinter_, "Auto-Print Bankroll Graph");
+    if (autoPrint_) {
+      autoJob_ = std::make_unique<GraphPrintJob>(*autoPrinter_);
+    } else {
+      autoPrinter_.reset();
+    }
     lastAutoPrinted_ = picture_.count == graph::kWindowPoints ? picture_.firstRoll : -1;
   } else {
     autoPrint_ = false;
     // A page begun is finished when the printing stops.
-    if (!autoPages_.empty()) WriteGraphPages(autoPrintFile_, autoPages_);
+    autoJob_.reset();
+    autoPrinter_.reset();
   }
   SyncMenus();
 }
@@ -64,7 +71,9 @@ void BankrollGraphScreen::ToggleAutoPrint(bool on) {
 void BankrollGraphScreen::AutoPrintFullWindow() {
   if (picture_.firstRoll == lastAutoPrinted_) return;
   lastAutoPrinted_ = picture_.firstRoll;
-  if (autoPages_.empty() || static_cast<int>(autoPages_.back().size()) == kGraphsPerPage) autoPages_.emplace_back();
-  autoPages_.back().push_back(CurrentGraph());
-  WriteGraphPages(autoPrintFile_, autoPages_);
+  if (autoJob_ && !autoJob_->Add(CurrentGraph())) {
+    autoJob_.reset();
+    ToggleAutoPrint(false);
+    dialogs_.Message({"Auto-Print", "The printer could not be started.", Buttons::Ok, false});
+  }
 }
