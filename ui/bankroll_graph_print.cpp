@@ -6,8 +6,8 @@
 
 namespace {
 
-// The page is laid out in units of 1/96 inch, whatever the printer's
-// resolution, so that a graph keeps the screen's proportions.
+// The page is laid out in units of 1/96 inch; a printer that keeps its own
+// resolution has the painter scaled to it.
 constexpr double kLayoutDpi = 96;
 constexpr double kHeaderLine = 16;
 constexpr double kLabelRoom = 72;  // the grid labels left of the plot
@@ -29,6 +29,9 @@ void PaintSlot(QPainter& painter, const QRectF& page, int slotIndex, const Print
 }  // namespace
 
 void PrepareGraphPrinter(QPrinter& printer, const QString& title) {
+  // The graph's fonts are sized for the screen: printing at its resolution
+  // keeps text and lines in proportion.
+  printer.setResolution(static_cast<int>(kLayoutDpi));
   printer.setPageSize(QPageSize(QPageSize::Letter));
   printer.setPageOrientation(QPageLayout::Portrait);
   printer.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);

@@ -362,7 +362,7 @@ void DiceRollFilesScreen::Print() {
     dialogs_.Message({kTitle, "There are no dice rolls to print.", Buttons::Ok, false});
     return;
   }
-  QPrinter printer;
+  QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(job.name);
   if (!dialogs_.ChoosePrinter(printer, kTitle)) return;
   const int64_t pages = PagesFor(job.count, LayoutRollPages(printer, job));
