@@ -4,7 +4,7 @@
 collect_sources(ui UI_TEST_SOURCES)
 add_library(dicemill_ui STATIC ${ui_LIBRARY} ui/resources.qrc)
 set_target_properties(dicemill_ui PROPERTIES AUTOMOC ON AUTORCC ON)
-target_link_libraries(dicemill_ui PUBLIC dicemill_sim Qt6::Widgets Qt6::Multimedia)
+target_link_libraries(dicemill_ui PUBLIC dicemill_sim Qt6::Widgets Qt6::Multimedia Qt6::PrintSupport)
 # The version for About, and the source tree, where a program run from a
 # build finds its samples, sounds and guide.
 target_compile_definitions(dicemill_ui PUBLIC DICEMILL_VERSION="${PROJECT_VERSION}"

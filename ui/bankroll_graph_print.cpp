@@ -1,48 +1,66 @@
 #include "ui/bankroll_graph_print.h"
 
+#include <QPageLayout>
 #include <QPageSize>
-#include <QPainter>
-#include <QPdfWriter>
+#include <QPrinter>
 
 namespace {
 
-constexpr int kResolution = 96;  // so that a graph keeps the screen's proportions in points
+// The page is laid out in units of 1/96 inch; a printer that keeps its own
+// resolution has the painter scaled to it.
+constexpr double kLayoutDpi = 96;
 constexpr double kHeaderLine = 16;
 constexpr double kLabelRoom = 72;  // the grid labels left of the plot
 
-void PaintPage(QPainter& painter, const QRectF& page, const PrintedPage& graphs) {
+void PaintSlot(QPainter& painter, const QRectF& page, int slotIndex, const PrintedGraph& g) {
   const double slot = page.height() / kGraphsPerPage;
+  const double top = page.top() + slot * slotIndex;
+  double y = top;
   painter.setFont(QFont(QStringLiteral("Sans"), 9));
-  for (size_t i = 0; i < graphs.size(); ++i) {
-    const PrintedGraph& g = graphs[i];
-    const double top = page.top() + slot * static_cast<double>(i);
-    double y = top;
-    painter.setPen(Qt::black);
-    for (const QString& line : g.header) {
-      painter.drawText(QRectF(page.left(), y, page.width(), kHeaderLine), Qt::AlignLeft | Qt::AlignVCenter, line);
-      y += kHeaderLine;
-    }
-    const QRectF plot(page.left() + kLabelRoom, y + 6, page.width() - kLabelRoom, top + slot - y - 24);
-    PaintGraph(painter, plot, g.picture, g.look);
+  painter.setPen(Qt::black);
+  for (const QString& line : g.header) {
+    painter.drawText(QRectF(page.left(), y, page.width(), kHeaderLine), Qt::AlignLeft | Qt::AlignVCenter, line);
+    y += kHeaderLine;
   }
+  const QRectF plot(page.left() + kLabelRoom, y + 6, page.width() - kLabelRoom, top + slot - y - 24);
+  PaintGraph(painter, plot, g.picture, g.look);
 }
 
 }  // namespace
 
-bool WriteGraphPages(const QString& path, const std::vector<PrintedPage>& pages) {
-  QPdfWriter writer(path);
-  if (!writer.setPageSize(QPageSize(QPageSize::Letter))) return false;
-  writer.setResolution(kResolution);
-  writer.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
-  writer.setTitle(QStringLiteral("Bankroll graph"));
-  QPainter painter;
-  if (!painter.begin(&writer)) return false;
-  const QRectF page(QPointF(0, 0), QSizeF(writer.width(), writer.height()));
-  for (size_t i = 0; i < pages.size(); ++i) {
-    if (i > 0) writer.newPage();
-    PaintPage(painter, page, pages[i]);
+void PrepareGraphPrinter(QPrinter& printer, const QString& title) {
+  // The graph's fonts are sized for the screen: printing at its resolution
+  // keeps text and lines in proportion.
+  printer.setResolution(static_cast<int>(kLayoutDpi));
+  printer.setPageSize(QPageSize(QPageSize::Letter));
+  printer.setPageOrientation(QPageLayout::Portrait);
+  printer.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
+  printer.setDocName(title);
+}
+
+bool GraphPrintJob::Add(const PrintedGraph& graph) {
+  const int slotIndex = graphs_ % kGraphsPerPage;
+  if (graphs_ == 0) {
+    if (!painter_.begin(&printer_)) return false;
+    const double scaleX = printer_.logicalDpiX() / kLayoutDpi, scaleY = printer_.logicalDpiY() / kLayoutDpi;
+    painter_.scale(scaleX, scaleY);
+    page_ = QRectF(0, 0, printer_.width() / scaleX, printer_.height() / scaleY);
+  } else if (slotIndex == 0 && !printer_.newPage()) {
+    return false;
   }
-  return painter.end();
+  PaintSlot(painter_, page_, slotIndex, graph);
+  ++graphs_;
+  return true;
+}
+
+bool GraphPrintJob::Finish() { return !painter_.isActive() || painter_.end(); }
+
+bool PrintGraphPage(QPrinter& printer, const PrintedPage& page) {
+  GraphPrintJob job(printer);
+  for (const PrintedGraph& graph : page) {
+    if (!job.Add(graph)) return false;
+  }
+  return job.Finish();
 }
 
 QString PagePrompt(int sentToPage) {

@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPrinter>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSlider>

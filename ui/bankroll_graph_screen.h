@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QWidget>
 #include <array>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -19,6 +20,7 @@ class Dialogs;
 class QAction;
 class QLabel;
 class QMenuBar;
+class QPrinter;
 class QPushButton;
 class QScrollBar;
 class QSlider;
@@ -73,6 +75,8 @@ class BankrollGraphScreen : public QWidget, public TableListener {
   void PrintNow();
   void ToggleAutoPrint(bool on);
   void AutoPrintFullWindow();
+  // Asks for the Auto-Print printer and opens its job; false when the player cancels.
+  bool StartAutoPrintJob();
   PrintedGraph CurrentGraph() const;
   void SyncMenus();
 
@@ -106,11 +110,12 @@ class BankrollGraphScreen : public QWidget, public TableListener {
   QElapsedTimer runClock_;
   int64_t rollsAtStart_ = 0;
 
-  // Print Now fills a page; Auto-Print keeps its own document, asked for
-  // when it is switched on (or at its first page, when the game came with it on).
+  // Print Now fills a page; Auto-Print keeps its own job open while it is on
+  // (the job goes before its printer), asked for when it is switched on, or at
+  // its first page when the game came with it on.
   PrintedPage page_;
-  QString autoPrintFile_;
-  std::vector<PrintedPage> autoPages_;
+  std::unique_ptr<QPrinter> autoPrinter_;
+  std::unique_ptr<GraphPrintJob> autoJob_;
   int64_t lastAutoPrinted_ = -1;  // the first roll of the last window printed
 
   QLabel *highLabel_, *lowLabel_, *currentLabel_, *rollsLabel_, *hoursLabel_, *rateLabel_, *speedLabel_;

@@ -1,6 +1,7 @@
 // The screen's printing: Print Now fills a page of graphs and asks before it
 // is finished; Auto-Print adds every full window it sees to its own file.
 
+#include <QPrinter>
 #include <optional>
 
 #include "engine/game.h"
@@ -40,37 +41,36 @@ void BankrollGraphScreen::PrintNow() {
   if (sent < kGraphsPerPage &&
       dialogs_.Message({"Print Now", PagePrompt(sent).toStdString(), Buttons::YesNo, false}).reply != Reply::Yes)
     return;
-  const std::optional<std::string> file = dialogs_.FileName("Print Bankroll Graph", "*.pdf", FileMode::Save);
-  if (file && !WriteGraphPages(QString::fromStdString(*file), {page_}))
-    dialogs_.Message({"Print Now", "The graph could not be written to " + *file + ".", Buttons::Ok, false});
+  QPrinter printer;
+  PrepareGraphPrinter(printer, tr("Bankroll graph"));
+  if (dialogs_.ChoosePrinter(printer, "Print Bankroll Graph") && !PrintGraphPage(printer, page_))
+    dialogs_.Message({"Print Now", "The graph could not be printed.", Buttons::Ok, false});
   page_.clear();
 }
 
-namespace {
-
-std::optional<QString> AskAutoPrintFile(Dialogs& dialogs) {
-  const std::optional<std::string> file = dialogs.FileName("Auto-Print Bankroll Graph", "*.pdf", FileMode::Save);
-  if (!file) return std::nullopt;
-  return QString::fromStdString(*file);
+bool BankrollGraphScreen::StartAutoPrintJob() {
+  autoPrinter_ = std::make_unique<QPrinter>();
+  PrepareGraphPrinter(*autoPrinter_, tr("Bankroll graph"));
+  if (!dialogs_.ChoosePrinter(*autoPrinter_, "Auto-Print Bankroll Graph")) {
+    autoPrinter_.reset();
+    return false;
+  }
+  autoJob_ = std::make_unique<GraphPrintJob>(*autoPrinter_);
+  return true;
 }
-
-}  // namespace
 
 void BankrollGraphScreen::ToggleAutoPrint(bool on) {
   if (on) {
-    const std::optional<QString> file = AskAutoPrintFile(dialogs_);
-    if (!file) {
+    if (!StartAutoPrintJob()) {
       SyncMenus();
       return;
     }
-    autoPrintFile_ = *file;
-    autoPages_.clear();
     lastAutoPrinted_ = picture_.count == graph::kWindowPoints ? picture_.firstRoll : -1;
     Choose(Switch::AutoPrint, 1);
   } else {
     // A page begun is finished when the printing stops.
-    if (!autoPages_.empty()) WriteGraphPages(autoPrintFile_, autoPages_);
-    autoPages_.clear();
+    autoJob_.reset();
+    autoPrinter_.reset();
     Choose(Switch::AutoPrint, 0);
   }
 }
@@ -78,16 +78,13 @@ void BankrollGraphScreen::ToggleAutoPrint(bool on) {
 void BankrollGraphScreen::AutoPrintFullWindow() {
   if (picture_.firstRoll == lastAutoPrinted_) return;
   lastAutoPrinted_ = picture_.firstRoll;
-  if (autoPrintFile_.isEmpty()) {
-    // The game came with Auto-Print on: its document is asked for at its first page.
-    const std::optional<QString> file = AskAutoPrintFile(dialogs_);
-    if (!file) {
-      Choose(Switch::AutoPrint, 0);
-      return;
-    }
-    autoPrintFile_ = *file;
+  // The game came with Auto-Print on: its printer is asked for at its first page.
+  if (!autoJob_ && !StartAutoPrintJob()) {
+    Choose(Switch::AutoPrint, 0);
+    return;
   }
-  if (autoPages_.empty() || static_cast<int>(autoPages_.back().size()) == kGraphsPerPage) autoPages_.emplace_back();
-  autoPages_.back().push_back(CurrentGraph());
-  WriteGraphPages(autoPrintFile_, autoPages_);
+  if (!autoJob_->Add(CurrentGraph())) {
+    ToggleAutoPrint(false);
+    dialogs_.Message({"Auto-Print", "The printer could not be started.", Buttons::Ok, false});
+  }
 }

@@ -3,6 +3,7 @@
 #include "ui/bankroll_graph_screen.h"
 
 #include <QAction>
+#include <QFile>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
@@ -143,45 +144,53 @@ TEST(BankrollGraphScreen, ReferenceLinesGiveTheirDifferences) {
   EXPECT_FALSE(s.g().DisplayRefLines);
 }
 
-TEST(BankrollGraphScreen, PrintNowFillsAPageBeforeAskingForTheFile) {
+bool IsPdf(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) && file.read(4) == "%PDF";
+}
+
+TEST(BankrollGraphScreen, PrintNowFillsAPageBeforeAskingForThePrinter) {
   Screen s(600);
   QTemporaryDir folder;
   const QString pdf = folder.filePath("graphs.pdf");
   s.dialogs.replies = {Reply::No, Reply::Yes};
-  s.dialogs.files.push_back(pdf.toStdString());
+  s.dialogs.printFiles.push_back(pdf.toStdString());
   s.Trigger("mnuPrintNow");
-  EXPECT_TRUE(s.dialogs.filesAsked.empty());
+  EXPECT_TRUE(s.dialogs.printersAsked.empty());
   s.Trigger("mnuPrintNow");
   ASSERT_EQ(s.dialogs.messages.size(), 2u);
   EXPECT_EQ(s.dialogs.messages[1].text,
             "3 graphs will fit on a page.\rSo far you've sent 2 to the current page.\r\r"
             "Would you like to finish printing now?");
-  ASSERT_EQ(s.dialogs.filesAsked.size(), 1u);
-  EXPECT_GT(QFileInfo(pdf).size(), 0);
+  ASSERT_EQ(s.dialogs.printersAsked.size(), 1u);
+  EXPECT_TRUE(IsPdf(pdf));
 }
 
 TEST(BankrollGraphScreen, AutoPrintTakesEachFullWindowItSees) {
   struct Case {
     int rolls;
-    bool fromGame;  // switched on in the game, not from the menu: the file is asked at the first page
+    bool fromGame;  // switched on in the game, not from the menu: the printer is asked at the first page
     bool printed;
   };
   for (const Case c : {Case{1050, false, true}, Case{1000, false, false}, Case{1050, true, true}}) {
     Screen s;
     QTemporaryDir folder;
     const QString pdf = folder.filePath("auto.pdf");
-    s.dialogs.files.push_back(pdf.toStdString());
+    s.dialogs.printFiles.push_back(pdf.toStdString());
     if (c.fromGame) {
       ASSERT_TRUE(s.table.Set("AutoPrint", 1).Done());
-      EXPECT_TRUE(s.dialogs.filesAsked.empty());
+      EXPECT_TRUE(s.dialogs.printersAsked.empty());
     } else {
       s.Trigger("mnuAutoPrint");
       EXPECT_TRUE(s.g().AutoPrint);
     }
     EXPECT_EQ(s.Text("lblAutoPrint"), "Auto-Print ON");
     s.table.HyperDrive(c.rolls);
-    EXPECT_EQ(QFileInfo::exists(pdf), c.printed) << c.rolls;
-    EXPECT_EQ(s.dialogs.filesAsked.size(), 1u) << c.rolls;
+    EXPECT_EQ(s.dialogs.printersAsked.size(), c.fromGame && !c.printed ? 0u : 1u) << c.rolls;
+    // The job is finished, and the file written, when the printing stops.
+    s.Trigger("mnuAutoPrint");
+    EXPECT_EQ(s.Text("lblAutoPrint"), "");
+    EXPECT_EQ(IsPdf(pdf), c.printed) << c.rolls;
   }
 }
 

@@ -10,6 +10,8 @@
 #include "dice/money.h"
 #include "engine/frontend.h"
 
+class QPrinter;
+
 // A message's answer, and whether the player ticked "Don't show this again".
 struct MessageAnswer {
   Reply reply = Reply::Ok;
@@ -32,7 +34,9 @@ struct TwoNumberRequest {
   Currency first, second;
 };
 
-enum class FileMode { Open, Save };
+// Open wants a file that exists; Save asks before replacing one; OpenOrCreate
+// takes any name, since the table creates a file that is not there yet.
+enum class FileMode { Open, Save, OpenOrCreate };
 
 class Dialogs {
  public:
@@ -46,4 +50,7 @@ class Dialogs {
   virtual std::optional<SettleReply> Settle(const SettleNotice& notice) = 0;
   // `pattern` as the table gives it ("*.crp"); nullopt when cancelled.
   virtual std::optional<std::string> FileName(const std::string& title, const std::string& pattern, FileMode mode) = 0;
+  // Lets the player pick and set up the printer the caller prepared; false
+  // when cancelled.
+  virtual bool ChoosePrinter(QPrinter& printer, const std::string& title) = 0;
 };

@@ -2,8 +2,10 @@
 // Dialogs that answer from queues and record every question, for tests that
 // drive the desktop program without a modal loop. An empty queue answers as
 // a silent screen would: OK, No, Cancel, the offered amounts, the table's
-// default for notices, no file.
+// default for notices, no file, no printer.
 
+#include <QPrinter>
+#include <QString>
 #include <deque>
 #include <optional>
 #include <string>
@@ -28,6 +30,8 @@ class QueuedDialogs : public Dialogs {
   std::deque<std::optional<std::pair<Currency, Currency>>> numberPairs;
   std::deque<std::optional<SettleReply>> settles;
   std::deque<std::optional<std::string>> files;
+  // Each printer chosen prints to this PDF file.
+  std::deque<std::string> printFiles;
 
   // Every message and prompt in the order shown (a prompt as its title and
   // text, a two-amount prompt with its first label as text).
@@ -35,6 +39,7 @@ class QueuedDialogs : public Dialogs {
   std::vector<Currency> offered;  // the amounts the prompts offered
   std::vector<SettleNotice> notices;
   std::vector<FileAsked> filesAsked;
+  std::vector<std::string> printersAsked;  // their titles
 
   MessageAnswer Message(const MessageRequest& request) override {
     messages.push_back(request);
@@ -63,6 +68,13 @@ class QueuedDialogs : public Dialogs {
   std::optional<std::string> FileName(const std::string& title, const std::string& pattern, FileMode mode) override {
     filesAsked.push_back({title, pattern, mode});
     return Take(files, std::optional<std::string>());
+  }
+  bool ChoosePrinter(QPrinter& printer, const std::string& title) override {
+    printersAsked.push_back(title);
+    if (printFiles.empty()) return false;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(QString::fromStdString(Take(printFiles, std::string())));
+    return true;
   }
 
  private:

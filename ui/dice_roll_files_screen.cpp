@@ -14,6 +14,7 @@
 #include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPrinter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -26,10 +27,14 @@
 #include "ui/dialogs.h"
 #include "ui/dice_button.h"
 #include "ui/roll_list_view.h"
+#include "ui/roll_print.h"
 
 namespace {
 
 enum Menu { kFileMenu, kEditMenu, kMarkMenu };
+
+// The print's font size: what the page can hold, and what can be read.
+constexpr int kDefaultFontSize = 10, kMinFontSize = 6, kMaxFontSize = 36;
 
 QString Count(int64_t n) { return QLocale().toString(static_cast<qlonglong>(n)); }
 
@@ -183,6 +188,21 @@ QWidget* DiceRollFilesScreen::BuildControls() {
   rollNums_ = check("chkRollNums", tr("Include roll #'s"));
   dieNums_ = check("chkDieNums", tr("Include individual die #'s"));
   numbersCalled_ = check("chkNumbersCalled", tr("Include numbers called"));
+  printSelected_ = check("chkPrintSelectedRolls", tr(" Include selected rolls only"));
+  printSelected_->setChecked(false);
+  auto* printRow = new QHBoxLayout;
+  fontSize_ = new QLineEdit(QString::number(kDefaultFontSize), output);
+  fontSize_->setObjectName(QStringLiteral("txtFontSize"));
+  fontSize_->setValidator(new QIntValidator(kMinFontSize, kMaxFontSize, fontSize_));
+  fontSize_->setMaximumWidth(40);
+  auto* print = new QPushButton(tr("&Print ..."), output);
+  print->setObjectName(QStringLiteral("cmdPrint"));
+  connect(print, &QPushButton::clicked, this, [this] { Print(); });
+  printRow->addWidget(new QLabel(tr("Font size:"), output));
+  printRow->addWidget(fontSize_);
+  printRow->addStretch(1);
+  printRow->addWidget(print);
+  outputColumn->addLayout(printRow);
   column->addWidget(output);
   column->addStretch(1);
   return panel;
@@ -254,7 +274,8 @@ bool DiceRollFilesScreen::FileOpen(const char* title) {
 }
 
 void DiceRollFilesScreen::OpenFile() {
-  const auto path = dialogs_.FileName("Open Dice Roll File  or  Enter Name For A New File", "*.rol", FileMode::Save);
+  const auto path = dialogs_.FileName("Open Dice Roll File  or  Enter Name For A New File", "*.rol",
+                                     FileMode::OpenOrCreate);
   if (!path) return;
   table_.OpenRollFile(*path);  // a name the table can't use is told by it
   Refresh();
@@ -284,7 +305,7 @@ void DiceRollFilesScreen::Transfer(int transfer) {
     FileMode mode;
   };
   static constexpr Ask kAsks[] = {
-      {"Copy To Dice Roll File", "*.rol", FileMode::Save},
+      {"Copy To Dice Roll File", "*.rol", FileMode::OpenOrCreate},
       {"Paste From Dice Roll File", "*.rol", FileMode::Open},
       {"Paste From Ascii/Text File", "*.txt", FileMode::Open},
   };
@@ -308,6 +329,49 @@ void DiceRollFilesScreen::ExportText() {
   if (!path) return;
   table_.ExportRolls(*path, TextOptions());  // the table asks about the options and the numbering
   Refresh();
+}
+
+void DiceRollFilesScreen::Print() {
+  static const char* const kTitle = "Print Dice Rolls";
+  if (!FileOpen(kTitle)) return;
+  const RollTextOptions options = TextOptions();
+  if (!options.dieNums && !options.numbersCalled) {
+    dialogs_.Message({kTitle,
+                      "You must check at least one of the following boxes found under Output Options:\r"
+                      "        Include individual die #'s\r        Include numbers called",
+                      Buttons::Ok, false});
+    return;
+  }
+  const DiceFileState& d = table_.State().DiceFile;
+  const int64_t rolls = table_.RollFileRolls();  // also puts the table's writes on the disk
+  RollPrint job;
+  job.rollPath = QString::fromStdString(d.RollFileName);
+  job.name = QFileInfo(job.rollPath).fileName();
+  job.options = options;
+  job.date = QDate::currentDate();
+  job.fontSize = std::clamp(fontSize_->text().toInt(), kMinFontSize, kMaxFontSize);
+  fontSize_->setText(QString::number(job.fontSize));
+  if (printSelected_->isChecked()) {
+    job.first = std::min<int64_t>(d.NextRollNum, d.SelectAnchor);
+    const int64_t end = std::min<int64_t>(std::max<int64_t>(d.NextRollNum, d.SelectAnchor), rolls + 1);
+    job.count = std::max<int64_t>(0, end - job.first);
+  } else {
+    job.count = rolls;
+  }
+  if (job.count <= 0) {
+    dialogs_.Message({kTitle, "There are no dice rolls to print.", Buttons::Ok, false});
+    return;
+  }
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(job.name);
+  if (!dialogs_.ChoosePrinter(printer, kTitle)) return;
+  const int64_t pages = PagesFor(job.count, LayoutRollPages(printer, job));
+  const std::string text = "Number of rolls to be printed: " + Count(job.count).toStdString() +
+                           "\r\rBased on the options you've selected,\rthis should result in " +
+                           Count(pages).toStdString() + (pages == 1 ? " page." : " pages.") +
+                           "\r\rAre you ready to begin printing?";
+  if (dialogs_.Message({kTitle, text, Buttons::YesNo, false}).reply != Reply::Yes) return;
+  if (!PrintRolls(printer, job)) dialogs_.Message({kTitle, "The dice rolls could not be printed.", Buttons::Ok, false});
 }
 
 void DiceRollFilesScreen::MoveTo(int64_t next, int64_t anchor) {

@@ -47,6 +47,8 @@ class DiceRollFilesScreen : public QWidget, public TableListener {
   void Enter(int die1, int die2, bool random);
   void Transfer(int transfer);
   void ExportText();
+  // Prints the file's rolls, or the selected ones, as the output options say.
+  void Print();
   void Edit(int edit);
   void MoveTo(int64_t next, int64_t anchor);
   void ShowHighlights();
@@ -61,7 +63,8 @@ class DiceRollFilesScreen : public QWidget, public TableListener {
   QButtonGroup* insert_ = nullptr;
   QLineEdit* next_ = nullptr;
   QLabel *last_ = nullptr, *total_ = nullptr, *selection_ = nullptr;
-  QCheckBox *rollNums_ = nullptr, *dieNums_ = nullptr, *numbersCalled_ = nullptr;
+  QCheckBox *rollNums_ = nullptr, *dieNums_ = nullptr, *numbersCalled_ = nullptr, *printSelected_ = nullptr;
+  QLineEdit* fontSize_ = nullptr;
   QWidget* controls_ = nullptr;
   QList<QAction*> fileActions_;  // what needs an open file
   QList<QAction*> marks_;        // the highlights by total, then by face

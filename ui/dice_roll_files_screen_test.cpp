@@ -1,9 +1,12 @@
 #include "ui/dice_roll_files_screen.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 #include <fstream>
@@ -123,6 +126,74 @@ TEST(DiceRollFilesScreen, EditsByMouseKeysAndMenusGiveTheFileExpected) {
     EXPECT_EQ(d.Rolls("edit.rol"), c.rolls) << ::testing::PrintToString(c.steps);
     EXPECT_TRUE(d.dialogs.messages.empty()) << d.dialogs.messages.front().text;
   }
+}
+
+// The pages of a PDF file, as its page objects.
+int PdfPages(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return -1;
+  const QByteArray pdf = file.readAll();
+  if (!pdf.startsWith("%PDF")) return -1;
+  return static_cast<int>(pdf.count("/Type /Page\n") + pdf.count("/Type /Page\r"));
+}
+
+TEST(DiceRollFilesScreen, PrintsAllOrSelectedRollsInTheFontSizeAfterSayingHowManyPages) {
+  struct Case {
+    const char* name;
+    int rolls;
+    bool selectedOnly;
+    int fontSize;
+    Reply ready;
+    std::string count;  // as announced; empty when there is nothing to print
+    int pages;          // announced and printed; 0 when nothing is printed
+  };
+  const Case cases[] = {
+      {"empty file", 0, false, 10, Reply::Yes, "", 0},
+      {"all", 240, false, 10, Reply::Yes, "240", 1},
+      {"selected", 240, true, 10, Reply::Yes, "3", 1},
+      {"large type", 2400, false, 36, Reply::Yes, "2,400", 0},
+      {"not ready", 240, false, 10, Reply::No, "240", 0},
+  };
+  for (const Case& c : cases) {
+    RollFileDesk d;
+    d.Open("print.rol");
+    for (int roll = 0; roll < c.rolls; ++roll) d.table.EnterRoll(roll % 6 + 1, roll / 6 % 6 + 1);
+    d.table.SetRollPosition(4, 7);
+    d.Control<QCheckBox>(QStringLiteral("chkPrintSelectedRolls"))->setChecked(c.selectedOnly);
+    d.Control<QLineEdit>(QStringLiteral("txtFontSize"))->setText(QString::number(c.fontSize));
+    const QString pdf = d.folder.filePath(QStringLiteral("rolls.pdf"));
+    d.dialogs.printFiles.push_back(pdf.toStdString());
+    d.dialogs.replies.push_back(c.ready);
+    d.Control<QPushButton>(QStringLiteral("cmdPrint"))->click();
+
+    ASSERT_FALSE(d.dialogs.messages.empty()) << c.name;
+    const std::string said = d.dialogs.messages.back().text;
+    if (c.count.empty()) {
+      EXPECT_EQ(said, "There are no dice rolls to print.") << c.name;
+      EXPECT_TRUE(d.dialogs.printersAsked.empty()) << c.name;
+      continue;
+    }
+    EXPECT_EQ(said.rfind("Number of rolls to be printed: " + c.count + "\r\r", 0), 0u) << said;
+    const size_t at = said.find("should result in ") + 17;
+    const int announced = std::stoi(said.substr(at));
+    const int printed = PdfPages(pdf);
+    if (c.ready == Reply::No) {
+      EXPECT_EQ(printed, -1) << c.name;
+    } else {
+      // Large type takes more than one page, and the count said is the count printed.
+      EXPECT_EQ(printed, announced) << c.name;
+      EXPECT_TRUE(c.pages == 0 ? announced > 1 : announced == c.pages) << c.name << " " << announced;
+    }
+  }
+}
+
+TEST(DiceRollFilesScreen, NewOpenAndCopyToAcceptAnyNameWithoutAskingToReplace) {
+  RollFileDesk d;
+  d.Open("new.rol");
+  d.dialogs.files.push_back(d.PathOf("copy.rol"));
+  d.Trigger(QStringLiteral("mnuCopyToRollFile"));
+  ASSERT_EQ(d.dialogs.filesAsked.size(), 2u);
+  for (const auto& asked : d.dialogs.filesAsked) EXPECT_EQ(asked.mode, FileMode::OpenOrCreate) << asked.title;
 }
 
 TEST(DiceRollFilesScreen, WithoutAFileEntriesAndTheRecorderSaySoAndStayOff) {

@@ -2,6 +2,8 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QPrintDialog>
+#include <QPrinter>
 
 #include "ui/message_dialog.h"
 #include "ui/number_prompt.h"
@@ -73,13 +75,24 @@ std::optional<SettleReply> ModalDialogs::Settle(const SettleNotice& notice) {
 std::optional<std::string> ModalDialogs::FileName(const std::string& title, const std::string& pattern,
                                                   FileMode mode) {
   const bool save = mode == FileMode::Save;
+  // A new name may be typed unless the file must exist already.
+  const bool anyName = mode != FileMode::Open;
   QFileDialog dialog(parent_, QString::fromStdString(title), folder_, FileFilter(pattern));
+  // Open-or-create accepts as Open does, so that an existing file is taken
+  // without the "replace?" question.
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-  dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setFileMode(anyName ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   // The dialog adds the extension before it asks about overwriting.
-  if (save) dialog.setDefaultSuffix(ExtensionOf(pattern));
+  if (anyName) dialog.setDefaultSuffix(ExtensionOf(pattern));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  const QString path = save ? WithExtension(dialog.selectedFiles().front(), pattern) : dialog.selectedFiles().front();
+  const QString chosen = dialog.selectedFiles().front();
+  const QString path = anyName ? WithExtension(chosen, pattern) : chosen;
   folder_ = QFileInfo(path).absolutePath();
   return path.toStdString();
+}
+
+bool ModalDialogs::ChoosePrinter(QPrinter& printer, const std::string& title) {
+  QPrintDialog dialog(&printer, parent_);
+  dialog.setWindowTitle(QString::fromStdString(title));
+  return dialog.exec() == QDialog::Accepted;
 }

@@ -26,6 +26,7 @@ class ModalDialogs : public Dialogs {
   std::optional<std::pair<Currency, Currency>> TwoNumbers(const TwoNumberRequest& request) override;
   std::optional<SettleReply> Settle(const SettleNotice& notice) override;
   std::optional<std::string> FileName(const std::string& title, const std::string& pattern, FileMode mode) override;
+  bool ChoosePrinter(QPrinter& printer, const std::string& title) override;
 
  private:
   QPointer<QWidget> parent_;

@@ -1,6 +1,7 @@
 #include "ui/modal_dialogs.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QPushButton>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -38,6 +39,31 @@ TEST(ModalDialogs, ShowsAMessageModallyAndReturnsTheClick) {
     shown->findChild<QPushButton*>("cmdNo")->click();
   });
   EXPECT_EQ(dialogs.Message({"Save Game?", "Save?", Buttons::YesNoCancel, false}).reply, Reply::No);
+}
+
+TEST(ModalDialogs, FileDialogsAcceptAsTheModeAsks) {
+  struct Case {
+    FileMode mode;
+    QFileDialog::AcceptMode accept;
+    QFileDialog::FileMode files;
+  };
+  // Open-or-create takes any name yet accepts as Open does: no "replace?" question.
+  const Case cases[] = {
+      {FileMode::Open, QFileDialog::AcceptOpen, QFileDialog::ExistingFile},
+      {FileMode::Save, QFileDialog::AcceptSave, QFileDialog::AnyFile},
+      {FileMode::OpenOrCreate, QFileDialog::AcceptOpen, QFileDialog::AnyFile},
+  };
+  ModalDialogs dialogs{QString()};
+  for (const Case& c : cases) {
+    QTimer::singleShot(0, [&c] {
+      auto* shown = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(shown, nullptr);
+      EXPECT_EQ(shown->acceptMode(), c.accept);
+      EXPECT_EQ(shown->fileMode(), c.files);
+      shown->reject();
+    });
+    EXPECT_EQ(dialogs.FileName("Roll file", "*.rol", c.mode), std::nullopt);
+  }
 }
 
 TEST(QueuedDialogs, AnswersQuestionsFromTheQueueThenAsASilentScreen) {
