@@ -92,6 +92,9 @@ class FrontEnd {
   // A pause a visible table makes so the player can follow (the script's
   // pass); front ends without a display go straight on.
   virtual void WaitSeconds(double /*seconds*/) {}
+  // A window of the bankroll graph has just filled while Auto-Print is on:
+  // a screen prints it before the run draws over it.
+  virtual void GraphWindowFilled() {}
 };
 
 // A front end that shows nothing and takes every default: for batch runs and

@@ -48,6 +48,15 @@ void RunScreen::ShowStep(int lineNumber, const std::string& text, const std::str
   });
 }
 
+void RunScreen::GraphWindowFilled() {
+  link_->Publish(g_, true);
+  lastPublished_ = Clock::now();
+  Ask([](FrontEnd& s) {
+    s.GraphWindowFilled();
+    return true;
+  });
+}
+
 bool RunScreen::IsMinimised() const {
   return Ask([](FrontEnd& s) { return s.IsMinimised(); });
 }

@@ -51,6 +51,8 @@ class RunScreen : public FrontEnd {
 
   bool LetInputRun() override;
   void WaitSeconds(double seconds) override;
+  // The screen prints the full window from a snapshot taken now, while the run waits.
+  void GraphWindowFilled() override;
 
   // On the worker as the run ends: the controls that came during the last
   // roll, then the last snapshot.

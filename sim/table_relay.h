@@ -65,6 +65,7 @@ class TableRelay : public FrontEnd {
     return screen_->AskFileName(title, pattern);
   }
   void WaitSeconds(double seconds) override { screen_->WaitSeconds(seconds); }
+  void GraphWindowFilled() override { screen_->GraphWindowFilled(); }
 
  private:
   FrontEnd* screen_;

@@ -106,6 +106,7 @@ void RecordBankrollPoint(Game& g) {
   g.GraphBankroll[++g.GraphCount] = bankroll;
   if (g.AutoAdjustType > 0 && OffWindow(g, bankroll)) ResetBankrollGraph(g, false);
   if (g.DisplayAverage) g.GraphAverage[g.GraphCount] = MovingAverage(g, g.GraphCount, g.MovingAverageRolls);
+  if (g.GraphCount == kWindowPoints && g.AutoPrint) g.Ui->GraphWindowFilled();
 }
 
 void ClearBankrollGraph(Game& g) {

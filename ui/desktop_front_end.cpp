@@ -66,6 +66,10 @@ void DesktopFrontEnd::ShowStep(int lineNumber, const std::string& text, const st
   dialogs_.Message({"Auto-Bet line #" + std::to_string(lineNumber), text + "\r\rStatus: " + status, Buttons::Ok, false});
 }
 
+void DesktopFrontEnd::GraphWindowFilled() {
+  if (screen_) screen_->GraphWindowFilled();
+}
+
 void DesktopFrontEnd::WaitSeconds(double seconds) {
   if (!pauses_ || seconds <= 0) return;
   QEventLoop wait;

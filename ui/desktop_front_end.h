@@ -16,6 +16,7 @@ class TableScreen {
   virtual void RedrawBet(int betId) = 0;
   virtual void RefreshTable() = 0;
   virtual bool IsMinimised() const = 0;
+  virtual void GraphWindowFilled() = 0;
 };
 
 class DesktopFrontEnd : public FrontEnd {
@@ -41,6 +42,7 @@ class DesktopFrontEnd : public FrontEnd {
   void ShowStepsBanner(const std::string& word) override;
   void ShowStep(int lineNumber, const std::string& text, const std::string& status) override;
   void WaitSeconds(double seconds) override;
+  void GraphWindowFilled() override;
 
  private:
   Dialogs& dialogs_;

@@ -374,6 +374,10 @@ void MainWindow::ShowDice(int die1, int die2, int pointAfter) {
 
 void MainWindow::RedrawBet(int) { UpdateStatus(); }
 
+void MainWindow::GraphWindowFilled() {
+  if (bankroll_) bankroll_->Refresh();
+}
+
 void MainWindow::RefreshTable() {
   UpdateStatus();
   // After a rewind of the Dice Roll File its screen shows where play resumes.

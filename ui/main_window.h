@@ -71,6 +71,8 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   void RedrawBet(int betId) override;
   void RefreshTable() override;
   bool IsMinimised() const override { return isMinimized(); }
+  // Auto-Print: the graph screen prints the window the run has just filled.
+  void GraphWindowFilled() override;
 
  signals:
   void RunFinished();

@@ -403,6 +403,25 @@ TEST(MainWindow, HotKeyRunsItsFile) {
   EXPECT_EQ(d.g().BetAmount[bet::kPassLine], Currency(10));
 }
 
+// Auto-Print during a live Hyper-Drive prints every window the run fills,
+// however fast it goes: four windows are two pages of three graphs a page.
+TEST(MainWindow, AutoPrintCatchesEveryWindowOfALiveRun) {
+  Desk d;
+  d.window.Action(MenuCommand::Bankroll)->trigger();
+  BankrollGraphScreen* graph = d.window.Bankroll();
+  const QString pdf = d.folder.filePath("auto.pdf");
+  d.dialogs.printFiles.push_back(pdf.toStdString());
+  graph->findChild<QAction*>("mnuAutoPrint")->trigger();
+  ASSERT_TRUE(d.g().AutoPrint);
+  emit graph->StartRequested(4 * 525);
+  ASSERT_TRUE(d.WaitForRunEnd());
+  graph->findChild<QAction*>("mnuAutoPrint")->trigger();  // the job ends, the file is written
+  QFile file(pdf);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray bytes = file.readAll();
+  EXPECT_EQ(bytes.count("/Type /Page\n") + bytes.count("/Type /Page\r"), 2);
+}
+
 TEST(MainWindow, RollTheDiceThrowsOnTheRunnerAndRedraws) {
   Desk d;
   d.window.Action(MenuCommand::RollDice)->trigger();
