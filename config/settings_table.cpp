@@ -27,6 +27,14 @@ constexpr Currency kMostRollRate = 36'000'000;  // rolls an hour: 10,000 a secon
 // The graph line's colours the desktop offers; a game file may carry any index.
 constexpr Currency kLastGraphColour = 7;
 constexpr Currency kLastGraphStyle = 2;  // plain, striped, solid
+constexpr Currency kLastConfigTab = 9;  // ten tabs
+// Chip sets, styles and sound sets are indexes of lists that grow with the
+// data folder; a file's index past the list falls back to the first at use.
+constexpr Currency kMostStyle = 99;
+constexpr Currency kMostSoundSet = 9'999;
+constexpr Currency kLastTableScheme = 7;
+constexpr Currency kLastColour = 15;  // the 16-colour table
+constexpr Currency kLastBetRow = 199;
 constexpr Currency kMostSeed = Currency::FromRaw(int64_t{4'294'967'295} * Currency::kScale);  // the millisecond clock's largest reading
 
 Currency AsCurrency(Currency v) { return v; }
@@ -71,6 +79,14 @@ SettingRow Array(const char* name, SettingType type, Currency least, Currency mo
 }
 
 Currency WorkOnComeOutDefault(int id) { return bet::DefaultWorkOnComeOut(id); }
+// As a fresh Game holds them (a test holds the two to each other).
+Currency CompBetsMaskDefault(int i) { return i == 3 ? 0 : 1; }  // props earn no comps
+Currency PrintColorsDefault(int i) { return std::array<int, 3>{0, 9, 12}[static_cast<size_t>(i)]; }
+
+SettingRow WithDefaults(SettingRow row, Currency (*defaultAt)(int)) {
+  row.defaultAt = defaultAt;
+  return row;
+}
 
 std::vector<SettingRow> BuildTable() {
   using G = Game;
@@ -139,6 +155,26 @@ std::vector<SettingRow> BuildTable() {
       Row<&G::GraphStyle>("GraphStyle", 0, kLastGraphStyle, 0),
       Row<&G::GraphColor>("GraphColor", 0, kLastGraphColour, 0),
       Flag<&G::AutoPrint>("AutoPrint", false),
+      // The configuration screen's own choices
+      Row<&G::ConfigTab>("ConfigTab", 0, kLastConfigTab, 0),
+      Row<&G::ChipSet>("ChipSet", 0, kMostStyle, 0),
+      Row<&G::ChipStyle>("ChipStyle", 0, kMostStyle, 0),
+      Row<&G::DiceStyle>("DiceStyle", 0, kMostStyle, 0),
+      Row<&G::DiceAction>("DiceAction", 0, kMostStyle, 0),
+      Flag<&G::UseCentsSymbol>("UseCentsSymbol", false),
+      Flag<&G::SnapMouse>("SnapMouse", false),
+      Row<&G::StickPersonSound>("StickPersonSound", 0, kMostSoundSet, 0),
+      Row<&G::DiceSound>("DiceSound", 0, kMostSoundSet, 0),
+      Row<&G::ChipSound>("ChipSound", 0, kMostSoundSet, 0),
+      Row<&G::WinSound>("WinSound", 0, kMostSoundSet, 0),
+      Flag<&G::DisableAutoBetSounds>("DisableAutoBetSounds", false),
+      Row<&G::CompBase>("CompBase", 0, 1, 0),
+      Flag<&G::CompsUseTrueProbs>("CompsUseTrueProbs", true),
+      Row<&G::CompRate>("CompRate", 0, 1, Currency::FromRaw(4000)),
+      Row<&G::TableScheme>("TableScheme", 0, kLastTableScheme, 0),
+      Flag<&G::ShowMiscData>("ShowMiscData", false),
+      Row<&G::AdvantageScrollTop>("AdvantageScrollTop", 0, kLastBetRow, 0),
+      Row<&G::PayoffScrollTop>("PayoffScrollTop", 0, kLastBetRow, 0),
       // Auto-Bet
       Flag<&G::AutoBetActivated>("AutoBetActivated", false),
       Flag<&G::ShowingSteps>("ShowingSteps", false, false),
@@ -148,6 +184,9 @@ std::vector<SettingRow> BuildTable() {
       Array<&G::ModifyOperator>("ModifyOperator", SettingType::Integer, 0, 3, 0, 0, 5),
       Array<&G::ModifyAmount>("ModifyAmount", SettingType::Money, 0, kMostModify, 0, 0, 5),
       // -1 "$", 0 "%", 2..6 a check; 1 is no unit
+      WithDefaults(Array<&G::CompBetsMask>("CompBetsMask", SettingType::Flag, 0, 1, 0, 1, 3), &CompBetsMaskDefault),
+      WithDefaults(Array<&G::PrintColors>("PrintColors", SettingType::Integer, 0, kLastColour, 0, 0, 2),
+                   &PrintColorsDefault),
       Array<&G::ModifyUnits>("ModifyUnits", SettingType::Integer, -1, 6, -1, 0, 5),
   };
   SettingRow work = Array<&G::WorkOnComeOut>("WorkOnComeOut", SettingType::Flag, 0, 1, 0, bet::kFirstTableBet,

@@ -122,6 +122,25 @@ struct Game : DiceState {
   Currency AmountInvested;
   bool ConfigScreenActive = false;  // the ATM speaks up whatever the notice mask
 
+  // --- The configuration screen's own choices -------------------------------
+  // Kept with the game so that a table opens looking and sounding as it was
+  // left. Sound choices index the sorted lists of SoundSets; comps are the
+  // casino's reward for play, a share of the theoretical loss.
+  int32_t ConfigTab = 0;  // the tab last shown, 0..9
+  int32_t ChipSet = 0, ChipStyle = 0, DiceStyle = 0, DiceAction = 0;
+  bool UseCentsSymbol = false;
+  bool SnapMouse = false;  // stored only: the pointer is never moved for the player
+  int32_t StickPersonSound = 0, DiceSound = 0, ChipSound = 0, WinSound = 0;
+  bool DisableAutoBetSounds = false;
+  std::array<int32_t, 4> CompBetsMask{0, 1, 1, 0};  // 1..3: the bet families that earn comps
+  int32_t CompBase = 0;                              // 0 per decision, 1 per roll
+  bool CompsUseTrueProbs = true;
+  Currency CompRate = Currency::FromRaw(4000);  // of the theoretical loss: 40%
+  std::array<int32_t, 3> PrintColors{0, 9, 12};  // text, won, lost: indexes of the 16-colour table
+  int32_t TableScheme = 0;
+  bool ShowMiscData = false;
+  int32_t AdvantageScrollTop = 0, PayoffScrollTop = 0;
+
   // --- Auto-Play ------------------------------------------------------------
   bool AutoTakeFullOdds = false;
   bool AutoLayFullOdds = false;

@@ -15,6 +15,8 @@
 #include "autoplay/atm.h"
 #include "dice/prob_table.h"
 #include "dice/money.h"
+#include "engine/payoffs.h"
+#include "engine/rules.h"
 #include "script/hot_key_run.h"
 #include "sim/hyper_drive.h"
 #include "sim/run_controller.h"
@@ -118,6 +120,23 @@ class Table {
   AtmResult Atm(AtmAction action, Currency amount);
   TableResult Seed(Currency seed);
   TableResult SetRollRate(Currency value, RateUnit unit);
+
+  // --- The configuration screen --------------------------------------------------
+  // While the screen is open the ATM speaks up whatever the notice mask says.
+  TableResult SetConfigScreenOpen(bool open);
+  // The screen's closing check: one message at the first fault, which the
+  // answer names (tab and control) for the screen to select.
+  ConfigCheck ValidateConfiguration();
+  TableResult RestoreDefaultPayoffs();
+  // One of the kFieldPresetCount Field presets, in menu order.
+  TableResult SetFieldPreset(int preset);
+  // A cell of the payoff grid as the player types it: an amount or Per
+  // (columns 0 and 2), or the "t"/"f" key on the form word (column 1).
+  // Refused, with nothing changed, where the grid takes no such edit.
+  TableResult EditPayoffCell(PayoffTable grid, int record, int column, Currency typed);
+  TableResult EditPayoffCell(PayoffTable grid, int record, int column, char key);
+  // Puts Chip-Stack `stack` (0..99) on tray tool `tool` (7..10).
+  TableResult SetTrayStack(int tool, int stack);
 
   // --- Settings by name --------------------------------------------------------
   // "NAME" or "NAME.INDEX" of the settings table; the value as the table

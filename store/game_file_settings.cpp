@@ -10,12 +10,32 @@ namespace {
 struct SettingsSlots {  // record 8
   template <class G, class F>
   void operator()(G& g, F&& f) const {
+    f(0, g.ConfigTab);
+    f(1, g.ChipSet);
+    f(2, g.ChipStyle);
+    f(3, g.DiceStyle);
+    f(4, g.DiceAction);
     f(5, g.SimRollRate);
+    f(6, g.UseCentsSymbol);
+    f(7, g.StickPersonSound);
+    f(8, g.DiceSound);
+    f(9, g.ChipSound);
+    f(10, g.WinSound);
+    f(11, g.DisableAutoBetSounds);
     f(12, g.DisableAllSound);
+    for (int i = 1; i <= 3; ++i) f(12 + i, g.CompBetsMask[static_cast<size_t>(i)]);
+    f(16, g.CompBase);
+    f(17, g.CompsUseTrueProbs);
+    f(18, g.CompRate);
     f(19, g.NoticeMask);
+    for (int i = 0; i < 3; ++i) f(20 + i, g.PrintColors[static_cast<size_t>(i)]);
+    f(23, g.SnapMouse);
     f(24, g.RngChoice);
     f(25, g.UserSeedMode);
     f(26, g.ReSeedNewGames);
+    // The first slot past the listed ones: a file that never chose a scheme
+    // holds 0 there, the first scheme.
+    f(27, g.TableScheme);
   }
 };
 
@@ -40,6 +60,9 @@ struct RulesSlots {  // record 9
     f(15, g.ProbDisplayMode);
     f(16, g.ProbRollsOutOf);
     f(17, g.IncludeZeroOutcomes);
+    f(18, g.ShowMiscData);
+    f(19, g.AdvantageScrollTop);
+    f(20, g.PayoffScrollTop);
     f(21, g.AllowNegativeBankroll);
     f(22, g.BankrollInitType);
     f(23, g.BankrollInitAmount);

@@ -361,8 +361,8 @@ TEST(GameFile, WhatThisProgramDoesNotUseGoesBackOutUnchanged) {
   std::string bytes = Unsealed(ReadBytes(path));
   auto slot = [](int record, int currencySlot) { return (record - 1) * kGameRecordBytes + currencySlot * 8; };
   const std::vector<size_t> foreign = {5 * kGameRecordBytes + 3,  // a geometry entry, record 6
-                                       slot(8, 0),                // ConfigTab
-                                       slot(9, 19),               // AdvantageScrollTop
+                                       slot(8, 28),               // past the settings
+                                       slot(9, 25),               // a game total
                                        slot(11, 20),              // a screen index
                                        slot(12, 30),              // a graph value
                                        12 * kGameRecordBytes + 7};  // the 6-by-6 table
