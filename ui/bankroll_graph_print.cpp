@@ -6,17 +6,21 @@
 
 namespace {
 
-// The page is laid out in units of 1/96 inch; a printer that keeps its own
-// resolution has the painter scaled to it.
+// The page is laid out in units of 1/96 inch, the painter scaled to the
+// printer's resolution, whatever the printer dialog left it at; fonts are
+// sized in those units too, so text keeps its place beside the lines.
 constexpr double kLayoutDpi = 96;
 constexpr double kHeaderLine = 16;
+constexpr int kHeaderPixels = 12;  // 9 points at the layout's 96 dots an inch
 constexpr double kLabelRoom = 72;  // the grid labels left of the plot
 
 void PaintSlot(QPainter& painter, const QRectF& page, int slotIndex, const PrintedGraph& g) {
   const double slot = page.height() / kGraphsPerPage;
   const double top = page.top() + slot * slotIndex;
   double y = top;
-  painter.setFont(QFont(QStringLiteral("Sans"), 9));
+  QFont font(QStringLiteral("Sans"));
+  font.setPixelSize(kHeaderPixels);
+  painter.setFont(font);
   painter.setPen(Qt::black);
   for (const QString& line : g.header) {
     painter.drawText(QRectF(page.left(), y, page.width(), kHeaderLine), Qt::AlignLeft | Qt::AlignVCenter, line);
@@ -29,9 +33,6 @@ void PaintSlot(QPainter& painter, const QRectF& page, int slotIndex, const Print
 }  // namespace
 
 void PrepareGraphPrinter(QPrinter& printer, const QString& title) {
-  // The graph's fonts are sized for the screen: printing at its resolution
-  // keeps text and lines in proportion.
-  printer.setResolution(static_cast<int>(kLayoutDpi));
   printer.setPageSize(QPageSize(QPageSize::Letter));
   printer.setPageOrientation(QPageLayout::Portrait);
   printer.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);

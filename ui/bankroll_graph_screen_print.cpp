@@ -41,7 +41,7 @@ void BankrollGraphScreen::PrintNow() {
   if (sent < kGraphsPerPage &&
       dialogs_.Message({"Print Now", PagePrompt(sent).toStdString(), Buttons::YesNo, false}).reply != Reply::Yes)
     return;
-  QPrinter printer;
+  QPrinter printer(QPrinter::HighResolution);
   PrepareGraphPrinter(printer, tr("Bankroll graph"));
   if (dialogs_.ChoosePrinter(printer, "Print Bankroll Graph") && !PrintGraphPage(printer, page_))
     dialogs_.Message({"Print Now", "The graph could not be printed.", Buttons::Ok, false});
@@ -49,7 +49,7 @@ void BankrollGraphScreen::PrintNow() {
 }
 
 bool BankrollGraphScreen::StartAutoPrintJob() {
-  autoPrinter_ = std::make_unique<QPrinter>();
+  autoPrinter_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
   PrepareGraphPrinter(*autoPrinter_, tr("Bankroll graph"));
   if (!dialogs_.ChoosePrinter(*autoPrinter_, "Auto-Print Bankroll Graph")) {
     autoPrinter_.reset();

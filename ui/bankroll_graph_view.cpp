@@ -15,6 +15,7 @@ using graph::kWindowRows;
 // Room for the money at the grid lines, left of the plot.
 constexpr double kLabelWidth = 72;
 constexpr double kMargin = 8;
+constexpr int kLabelPixels = 11;  // 8 points at 96 dots an inch
 // A reference line is caught this close to the pointer.
 constexpr double kGrabPixels = 5;
 // Striped draws every n-th point down to the bottom line.
@@ -44,7 +45,11 @@ QPolygonF Line(const QRectF& plot, const GraphPicture& p, const std::array<Curre
 
 void PaintGrid(QPainter& painter, const QRectF& plot, const GraphPicture& p, bool lines) {
   const QStringList labels = GridLabels(p);
-  painter.setFont(QFont(painter.font().family(), 8));
+  // In pixels of the painter's own units, so that a printer's page, scaled
+  // to those units, gets labels of the same size as the screen.
+  QFont font(painter.font().family());
+  font.setPixelSize(kLabelPixels);
+  painter.setFont(font);
   for (int i = 0; i < labels.size(); ++i) {
     const double y = Y(plot, i * kGridRows);
     if (lines) {
