@@ -489,10 +489,8 @@ void BankrollGraphScreen::Choose(Switch which, int32_t value) {
 }
 
 bool BankrollGraphScreen::Tell(Switch which, int32_t value) {
-  if (!table_.Set(kSwitchNames[static_cast<size_t>(which)], value).Done()) return false;
-  // The game keeps no averages while they are hidden: shown again, they are worked out afresh.
-  if (which == Switch::Average && value != 0) table_.SetGraphAverage(table_.State().MovingAverageRolls);
-  return true;
+  // Shown again, the averages are worked out afresh by the table itself.
+  return table_.Set(kSwitchNames[static_cast<size_t>(which)], value).Done();
 }
 
 void BankrollGraphScreen::TellPending() {

@@ -108,6 +108,10 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   void OpenHotKeys();
   void OpenRollFiles();
   // A modeless screen of the table, made on first use.
+  // Makes a modeless screen on first use with `make` (which wires it), then
+  // shows it on top.
+  template <class Screen, class Make>
+  void Reveal(QPointer<Screen>& screen, Make&& make);
   template <class Screen>
   void OpenScreen(QPointer<Screen>& screen);
   // The run screens' buttons and the pad's choices follow the run.

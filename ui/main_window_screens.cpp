@@ -26,18 +26,15 @@ BankrollGraphScreen* MainWindow::Bankroll() const { return bankroll_; }
 HelpWindow* MainWindow::Help() const { return help_; }
 
 void MainWindow::OpenBankroll() {
-  if (!bankroll_) {
-    bankroll_ = new BankrollGraphScreen(table_, dialogs_, this);
-    bankroll_->setWindowFlag(Qt::Window);
-    bankroll_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(bankroll_, &BankrollGraphScreen::StartRequested, this, &MainWindow::StartHyperDrive);
-    connect(bankroll_, &BankrollGraphScreen::StopRequested, this, [this] { table_.Stop(); });
-    if (!table_.Busy()) bankroll_->SetRolls(table_.State().RollCountStop);
-    bankroll_->Refresh();
-    bankroll_->SetRunning(table_.Busy() && runKind_ == RunKind::HyperDrive);
-  }
-  bankroll_->show();
-  bankroll_->raise();
+  Reveal(bankroll_, [this] {
+    auto* screen = new BankrollGraphScreen(table_, dialogs_, this);
+    connect(screen, &BankrollGraphScreen::StartRequested, this, &MainWindow::StartHyperDrive);
+    connect(screen, &BankrollGraphScreen::StopRequested, this, [this] { table_.Stop(); });
+    if (!table_.Busy()) screen->SetRolls(table_.State().RollCountStop);
+    screen->Refresh();
+    screen->SetRunning(table_.Busy() && runKind_ == RunKind::HyperDrive);
+    return screen;
+  });
   bankroll_->activateWindow();
 }
 
@@ -75,40 +72,45 @@ RollPad* MainWindow::Pad() const { return pad_; }
 AutoPlayScreen* MainWindow::AutoPlay() const { return autoPlay_; }
 
 void MainWindow::OpenPad() {
-  if (!pad_) {
-    pad_ = new RollPad(this);
-    pad_->setWindowFlag(Qt::Window);
-    pad_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(pad_, &RollPad::PairChosen, this, [this](int die1, int die2) {
+  const bool made = !pad_;
+  Reveal(pad_, [this] {
+    auto* pad = new RollPad(this);
+    connect(pad, &RollPad::PairChosen, this, [this](int die1, int die2) {
       if (!table_.Busy() && CommitKeyIn()) table_.PadRoll(die1, die2);
     });
-    connect(pad_, &RollPad::TotalChosen, this, [this](int total) {
+    connect(pad, &RollPad::TotalChosen, this, [this](int total) {
       if (!table_.Busy() && CommitKeyIn()) table_.PadTotal(total);
     });
-    connect(pad_, &RollPad::RandomRollRequested, this, [this] { Perform(MenuCommand::RollDice); });
-    connect(pad_, &RollPad::HyperDriveRequested, this, [this] {
+    connect(pad, &RollPad::RandomRollRequested, this, [this] { Perform(MenuCommand::RollDice); });
+    connect(pad, &RollPad::HyperDriveRequested, this, [this] {
       if (table_.Busy()) return;  // the game is the run's
       const int set = table_.State().RollCountStop;
       StartHyperDrive(set > 0 ? set : kPadHyperDriveRolls);
     });
-    connect(pad_, &RollPad::StopRequested, this, [this] { table_.Stop(); });
+    connect(pad, &RollPad::StopRequested, this, [this] { table_.Stop(); });
+    return pad;
+  });
+  if (made) {
     ShowRunState();
     UpdateStatus();
   }
-  pad_->show();
-  pad_->raise();
+}
+
+template <class Screen, class Make>
+void MainWindow::Reveal(QPointer<Screen>& screen, Make&& make) {
+  if (!screen) {
+    screen = make();
+    screen->setWindowFlag(Qt::Window);
+    screen->setAttribute(Qt::WA_DeleteOnClose);
+  }
+  screen->show();
+  screen->raise();
 }
 
 template <class Screen>
 void MainWindow::OpenScreen(QPointer<Screen>& screen) {
-  if (!screen) {
-    screen = new Screen(table_, dialogs_, this);
-    screen->setWindowFlag(Qt::Window);
-    screen->setAttribute(Qt::WA_DeleteOnClose);
-  }
+  Reveal(screen, [this] { return new Screen(table_, dialogs_, this); });
   screen->Refresh();
-  screen->show();
-  screen->raise();
 }
 
 void MainWindow::OpenHotKeys() { OpenScreen(hotKeys_); }
@@ -120,18 +122,16 @@ HotKeysScreen* MainWindow::HotKeys() const { return hotKeys_; }
 DiceRollFilesScreen* MainWindow::RollFiles() const { return rollFiles_; }
 
 void MainWindow::OpenAutoPlay() {
-  if (!autoPlay_) {
-    autoPlay_ = new AutoPlayScreen(table_, dialogs_, this);
-    autoPlay_->setWindowFlag(Qt::Window);
-    autoPlay_->setAttribute(Qt::WA_DeleteOnClose);
-    connect(autoPlay_, &AutoPlayScreen::StartAutoRollRequested, this, [this] {
+  const bool made = !autoPlay_;
+  Reveal(autoPlay_, [this] {
+    auto* screen = new AutoPlayScreen(table_, dialogs_, this);
+    connect(screen, &AutoPlayScreen::StartAutoRollRequested, this, [this] {
       if (!table_.Busy()) Perform(MenuCommand::AutoRoll);
     });
-    connect(autoPlay_, &AutoPlayScreen::StopAutoRollRequested, this, [this] { table_.Stop(); });
-    ShowRunState();
-  }
-  autoPlay_->show();
-  autoPlay_->raise();
+    connect(screen, &AutoPlayScreen::StopAutoRollRequested, this, [this] { table_.Stop(); });
+    return screen;
+  });
+  if (made) ShowRunState();
 }
 
 void MainWindow::ShowRunState() {
