@@ -135,6 +135,8 @@ class Table {
   // Refused, with nothing changed, where the grid takes no such edit.
   TableResult EditPayoffCell(PayoffTable grid, int record, int column, Currency typed);
   TableResult EditPayoffCell(PayoffTable grid, int record, int column, char key);
+  // A bare number would go to the key's overload: say Currency(8) or '8'.
+  TableResult EditPayoffCell(PayoffTable grid, int record, int column, int) = delete;
   // Puts Chip-Stack `stack` (0..99) on tray tool `tool` (7..10).
   TableResult SetTrayStack(int tool, int stack);
 

@@ -52,6 +52,16 @@ TEST(Table, CommandsAnswerAndMarkTheGameUnsaved) {
        false},
       {"field loss beyond the bet", [](Table& t) { return t.SetFieldPayoff(5, Pays(-2, 1)); }, TableCode::OutOfRange,
        false},
+      {"field preset", [](Table& t) { return t.SetFieldPreset(3); }, TableCode::Done, true},
+      {"no such field preset", [](Table& t) { return t.SetFieldPreset(12); }, TableCode::Unknown, false},
+      {"restore payoffs", [](Table& t) { return t.RestoreDefaultPayoffs(); }, TableCode::Done, true},
+      {"payoff cell", [](Table& t) { return t.EditPayoffCell(PayoffTable::Bets, bet::Place(6), 0, Currency(8)); },
+       TableCode::Done, true},
+      {"payoff form key that changes nothing",
+       [](Table& t) { return t.EditPayoffCell(PayoffTable::Bets, bet::Place(6), 1, 't'); }, TableCode::Refused,
+       false},
+      {"tray stack", [](Table& t) { return t.SetTrayStack(8, 3); }, TableCode::Done, false},
+      {"tray stack on a check", [](Table& t) { return t.SetTrayStack(5, 3); }, TableCode::Unknown, false},
       {"atm", [](Table& t) { return t.Atm(kAtmWithdraw, 100); }, TableCode::Done, true},
       {"atm beyond the bankroll",
        [](Table& t) {
@@ -99,6 +109,21 @@ TEST(Table, CommandsAnswerAndMarkTheGameUnsaved) {
   }
   Fresh f;
   EXPECT_EQ(f.table.Bet(bet::kCome, 5).text, refusal::ComeNoPoint());
+}
+
+// The configuration screen closes only on a clean check; a fault names where
+// the screen must take the player.
+TEST(Table, TheClosingCheckNamesTheFaultsPlace) {
+  Fresh f;
+  EXPECT_TRUE(f.table.ValidateConfiguration().ok);
+  for (int n = 1; n <= 5; ++n) f.table.SetChip(n, std::array<int, 5>{1, 5, 4, 100, 500}[n - 1]);
+  const ConfigCheck check = f.table.ValidateConfiguration();
+  EXPECT_FALSE(check.ok);
+  EXPECT_EQ(check.tab, "Checks/Dice");
+  EXPECT_EQ(check.control, "txtDenomination");
+  EXPECT_EQ(check.controlIndex, 2);
+  f.table.SetTrayStack(10, 99);
+  EXPECT_EQ(f.table.State().TrayStack[4], bet::kFirstStack + 99);
 }
 
 TEST(Table, BadSettingsAreAnsweredWithNothingChanged) {
