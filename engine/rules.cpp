@@ -90,7 +90,9 @@ ConfigCheck ValidateConfiguration(Game& g) {
                  "The maximum bet must be greater than" + kBr + "or equal to the minimum bet.", "Bets",
                  "txtMaxPlacardBet");
   // The sim roll rate belongs here, before the payoffs, once that setting exists.
-  if (!ValidatePayoffs(g)) return ConfigCheck{false, "Payoffs", "", -1};
+  // The grid of bets and the Field's grid beside it: the row is the one to show.
+  if (PayoffFault fault; !ValidatePayoffs(g, &fault))
+    return ConfigCheck{false, "Payoffs", fault.table == PayoffTable::Bets ? "picPayoffs" : "picFieldPayoffs", fault.row};
   return {};
 }
 

@@ -23,7 +23,9 @@ struct ConfigCheck {
   bool ok = true;
   std::string tab;        // "Checks/Dice", "Bets" or "Payoffs"
   std::string control;    // "txtDenomination", "txtMinPlacardBet", ...; may be empty
-  int controlIndex = -1;  // the element of a control array (txtDenomination 0..4)
+  // The element of a control array (txtDenomination 0..4), or the row of a
+  // payoff grid (picPayoffs 1..75, picFieldPayoffs 1..21).
+  int controlIndex = -1;
   // Callers that only want pass or fail read it as a bool.
   operator bool() const { return ok; }
 };

@@ -122,6 +122,12 @@ TEST(Table, TheClosingCheckNamesTheFaultsPlace) {
   EXPECT_EQ(check.tab, "Checks/Dice");
   EXPECT_EQ(check.control, "txtDenomination");
   EXPECT_EQ(check.controlIndex, 2);
+  f.table.SetChips({1, 5, 25, 100, 500});
+  f.table.EditPayoffCell(PayoffTable::Bets, bet::Place(6), 0, Currency(0));
+  const ConfigCheck payoff = f.table.ValidateConfiguration();
+  EXPECT_EQ(payoff.tab, "Payoffs");
+  EXPECT_EQ(payoff.control, "picPayoffs");
+  EXPECT_GT(payoff.controlIndex, 0);
   f.table.SetTrayStack(10, 99);
   EXPECT_EQ(f.table.State().TrayStack[4], bet::kFirstStack + 99);
 }

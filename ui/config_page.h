@@ -25,4 +25,8 @@ class ConfigPage : public QWidget {
   // Called before the window closes: commits an edit still in progress, so
   // the closing check sees what the player typed.
   virtual void CommitPendingEdit() {}
+  // Takes the player to the control the closing check found at fault: by
+  // default the child named `control` (with `index` appended for a control
+  // array), focused and its text selected. A grid page shows the row.
+  virtual void SelectFault(const QString& control, int index);
 };
