@@ -37,7 +37,7 @@ const QString kAppName = QStringLiteral("Dicemill");
 // Screens that later versions of the window open; their items stay disabled
 // until then rather than doing nothing when chosen.
 constexpr std::array kScreensToCome = {
-    MenuCommand::Configure,
+    MenuCommand::Configure,   MenuCommand::GamesLogFile,
     MenuCommand::AutoBet,     MenuCommand::GamesLog,    MenuCommand::Summary,
     MenuCommand::RollTotals,  MenuCommand::RollFrequencies, MenuCommand::BetResults, MenuCommand::BetTrends,
     MenuCommand::ChipStacks,  MenuCommand::Flags,

@@ -25,6 +25,7 @@ constexpr std::array kItems = {
     MenuItemEntry{"mnuGame", ShowPath, "Show &Path", "mnuShowPath", "", false, kAny},
     MenuItemEntry{"mnuGame", HotKeys, "&Hot-Keys ...", "mnuHotKeys", "", false, kIdle},
     MenuItemEntry{"mnuGame", Configure, "&Configure ...", "mnuConfigure", "", false, kIdle},
+    MenuItemEntry{"mnuGame", GamesLogFile, "Games &Log File ...", "mnuGamesLogFile", "", false, kIdle},
     MenuItemEntry{"mnuGame", Exit, "E&xit", "mnuExit", "Ctrl+Shift+Q", false, kAny},
     MenuItemEntry{"mnuAction", RollDice, "&Roll the Dice  (Right mouse button)", "mnuRollDice", "Space", false, kIdle},
     MenuItemEntry{"mnuAction", AutoRoll, "S&tart Auto-Roll", "mnuAutoRoll", "", false, kAny},

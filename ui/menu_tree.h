@@ -5,7 +5,7 @@
 #include <span>
 
 enum class MenuCommand {
-  New, Open, Save, SaveAs, ShowPath, HotKeys, Configure, Exit,
+  New, Open, Save, SaveAs, ShowPath, HotKeys, Configure, GamesLogFile, Exit,
   RollDice, AutoRoll, DiceRollFiles, AutoPlay, AutoBet, BuyTool, CallOnTool, CallAllOn, CallOffTool, CallAllOff,
   RemoveTool, RemoveAll, KeyIn, BetsAsNumbers, RollYourOwn, HopBets,
   GamesLog, Summary, Bankroll, RollTotals, RollFrequencies, BetResults, BetTrends, ChipStacks, Flags,
