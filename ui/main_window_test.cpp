@@ -64,7 +64,8 @@ struct Desk {
 TEST(MainWindow, EveryMenuItemHasItsExactCaption) {
   Desk d;
   const std::vector<std::pair<const char*, std::vector<const char*>>> tree = {
-      {"&Game", {"&New", "&Open ...", "&Save", "Sa&ve As ...", "Show &Path", "&Hot-Keys ...", "&Configure ...", "E&xit"}},
+      {"&Game", {"&New", "&Open ...", "&Save", "Sa&ve As ...", "Show &Path", "&Hot-Keys ...", "&Configure ...", "Games &Log File ...",
+        "E&xit"}},
       {"&Action",
        {"&Roll the Dice  (Right mouse button)", "S&tart Auto-Roll", "&Dice Roll Files ...", "Auto-&Play ...",
         "Auto-&Bet ...", "\"B&uy\" Place Bet", "Call bet \"O&N\"", "Call &all bets \"ON\"", "Call bet \"O&FF\"",
