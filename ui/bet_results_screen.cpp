@@ -159,8 +159,14 @@ std::vector<int> BetResultsScreen::SelectedBets() const {
 void BetResultsScreen::SelectBets(const std::vector<int>& betIds) {
   const QSignalBlocker quiet(bets_);
   bets_->clearSelection();
-  for (int id : betIds)
-    if (bet::IsTableBet(id)) bets_->item(id - bet::kFirstTableBet)->setSelected(true);
+  QListWidgetItem* first = nullptr;
+  for (int id : betIds) {
+    if (!bet::IsTableBet(id)) continue;
+    QListWidgetItem* item = bets_->item(id - bet::kFirstTableBet);
+    item->setSelected(true);
+    if (!first) first = item;
+  }
+  if (first) bets_->scrollToItem(first, QAbstractItemView::PositionAtTop);
   RefreshIfIdle();
 }
 

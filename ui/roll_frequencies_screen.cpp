@@ -22,6 +22,8 @@ const char* const kColumnTitles[kColumns] = {"Selection", "Rolls",       "Since 
                                              "Probable %", "Difference", "Avg. rolls to achieve"};
 
 QString Count(int64_t n) { return QString::fromStdString(FormatWithCommas(n)); }
+// Signed both ways, so that above and below the odds read apart.
+QString Difference(double points) { return (points > 0 ? QStringLiteral("+") : QString()) + PercentText(points); }
 QString Average(double rolls) { return QString::fromStdString(FormatTwoDecimals(rolls)); }
 
 QLabel* Figure(QWidget* parent, const char* name) {
@@ -40,7 +42,7 @@ QStringList Cells(const FrequencySelection& s, const SelectionFrequency& f) {
           Count(f.RollsSinceLast),
           PercentText(f.ActualPercent),
           PercentText(f.ProbablePercent),
-          PercentText(f.ActualPercent - f.ProbablePercent),
+          Difference(f.ActualPercent - f.ProbablePercent),
           Average(f.AverageRollsToAchieve)};
 }
 
@@ -97,6 +99,8 @@ RollFrequenciesScreen::RollFrequenciesScreen(Table& table, Dialogs& dialogs, QWi
   all_->setSelectionBehavior(QAbstractItemView::SelectRows);
   all_->setSelectionMode(QAbstractItemView::SingleSelection);
   all_->setAlternatingRowColors(true);
+  all_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  all_->horizontalHeader()->setSectionResizeMode(kSelection, QHeaderView::ResizeToContents);
   all_->verticalHeader()->setDefaultSectionSize(all_->fontMetrics().height() + 6);
   for (int r = 0; r < kFrequencySelections; ++r)
     for (int c = 0; c < kColumns; ++c) {
@@ -157,7 +161,6 @@ void RollFrequenciesScreen::Refresh() {
     all_->item(row, kDifference)->setForeground(colour.isValid() ? QBrush(colour) : QBrush());
     ++row;
   }
-  all_->resizeColumnsToContents();
   ShowSelection();
 }
 

@@ -46,8 +46,15 @@ double RollTotalsBars::ProbableCount(const TotalsRow& row) const {
 int RollTotalsBars::RowHeight() const { return fontMetrics().height() + kRowGap; }
 int RollTotalsBars::HeaderHeight() const { return 2 * fontMetrics().height() + kRowGap * 2; }
 
+QFont RollTotalsBars::HeaderFont() const {
+  QFont bold = font();
+  bold.setBold(true);
+  return bold;
+}
+
 RollTotalsBars::Columns RollTotalsBars::Layout() const {
-  const QFontMetrics m = fontMetrics();
+  // The bold titles are the widest entries of their columns.
+  const QFontMetrics m(HeaderFont());
   auto wide = [&](std::initializer_list<QString> texts) {
     int w = 0;
     for (const QString& t : texts) w = std::max(w, m.horizontalAdvance(t));
@@ -63,11 +70,17 @@ RollTotalsBars::Columns RollTotalsBars::Layout() const {
   c.actual = wide({QStringLiteral("Actual %"), QStringLiteral("100.00%")});
   c.prob = wide({QStringLiteral("Prob %"), QStringLiteral("100.00%")});
   c.width = c.label + c.bar + c.rolls + c.since + c.actual + c.prob;
+  // The bars take whatever room the window gives beyond that.
+  if (width() > c.width) {
+    c.bar += width() - c.width;
+    c.width = width();
+  }
   return c;
 }
 
 QSize RollTotalsBars::sizeHint() const {
-  return {Layout().width, HeaderHeight() + static_cast<int>(rows_.size()) * RowHeight() + kPad};
+  const Columns c = Layout();
+  return {c.width - c.bar + kBarWidth + 2 * kPad, HeaderHeight() + static_cast<int>(rows_.size()) * RowHeight() + kPad};
 }
 
 QSize RollTotalsBars::minimumSizeHint() const { return sizeHint(); }
@@ -87,9 +100,7 @@ void RollTotalsBars::PaintHeader(QPainter& p, const Columns& c) const {
   const int line = fontMetrics().height();
   const QColor ink = InkOn(background_);
   p.setPen(ink);
-  QFont bold = font();
-  bold.setBold(true);
-  p.setFont(bold);
+  p.setFont(HeaderFont());
   int x = c.label;
   auto cell = [&](int width, int row, const QString& text, Qt::Alignment align = Qt::AlignRight) {
     p.drawText(QRect(x + kPad, kRowGap + row * line, width - 2 * kPad, line), align | Qt::AlignVCenter, text);
@@ -128,12 +139,12 @@ void RollTotalsBars::PaintRow(QPainter& p, const Columns& c, size_t index, doubl
   };
   cell(c.label, QString::fromStdString(r.Label), Qt::AlignLeft);
   if (scale > 0) {
-    const double across = kBarWidth / scale;
+    const double across = (c.bar - 2 * kPad) / scale;
     const QRectF bar(x + kPad, y + 3, across * static_cast<double>(r.Rolls), h - 6);
     p.fillRect(bar, bar_);
     const double mark = x + kPad + across * ProbableCount(r);
     p.setPen(QPen(ink, 2));
-    p.drawLine(QPointF(mark, y + 1), QPointF(mark, y + h - 1));
+    p.drawLine(QPointF(mark, y + 1), QPointF(mark, y + h - 2));
     p.setPen(ink);
   }
   x += c.bar;

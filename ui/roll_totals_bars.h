@@ -36,6 +36,7 @@ class RollTotalsBars : public QWidget {
     int label, bar, rolls, since, actual, prob, width;
   };
   Columns Layout() const;
+  QFont HeaderFont() const;
   int RowHeight() const;
   int HeaderHeight() const;
   void PaintHeader(QPainter& p, const Columns& c) const;

@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSettings>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -31,11 +32,17 @@ using Pair = std::pair<int, int>;
 // A come-out seven, the point of 4 set and then made.
 const std::vector<Pair> kPassThenPoint = {{3, 4}, {2, 2}, {2, 2}};
 
+// A table with settings of its own: the screens keep the player's choices,
+// and tests run side by side in separate processes.
 struct Desk {
+  QTemporaryDir settings;
   SilentFrontEnd frontEnd;
   Table table{frontEnd};
   QueuedDialogs dialogs;
-  Desk() { table.StartFresh(); }
+  Desk() {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    table.StartFresh();
+  }
   void Roll(const std::vector<Pair>& rolls) {
     for (auto [d1, d2] : rolls) table.PadRoll(d1, d2);
   }

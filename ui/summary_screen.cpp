@@ -23,6 +23,8 @@ constexpr const char* kSecondColumn = "Hands:";
 constexpr int kIndent = 14;
 
 bool IsHeading(const SummaryRow& row) { return row.Value.empty(); }
+// "# that Passed ..." and "# that Missed ..." break down the count above them.
+bool IsFollower(const SummaryRow& row) { return row.Label.rfind("# that ", 0) == 0; }
 bool IsNet(const SummaryRow& row) { return !row.Share.empty(); }
 
 QString Text(const std::string& s) { return QString::fromStdString(s); }
@@ -50,7 +52,6 @@ void SummaryScreen::Build() {
   QVBoxLayout* column = nullptr;
   QGridLayout* grid = nullptr;
   int line = 0;
-  bool indent = false;
   for (const SummaryRow& row : rows_) {
     const bool heading = IsHeading(row);
     if (!column || row.Label == kSecondColumn) {
@@ -64,7 +65,6 @@ void SummaryScreen::Build() {
       grid->setHorizontalSpacing(16);
       column->addWidget(box);
       line = 0;
-      indent = !heading;  // a leader's followers stand under it
       if (heading) {
         // The heading is the box's title; keep the row's slots in step.
         captions_.push_back(nullptr);
@@ -76,7 +76,7 @@ void SummaryScreen::Build() {
     auto* value = new QLabel(this);
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    if (indent && line > 0) caption->setIndent(kIndent);
+    if (IsFollower(row)) caption->setIndent(kIndent);
     if (IsNet(row)) {
       QFont bold = caption->font();
       bold.setBold(true);
@@ -123,8 +123,9 @@ ReportTable SummaryScreen::Report() const {
   for (const SummaryRow& row : rows_) {
     const QColor colour = IsNet(row) ? SignColour(NetSign(row)) : QColor();
     if (kGroupLeaders.count(row.Label)) underHeading = false;
-    // Rows under a heading stand indented, as on the screen.
-    const QString label = underHeading ? QStringLiteral("   ") + Text(row.Label) : Text(row.Label);
+    // Rows under a heading, and the break-downs, stand indented.
+    const bool indented = !IsHeading(row) && (underHeading || IsFollower(row));
+    const QString label = indented ? QStringLiteral("   ") + Text(row.Label) : Text(row.Label);
     if (IsHeading(row)) underHeading = true;
     report.rows.push_back({{label, {}}, {Text(row.Value), colour}, {Text(row.Share), colour}});
   }
