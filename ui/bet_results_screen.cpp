@@ -179,8 +179,15 @@ void BetResultsScreen::SelectAll() {
 void BetResultsScreen::Refresh() {
   const Game& g = table_.State();
   // The names follow the game: a game opened from a file may word them its own way.
-  for (int row = 0; row < bets_->count(); ++row)
-    bets_->item(row)->setText(Text(g.BetName[static_cast<size_t>(row + bet::kFirstTableBet)]));
+  // Bets the player actually made stand out in bold, to be found among the 83.
+  for (int row = 0; row < bets_->count(); ++row) {
+    const auto id = static_cast<size_t>(row + bet::kFirstTableBet);
+    QListWidgetItem* item = bets_->item(row);
+    item->setText(Text(g.BetName[id]));
+    QFont font = bets_->font();
+    font.setBold(g.BetWagers[results::kActual][id][results::kCount] > 0);
+    item->setFont(font);
+  }
   view_ = CombinedBetResults(g, SelectedBets(), kind_);
   current_->setText(Text(Dollars(view_.CurrentWagered)));
   lastRoll_->setText(Text(Dollars(view_.WageredLastRoll)));

@@ -263,6 +263,9 @@ TEST(BetResultsScreen, ActualAndPhantomResultsOfTheSelectedBets) {
   }
   screen->SetKind(results::kActual);
   screen->SelectBets({bet::Place(6)});
+  const auto* list = screen->findChild<QListWidget*>("lstBets");
+  EXPECT_TRUE(list->item(bet::Place(6) - 1)->font().bold());  // the one bet made
+  EXPECT_FALSE(list->item(bet::kField - 1)->font().bold());
   EXPECT_EQ(Figure(grid, kTotalAmount, kWagers), "6");
   EXPECT_EQ(grid->item(kTotalAmount, kNet)->foreground().color(), kGainColour);
   EXPECT_EQ(screen->findChild<QLabel*>("lblCurrentWagered")->text(), "$6");
