@@ -101,6 +101,7 @@ RollFrequenciesScreen::RollFrequenciesScreen(Table& table, Dialogs& dialogs, QWi
   all_->setAlternatingRowColors(true);
   all_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   all_->horizontalHeader()->setSectionResizeMode(kSelection, QHeaderView::ResizeToContents);
+  all_->horizontalHeader()->setSectionResizeMode(kAverage, QHeaderView::ResizeToContents);
   all_->verticalHeader()->setDefaultSectionSize(all_->fontMetrics().height() + 6);
   for (int r = 0; r < kFrequencySelections; ++r)
     for (int c = 0; c < kColumns; ++c) {
