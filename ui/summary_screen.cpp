@@ -76,6 +76,8 @@ void SummaryScreen::Build() {
     auto* value = new QLabel(this);
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // Room for a large figure from the start, so the window keeps its size as they grow.
+    value->setMinimumWidth(value->fontMetrics().horizontalAdvance(QStringLiteral("$99,999,999")));
     if (IsFollower(row)) caption->setIndent(kIndent);
     if (IsNet(row)) {
       QFont bold = caption->font();
