@@ -9,7 +9,8 @@ execute_process(COMMAND ${PROGRAM} --screenshot ${WORK}/png RESULT_VARIABLE rc E
 if(NOT rc EQUAL 0)
   message(FATAL_ERROR "dicemill --screenshot failed (${rc}):\n${err}")
 endif()
-set(expected auto-play hot-keys dice-roll-files bankroll-graph bankroll-graph-running main-window table-empty table-busy table-busy-small table-hop-bets pad message notice-winner notice-lost prompt-number about help)
+set(expected auto-play hot-keys dice-roll-files bankroll-graph bankroll-graph-running main-window table-empty table-busy table-busy-small table-hop-bets pad message notice-winner notice-lost prompt-number about help
+    summary roll-totals roll-frequencies bet-results)
 foreach(name ${expected})
   set(png ${WORK}/png/${name}.png)
   if(NOT EXISTS ${png})

@@ -38,8 +38,7 @@ const QString kAppName = QStringLiteral("Dicemill");
 // until then rather than doing nothing when chosen.
 constexpr std::array kScreensToCome = {
     MenuCommand::Configure,   MenuCommand::GamesLogFile,
-    MenuCommand::AutoBet,     MenuCommand::GamesLog,    MenuCommand::Summary,
-    MenuCommand::RollTotals,  MenuCommand::RollFrequencies, MenuCommand::BetResults, MenuCommand::BetTrends,
+    MenuCommand::AutoBet,     MenuCommand::GamesLog,    MenuCommand::BetTrends,
     MenuCommand::ChipStacks,  MenuCommand::Flags,
 };
 
@@ -166,7 +165,9 @@ void MainWindow::Perform(MenuCommand command) {
     case Contents: OpenHelp(false); break;
     case Search: OpenHelp(true); break;
     case About: AboutDialog(QApplication::applicationVersion(), this).exec(); break;
-    default: break;  // the screens to come: their items are disabled
+    default:
+      OpenStatistics(command);  // the screens to come have their items disabled
+      break;
   }
 }
 

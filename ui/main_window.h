@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QMainWindow>
 #include <QPointer>
+#include <map>
 #include <QTimer>
 #include <vector>
 
@@ -21,6 +22,7 @@ class DiceRollFilesScreen;
 class HotKeysScreen;
 class BankrollGraphScreen;
 class HelpWindow;
+class StatisticsScreen;
 class RollPad;
 struct HelpShortcut;
 class Dialogs;
@@ -52,6 +54,9 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   RollPad* Pad() const;
   AutoPlayScreen* AutoPlay() const;
   HotKeysScreen* HotKeys() const;
+  // The statistics screen `command` opened, or nullptr.
+  StatisticsScreen* Statistics(MenuCommand command) const;
+  void OpenStatistics(MenuCommand command);
   DiceRollFilesScreen* RollFiles() const;
   // The keys the window answers, for the help's keyboard page.
   std::vector<HelpShortcut> Shortcuts() const;
@@ -133,6 +138,7 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   QPointer<AutoPlayScreen> autoPlay_;
   QPointer<HotKeysScreen> hotKeys_;
   QPointer<DiceRollFilesScreen> rollFiles_;
+  std::map<MenuCommand, QPointer<StatisticsScreen>> statistics_;
   QHash<int, QAction*> actions_;
   QTimer liveTimer_;           // redraws from the run's snapshot while it runs
   StatusFigures idleFigures_;  // what a run's snapshot does not carry

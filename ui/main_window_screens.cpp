@@ -13,6 +13,8 @@
 #include "ui/hot_keys_screen.h"
 #include "ui/main_window.h"
 #include "ui/roll_pad.h"
+#include "ui/statistics_screen.h"
+#include "ui/statistics_screens.h"
 
 namespace {
 
@@ -118,6 +120,16 @@ void MainWindow::OpenHotKeys() { OpenScreen(hotKeys_); }
 void MainWindow::OpenRollFiles() { OpenScreen(rollFiles_); }
 
 HotKeysScreen* MainWindow::HotKeys() const { return hotKeys_; }
+
+StatisticsScreen* MainWindow::Statistics(MenuCommand command) const {
+  const auto found = statistics_.find(command);
+  return found == statistics_.end() ? nullptr : found->second.data();
+}
+
+void MainWindow::OpenStatistics(MenuCommand command) {
+  if (!IsStatisticsScreen(command)) return;
+  Reveal(statistics_[command], [&] { return MakeStatisticsScreen(command, table_, dialogs_, this); });
+}
 
 DiceRollFilesScreen* MainWindow::RollFiles() const { return rollFiles_; }
 

@@ -26,6 +26,9 @@
 #include "ui/main_window.h"
 #include "ui/picture_dialogs.h"
 #include "ui/roll_pad.h"
+#include "ui/bet_results_screen.h"
+#include "ui/statistics_sample.h"
+#include "ui/statistics_screen.h"
 #include "ui/table_view.h"
 #include "ui/sound_board.h"
 
@@ -173,6 +176,27 @@ bool SaveRunScreens(const QString& folder, const DesktopPaths& paths) {
   return all;
 }
 
+// Every statistics screen over the same few hundred rolls of play.
+bool SaveStatisticsScreens(const QString& folder, const DesktopPaths& paths) {
+  PictureTable t(paths);
+  PlayForStatisticsPictures(t.table);
+  const std::pair<MenuCommand, const char*> screens[] = {
+      {MenuCommand::Summary, "summary"},
+      {MenuCommand::RollTotals, "roll-totals"},
+      {MenuCommand::RollFrequencies, "roll-frequencies"},
+      {MenuCommand::BetResults, "bet-results"},
+  };
+  bool all = true;
+  for (const auto& [command, name] : screens) {
+    t.window->Action(command)->trigger();
+    StatisticsScreen* screen = t.window->Statistics(command);
+    if (auto* results = qobject_cast<BetResultsScreen*>(screen))
+      results->SelectBets({bet::kPassLine, bet::Place(6), bet::Place(8)});
+    all = screen && ::Save(*screen, folder, QString::fromLatin1(name)) && all;
+  }
+  return all;
+}
+
 }  // namespace
 
 int WriteScreenshots(const QString& folder, const DesktopPaths& paths) {
@@ -182,6 +206,7 @@ int WriteScreenshots(const QString& folder, const DesktopPaths& paths) {
   }
   bool all = SaveTables(folder, paths);
   all = SaveRunScreens(folder, paths) && all;
+  all = SaveStatisticsScreens(folder, paths) && all;
   MessageDialog message(SampleMessage());
   all = Save(message, folder, QStringLiteral("message")) && all;
   SettleNoticeDialog winner(SampleWonNotice());
