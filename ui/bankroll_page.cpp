@@ -48,6 +48,7 @@ BankrollPage::BankrollPage(Table& table, Dialogs& dialogs, QWidget* parent)
   auto* columns = new QHBoxLayout(this);
   auto* left = new QVBoxLayout;
   left->addWidget(BuildNewGame());
+  left->addWidget(BuildLimits());
   left->addStretch();
   auto* right = new QVBoxLayout;
   right->addWidget(BuildAtm());
@@ -60,7 +61,7 @@ BankrollPage::BankrollPage(Table& table, Dialogs& dialogs, QWidget* parent)
 
 QWidget* BankrollPage::BuildNewGame() {
   auto* box = new QGroupBox(tr("Each new game"), this);
-  auto* grid = new QGridLayout(box);
+  auto* layout = new QVBoxLayout(box);
   initType_ = new QButtonGroup(box);
   const QString captions[] = {tr(" Start bankroll with:"), tr(" Prompt for starting bankroll"),
                               tr(" Carry forward bankroll from previous game"),
@@ -69,18 +70,30 @@ QWidget* BankrollPage::BuildNewGame() {
     auto* option = new QRadioButton(captions[i], box);
     option->setObjectName(QString("optBankrollInitType%1").arg(i));
     initType_->addButton(option, i);
-    grid->addWidget(option, i, 0);
+    if (i > 0) {
+      layout->addWidget(option);
+      continue;
+    }
+    // The amount belongs to the first choice and stands beside it.
+    auto* row = new QHBoxLayout;
+    row->addWidget(option);
+    initAmount_ = AmountBox("txtBankrollInitAmount", box);
+    row->addWidget(initAmount_);
+    row->addStretch();
+    layout->addLayout(row);
   }
   connect(initType_, &QButtonGroup::idClicked, this, [this](int id) {
     table_.Set("BankrollInitType", id);
     Refresh();
   });
-  initAmount_ = AmountBox("txtBankrollInitAmount", box);
-  grid->addWidget(initAmount_, 0, 1, Qt::AlignLeft);
   connect(initAmount_, &QLineEdit::editingFinished, this,
           [this] { CommitAmount(initAmount_, "BankrollInitAmount", "Set Beginning Bankroll"); });
-  grid->setColumnStretch(1, 1);
+  return box;
+}
 
+QWidget* BankrollPage::BuildLimits() {
+  auto* box = new QGroupBox(tr("Below zero"), this);
+  auto* layout = new QVBoxLayout(box);
   allowNegative_ = new QCheckBox(tr("Allow negative bankroll amounts"), box);
   allowNegative_->setObjectName("chkAllowNegBankroll");
   // The table may refuse, with its own message; Refresh then puts the box back.
@@ -88,8 +101,13 @@ QWidget* BankrollPage::BuildNewGame() {
     table_.Set("AllowNegativeBankroll", on ? 1 : 0);
     Refresh();
   });
-  grid->setRowMinimumHeight(4, 12);
-  grid->addWidget(allowNegative_, 5, 0, 1, 2);
+  layout->addWidget(allowNegative_);
+  auto* note = new QLabel(tr("Unchecked, the bankroll may not drop below zero nor below the bets on the table: "
+                             "a deposit into the ATM is cut to what they leave."),
+                          box);
+  note->setWordWrap(true);
+  note->setStyleSheet("color: #555");
+  layout->addWidget(note);
   return box;
 }
 
@@ -120,7 +138,6 @@ QWidget* BankrollPage::BuildAtm() {
 QWidget* BankrollPage::BuildStanding() {
   auto* box = new QGroupBox(tr("This game"), this);
   auto* form = new QFormLayout(box);
-  form->setLabelAlignment(Qt::AlignRight);
   invested_ = new QLabel(box);
   invested_->setObjectName("lblInvestedBankroll");
   current_ = new QLabel(box);
@@ -129,10 +146,13 @@ QWidget* BankrollPage::BuildStanding() {
   wonLost_->setObjectName("lblWonLost");
   net_ = new QLabel(box);
   net_->setObjectName("lblNet");
-  for (QLabel* amount : {invested_, current_, net_}) amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  onTable_ = new QLabel(box);
+  onTable_->setObjectName("lblTotalOnTable");
+  for (QLabel* amount : {invested_, current_, net_, onTable_}) amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   form->addRow(tr("Amount Invested:"), invested_);
   form->addRow(tr("Current Bankroll:"), current_);
   form->addRow(wonLost_, net_);
+  form->addRow(tr("Bets on the table:"), onTable_);
   return box;
 }
 
@@ -153,6 +173,7 @@ void BankrollPage::Refresh() {
   const Currency net = NetResult(g);
   wonLost_->setText(net > 0 ? tr("Won:") : net < 0 ? tr("Lost:") : tr("Won/Lost:"));
   ShowMoney(net_, net);
+  onTable_->setText(Text(MoneyText(g.TotalOnTable)));
 }
 
 void BankrollPage::CommitPendingEdit() {

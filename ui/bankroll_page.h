@@ -22,6 +22,7 @@ class BankrollPage : public ConfigPage {
 
  private:
   QWidget* BuildNewGame();
+  QWidget* BuildLimits();
   QWidget* BuildAtm();
   QWidget* BuildStanding();
   // An amount box's text into a setting; a refused amount snaps back.
@@ -38,6 +39,7 @@ class BankrollPage : public ConfigPage {
   QLabel* current_ = nullptr;
   QLabel* wonLost_ = nullptr;
   QLabel* net_ = nullptr;
+  QLabel* onTable_ = nullptr;
 };
 
 // A table whose ATM and bets give the tab something to show: money brought,

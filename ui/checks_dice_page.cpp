@@ -22,6 +22,7 @@
 #include "engine/notices.h"
 #include "sim/table.h"
 #include "ui/chip_painter.h"
+#include "ui/die_painter.h"
 #include "ui/dialogs.h"
 
 namespace {
@@ -50,6 +51,20 @@ class ChipSwatch : public QWidget {
 
  private:
   Currency value_;
+};
+
+// A pair of dice as the table throws them.
+class DiceSample : public QWidget {
+ public:
+  explicit DiceSample(QWidget* parent) : QWidget(parent) { setFixedSize(96, 48); }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    PaintDie(p, QRectF(4, 4, 40, 40), 5);
+    PaintDie(p, QRectF(52, 4, 40, 40), 2);
+  }
 };
 
 int32_t UpperSeedLimit(const Game& g) {
@@ -138,8 +153,12 @@ QWidget* ChecksDicePage::BuildGenerator() {
 
   auto* seed = new QPushButton(tr("Seed RNG now"), box);
   seed->setObjectName("cmdSeedRNG");
+  seed->setMinimumWidth(150);
   connect(seed, &QPushButton::clicked, this, &ChecksDicePage::SeedNow);
-  form->addRow(QString(), seed);
+  auto* seedRow = new QHBoxLayout;
+  seedRow->addWidget(seed);
+  seedRow->addStretch();
+  form->addRow(QString(), seedRow);
   return box;
 }
 
@@ -156,6 +175,7 @@ QWidget* ChecksDicePage::BuildLooks() {
   diceStyle_->addItems(DiceStyleNames());
   connect(diceStyle_, &QComboBox::activated, this, [this](int index) { SetAndRefresh("DiceStyle", index); });
   form->addRow(tr("Dice style:"), diceStyle_);
+  form->addRow(QString(), new DiceSample(box));
   return box;
 }
 
