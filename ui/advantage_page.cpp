@@ -86,6 +86,8 @@ AdvantagePage::AdvantagePage(Table& table, Dialogs& dialogs, QWidget* parent)
   keepScroll_->setInterval(kScrollSettleMs);
   connect(keepScroll_, &QTimer::timeout, this, &AdvantagePage::CommitPendingEdit);
   connect(grid_->verticalScrollBar(), &QScrollBar::valueChanged, keepScroll_, qOverload<>(&QTimer::start));
+  // The kept place can be shown only once the rows are laid out and the bar has its range.
+  connect(grid_->verticalScrollBar(), &QScrollBar::rangeChanged, this, &AdvantagePage::ShowKeptPlace);
 
   BuildMenu();
   Refresh();
@@ -123,11 +125,14 @@ void AdvantagePage::Refresh() {
   grid_->setColumnHidden(kMinutesDec, !g.ShowMiscData);
   zeroOutcomes_->setChecked(g.IncludeZeroOutcomes);
   miscData_->setChecked(g.ShowMiscData);
-  // While the player scrolls, the place is theirs; the table has it soon after.
-  if (!keepScroll_->isActive()) {
-    const QSignalBlocker quiet(grid_->verticalScrollBar());
-    grid_->verticalScrollBar()->setValue(g.AdvantageScrollTop);
-  }
+  ShowKeptPlace();
+}
+
+// While the player scrolls, the place is theirs; the table has it soon after.
+void AdvantagePage::ShowKeptPlace() {
+  if (keepScroll_->isActive() || table_.Busy()) return;
+  const QSignalBlocker quiet(grid_->verticalScrollBar());
+  grid_->verticalScrollBar()->setValue(table_.State().AdvantageScrollTop);
 }
 
 void AdvantagePage::CommitPendingEdit() {

@@ -28,6 +28,7 @@ class AdvantagePage : public ConfigPage {
 
  private:
   void BuildMenu();
+  void ShowKeptPlace();
   void Toggle(const char* setting, bool on);
   void Print();
   void ExportCsv();

@@ -1,6 +1,7 @@
 #include "ui/advantage_page.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QFile>
 #include <QMenu>
 #include <QScrollBar>
@@ -100,7 +101,7 @@ TEST(AdvantagePage, ScrollPlaceIsKeptWithTheGame) {
   AdvantagePage again(desk.table, desk.dialogs);
   again.resize(760, 520);
   again.show();
-  again.Refresh();
+  QApplication::processEvents();
   EXPECT_EQ(Control<QScrollBar>(again, "vsbAdvantage")->value(), 20);
 }
 

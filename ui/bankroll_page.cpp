@@ -181,8 +181,8 @@ void BankrollPage::CommitPendingEdit() {
   if (atmAmount_->isModified()) CommitAmount(atmAmount_, "AtmAmount", "ATM");
 }
 
-void BankrollPage::CommitAmount(QLineEdit* edit, const char* setting, const char* title) {
-  if (!edit->isModified()) return;
+bool BankrollPage::CommitAmount(QLineEdit* edit, const char* setting, const char* title) {
+  if (!edit->isModified()) return true;
   edit->setModified(false);
   Currency value;
   const SettingRow* row = FindSettingRow(setting);
@@ -191,12 +191,15 @@ void BankrollPage::CommitAmount(QLineEdit* edit, const char* setting, const char
     const std::string range = "Please enter an amount from " + FormatNumberWithCommas(row->least) + " to " +
                               FormatNumberWithCommas(row->most) + ".";
     dialogs_.Message({title, range, Buttons::Ok, false});
+    Refresh();
+    return false;
   }
   Refresh();
+  return true;
 }
 
 void BankrollPage::UseAtm(int action) {
-  CommitPendingEdit();  // the amount as last typed
+  if (!CommitAmount(atmAmount_, "AtmAmount", "ATM")) return;  // the amount as last typed, or nothing
   // A cut is told by the table itself while the Configure window is open.
   table_.Atm(static_cast<AtmAction>(action), table_.State().AtmAmount);
   Refresh();

@@ -25,8 +25,8 @@ class BankrollPage : public ConfigPage {
   QWidget* BuildLimits();
   QWidget* BuildAtm();
   QWidget* BuildStanding();
-  // An amount box's text into a setting; a refused amount snaps back.
-  void CommitAmount(QLineEdit* edit, const char* setting, const char* title);
+  // An amount box's text into a setting; a refused amount snaps back (false).
+  bool CommitAmount(QLineEdit* edit, const char* setting, const char* title);
   void UseAtm(int action);
 
   Table& table_;

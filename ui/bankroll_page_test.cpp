@@ -37,6 +37,19 @@ TEST(BankrollPage, DepositIsCutToWhatTheBetsLeave) {
   EXPECT_EQ(Shown(page, "lblCurrentBankroll"), "$60");
 }
 
+TEST(BankrollPage, AnAtmAmountRefusedMovesNothing) {
+  ScreenDesk desk;
+  BankrollPage page(desk.table, desk.dialogs);
+  const Currency bankroll = desk.table.State().Bankroll();
+  Control<QLineEdit>(page, "txtAddSub")->setText("lots");
+  Control<QLineEdit>(page, "txtAddSub")->setModified(true);
+  Click(page, "cmdAddSub0");
+  EXPECT_EQ(desk.table.State().Bankroll(), bankroll);
+  ASSERT_EQ(desk.dialogs.messages.size(), 1u);
+  EXPECT_EQ(desk.dialogs.messages[0].text, "Please enter an amount from 0 to 9,999,999.");
+  EXPECT_EQ(Control<QLineEdit>(page, "txtAddSub")->text(), "500");
+}
+
 TEST(BankrollPage, UntickingAllowNegativeIsRefusedWhileTheBankrollIsNegative) {
   ScreenDesk desk;
   desk.table.Atm(kAtmDeposit, desk.table.State().Bankroll() + 100);  // bankroll -100

@@ -219,6 +219,8 @@ void ChecksDicePage::CommitCheck(int index) {
     dialogs_.Message({"Check Values", "Check values must be greater than zero.", Buttons::Ok, false});
   } else if (value < kLeastCheck || value > kMostCheck) {
     dialogs_.Message({"Check Values", "Check values run from .01 to 100,000.", Buttons::Ok, false});
+  } else if (value == table_.State().BetAmount[bet::kFirstChip + index]) {
+    // "25.00" over 25 changes nothing, and the game stays saved.
   } else if (const TableResult r = table_.SetChip(index + 1, value); !r.Done()) {
     dialogs_.Message({r.title.empty() ? "Check Values" : r.title, r.text, Buttons::Ok, false});
   }
