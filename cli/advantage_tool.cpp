@@ -11,28 +11,9 @@
 #include "engine/catalogue.h"
 #include "engine/game.h"
 #include "sim/table.h"
-#include "stats/advantage.h"
+#include "stats/advantage_row.h"
 
 namespace {
-
-struct Row {
-  double evPerRoll, stdevPerRoll, evPerDecision, stdevPerDecision, evPerHour, rollsPerDecision, minutesPerDecision;
-};
-
-// A figure as a percentage; the dust of rounding on a fair bet shows as 0.
-double Percent(double fraction) { return std::fabs(fraction) < 1e-12 ? 0 : 100 * fraction; }
-
-Row RowOf(const Game& g, int betId) {
-  const Advantage a = FigureAdvantage(g, betId);
-  const double rate = g.SimRollRate.ToDouble();  // rolls per hour
-  return {Percent(a.EvPerRoll),
-          Percent(std::sqrt(a.VarPerRoll)),
-          Percent(a.EvPerDecision),
-          Percent(std::sqrt(a.VarPerDecision)),
-          Percent(a.EvPerRoll * rate),
-          a.RollsPerDecision,
-          rate > 0 ? a.RollsPerDecision / rate * 60 : 0};
-}
 
 std::string Fixed(double value) {
   char text[32];
@@ -49,7 +30,7 @@ std::string Padded(std::string_view name, size_t width) {
 }  // namespace
 
 Json AdvantageRowJson(const Game& g, int betId) {
-  const Row r = RowOf(g, betId);
+  const AdvantageRow r = AdvantageRowOf(g, betId);
   return {{"id", betId},
           {"bet", std::string(bet::CatalogueName(betId))},
           {"evPerRoll", r.evPerRoll},
@@ -70,7 +51,7 @@ void WriteAdvantageText(const Game& g, bool misc, std::ostream& out) {
   if (misc) out << "  Rolls/Dec    Min/Dec";
   out << "\n";
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) {
-    const Row r = RowOf(g, id);
+    const AdvantageRow r = AdvantageRowOf(g, id);
     char number[8];
     std::snprintf(number, sizeof number, "%2d  ", id);  // the BetId that play's commands take
     out << number << Padded(bet::CatalogueName(id), kNameWidth) << Fixed(r.evPerRoll) << Fixed(r.stdevPerRoll)
