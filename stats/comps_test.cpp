@@ -84,7 +84,8 @@ TEST(Comps, FamiliesCoverEveryTableBet) {
       {bet::kRail, Family::None},
   };
   for (const auto& c : cases) EXPECT_EQ(comps::FamilyOf(c.betId), c.family) << c.betId;
-  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) EXPECT_NE(comps::FamilyOf(id), comps::Family::None) << id;
+  for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id)
+    EXPECT_NE(comps::FamilyOf(id), comps::Family::None) << id;
 }
 
 }  // namespace

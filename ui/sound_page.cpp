@@ -21,31 +21,16 @@ struct KindRow {
   const char* label;
   const char* control;  // object name of the choice; its Play button adds "Play"
   const char* setting;
+  std::vector<std::string> SoundSets::*sets;
+  int32_t Game::*chosen;
 };
-constexpr KindRow kKindRows[] = {
-    {"Stickman:", "cmbStickPersonSound", "StickPersonSound"},
-    {"Dice:", "cmbDiceSound", "DiceSound"},
-    {"Chips:", "cmbChipSound", "ChipSound"},
-    {"Winning bets:", "cmbWinSound", "WinSound"},
+// In the order of SoundPage's kinds.
+const KindRow kKindRows[] = {
+    {"Stickman:", "cmbStickPersonSound", "StickPersonSound", &SoundSets::Stickman, &Game::StickPersonSound},
+    {"Dice:", "cmbDiceSound", "DiceSound", &SoundSets::Dice, &Game::DiceSound},
+    {"Chips:", "cmbChipSound", "ChipSound", &SoundSets::Chips, &Game::ChipSound},
+    {"Winning bets:", "cmbWinSound", "WinSound", &SoundSets::Win, &Game::WinSound},
 };
-
-const std::vector<std::string>& ListOf(const SoundSets& sets, int kind) {
-  switch (kind) {
-    case 0: return sets.Stickman;
-    case 1: return sets.Dice;
-    case 2: return sets.Chips;
-    default: return sets.Win;
-  }
-}
-
-int ChosenIndex(const Game& g, int kind) {
-  switch (kind) {
-    case 0: return g.StickPersonSound;
-    case 1: return g.DiceSound;
-    case 2: return g.ChipSound;
-    default: return g.WinSound;
-  }
-}
 
 }  // namespace
 
@@ -124,11 +109,12 @@ void SoundPage::Refresh() {
     QComboBox* box = sets_[kind];
     const QSignalBlocker quiet(box);
     box->clear();
-    const std::vector<std::string>& names = ListOf(g.Sounds, kind);
+    const KindRow& row = kKindRows[kind];
+    const std::vector<std::string>& names = g.Sounds.*row.sets;
     for (const std::string& name : names) box->addItem(QString::fromStdString(name));
     if (names.empty()) box->addItem(tr("(none in the data folder)"));
     // A choice past the list plays the first set, so the first is shown.
-    const int chosen = ChosenIndex(g, kind);
+    const int chosen = g.*row.chosen;
     box->setCurrentIndex(chosen >= 0 && static_cast<size_t>(chosen) < names.size() ? chosen : 0);
     box->setEnabled(!names.empty());
     plays_[kind]->setEnabled(!names.empty() && !g.DisableAllSound);

@@ -37,7 +37,8 @@ struct SoundDesk {
   Table table{frontEnd};
 
   SoundDesk() {
-    for (const char* name : {"bones.dce", "cubes.dce", "vegas17.stk", "stack.chp", "bells.win", "hoot.wav", "Chips.wav"})
+    for (const char* name :
+         {"bones.dce", "cubes.dce", "vegas17.stk", "stack.chp", "bells.win", "hoot.wav", "Chips.wav"})
       QFile(folder.filePath(QLatin1String(name))).open(QIODevice::WriteOnly);
     frontEnd.SetPauses(false);
     table.StartUp(folder.path().toStdString(), true);
