@@ -36,14 +36,4 @@ TEST(ColorsPage, SchemeReachesTheTableLookAndPrintColoursAreStored) {
   }
 }
 
-TEST(ColorsPage, SchemesAreDistinctAndThePaletteKeepsItsAmountColours) {
-  const auto schemes = TableSchemes();
-  for (size_t a = 0; a < schemes.size(); ++a)
-    for (size_t b = a + 1; b < schemes.size(); ++b) EXPECT_FALSE(schemes[a].colours == schemes[b].colours) << a << b;
-  EXPECT_EQ(PaletteColour(0), QColor(Qt::black));
-  EXPECT_EQ(PaletteColour(9), QColor(Qt::blue));
-  EXPECT_EQ(PaletteColour(12), QColor(Qt::red));
-  EXPECT_EQ(SchemeColours(99), SchemeColours(0));
-}
-
 }  // namespace

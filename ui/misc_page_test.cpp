@@ -77,13 +77,4 @@ TEST(MiscPage, RollRateInEveryUnitAndOutOfLimits) {
   }
 }
 
-TEST(MiscPage, StoredOnlySwitches) {
-  ScreenDesk desk;
-  MiscPage page(desk.table, desk.dialogs);
-  page.findChild<QCheckBox*>(QStringLiteral("chkUseCentsSymbol"))->click();
-  page.findChild<QCheckBox*>(QStringLiteral("chkSnapMouse"))->click();
-  EXPECT_TRUE(desk.table.State().UseCentsSymbol);
-  EXPECT_TRUE(desk.table.State().SnapMouse);
-}
-
 }  // namespace
