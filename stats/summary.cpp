@@ -4,6 +4,7 @@
 
 #include "engine/notices.h"
 #include "stats/bet_results.h"
+#include "stats/comps.h"
 #include "stats/game_measures.h"
 #include "stats/number_formats.h"
 
@@ -37,7 +38,7 @@ std::vector<SummaryRow> ShowSummary(Game& g) {
 
   return {
       {"Total rolls:", Count(int64_t{g.RollCounts[0]}), ""},
-      {"Total comp value:", Money(0), ""},
+      {"Total comp value:", Money(comps::CompValue(g)), ""},
       {"Rolls/hr:", RollsPerHourText(g.SimRollRate), ""},
       {"Sim hrs:", SimHoursText(SimHours(g)), ""},
       {"Bankroll:", "", ""},

@@ -78,9 +78,10 @@ TEST(Summary, FiguresOfAPlayedGame) {
   t.Roll(6, 6);  // the field wins 10
   t.g.HandStats[hand::kHands] = 1;  // as if a hand had ended
   const std::vector<SummaryRow> rows = ShowSummary(t.g);
-  // The second of a label is the money row; the average is (505 + 500 + 505 + 515) / 4.
+  // The second of a label is the money row; the average is (505 + 500 + 505 + 515) / 4;
+  // the comps are 40% of $20 x 1/18 decided on the Field.
   const struct { const char* label; int occurrence; const char* value; } figures[] = {
-      {"Total rolls:", 0, "4"}, {"Total comp value:", 0, "$0"}, {"Rolls/hr:", 0, "100"}, {"Sim hrs:", 0, ".04"},
+      {"Total rolls:", 0, "4"}, {"Total comp value:", 0, "$.44"}, {"Rolls/hr:", 0, "100"}, {"Sim hrs:", 0, ".04"},
       {"High:", 0, "$515"}, {"Low:", 0, "$500"}, {"Current:", 0, "$515"}, {"Average:", 0, "$506.25"},
       {"Bets decided:", 0, "4"}, {"Bets won:", 0, "3"}, {"Bets lost:", 0, "1"}, {"Bets decided:", 1, "$20"},
       {"Bets won:", 1, "$20"}, {"Bets lost:", 1, "$5"}, {"# of Come-out rolls:", 0, "3"},

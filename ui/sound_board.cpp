@@ -25,14 +25,25 @@ void EffectSink::Play(const QString& file, double volume) {
 
 void SoundBoard::UseFolder(const QString& folder) {
   folder_ = folder;
-  const SoundSets sets = ListSoundSets(folder.toStdString());
-  auto first = [&](const std::vector<std::string>& names, const char* extension) {
-    return names.empty() ? QString() : QDir(folder).filePath(QString::fromStdString(names.front()) + extension);
+  sets_ = ListSoundSets(folder.toStdString());
+  PickFiles();
+}
+
+void SoundBoard::Choose(const SoundChoice& choice) {
+  choice_ = choice;
+  PickFiles();
+}
+
+void SoundBoard::PickFiles() {
+  auto pick = [&](const std::vector<std::string>& names, int index, const char* extension) {
+    if (names.empty()) return QString();
+    const size_t at = index >= 0 && static_cast<size_t>(index) < names.size() ? static_cast<size_t>(index) : 0;
+    return QDir(folder_).filePath(QString::fromStdString(names[at]) + QLatin1String(extension));
   };
-  stickman_ = sets.Stickman.empty() ? QString() : QDir(folder).filePath(QString::fromStdString(sets.Stickman.front()));
-  diceFile_ = first(sets.Dice, ".dce");
-  chipsFile_ = first(sets.Chips, ".chp");
-  winFile_ = first(sets.Win, ".win");
+  stickman_ = pick(sets_.Stickman, choice_.stickman, "");
+  diceFile_ = pick(sets_.Dice, choice_.dice, ".dce");
+  chipsFile_ = pick(sets_.Chips, choice_.chips, ".chp");
+  winFile_ = pick(sets_.Win, choice_.win, ".win");
 }
 
 void SoundBoard::PlaySlot(int slot) {
@@ -41,6 +52,7 @@ void SoundBoard::PlaySlot(int slot) {
 }
 
 void SoundBoard::PlayFile(const QString& name) {
+  if (choice_.muteScriptSounds && name.compare(QLatin1String(kTableChipsFile), Qt::CaseInsensitive) != 0) return;
   PlayNamed(QFileInfo(name).isAbsolute() ? name : QDir(folder_).filePath(name));
 }
 

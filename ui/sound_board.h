@@ -7,6 +7,8 @@
 #include <QString>
 #include <memory>
 
+#include "engine/sound_sets.h"
+
 class QSoundEffect;
 
 class SoundSink {
@@ -28,13 +30,29 @@ class EffectSink : public SoundSink {
   QHash<QString, QSoundEffect*> effects_;
 };
 
+// The sets a game chose: indexes of the folder's sorted lists (an index past
+// its list takes the first set, as a game moved to another folder would).
+struct SoundChoice {
+  int stickman = 0, dice = 0, chips = 0, win = 0;
+  // Scripts' "Play sound:" files are silenced; the table's own sounds are not.
+  bool muteScriptSounds = false;
+};
+
+// The stickman's slot the Configure window plays to let a set be heard.
+constexpr int kComeOutSlot = 17;
+// The one named file the table itself plays (the bank broken); any other
+// named file comes from a script.
+constexpr const char* kTableChipsFile = "Chips.wav";
+
 // The sounds of one game's data folder.
 class SoundBoard {
  public:
   explicit SoundBoard(SoundSink& sink) : sink_(sink) {}
 
-  // Reads which sets the folder holds; the first of each kind is used.
+  // Reads which sets the folder holds and plays the ones chosen.
   void UseFolder(const QString& folder);
+  void Choose(const SoundChoice& choice);
+  const SoundChoice& Chosen() const { return choice_; }
   void SetVolume(int percent) { volume_ = percent; }
   int Volume() const { return volume_; }
   // The table's own switch and the window's: a run in Hyper-Drive is silent.
@@ -51,8 +69,11 @@ class SoundBoard {
 
  private:
   void PlayNamed(const QString& path);
+  void PickFiles();
 
   SoundSink& sink_;
+  SoundSets sets_;
+  SoundChoice choice_;
   QString folder_, stickman_, diceFile_, chipsFile_, winFile_;
   int volume_ = 80;
   bool silenced_ = false;

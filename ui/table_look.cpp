@@ -4,6 +4,7 @@
 
 #include "engine/game.h"
 #include "engine/payoffs.h"
+#include "ui/table_schemes.h"
 
 namespace {
 
@@ -66,5 +67,7 @@ TableLook LookOf(const Game& g) {
   look.tool = g.ClickTool;
   look.barNumber = g.BarNumber;
   look.field = FieldOf(g);
+  look.scheme = g.TableScheme;
+  look.colours = SchemeColours(g.TableScheme);
   return look;
 }

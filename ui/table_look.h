@@ -33,6 +33,9 @@ struct TableLook {
   std::array<QString, bet::kLastTableBet + 1> payoffs{};
   bool showHop = false;
   bool betsAsNumbers = false;
+  // The game's table scheme and its colours, which the layout is painted in.
+  int scheme = 0;
+  LayoutColours colours;
 };
 
 // The look of a game's table. The display switches (Hop bets, numbers) are
