@@ -24,6 +24,7 @@
 #include "ui/quick_stats.h"
 #include "ui/roll_pad.h"
 #include "ui/sound_board.h"
+#include "ui/sound_page.h"
 #include "ui/status_panel.h"
 #include "ui/layout_geometry.h"
 #include "ui/table_look.h"
@@ -37,7 +38,7 @@ const QString kAppName = QStringLiteral("Dicemill");
 // Screens that later versions of the window open; their items stay disabled
 // until then rather than doing nothing when chosen.
 constexpr std::array kScreensToCome = {
-    MenuCommand::Configure,   MenuCommand::GamesLogFile,
+    MenuCommand::GamesLogFile,
     MenuCommand::AutoBet,     MenuCommand::GamesLog,    MenuCommand::BetTrends,
     MenuCommand::ChipStacks,  MenuCommand::Flags,
 };
@@ -161,6 +162,7 @@ void MainWindow::Perform(MenuCommand command) {
     case RollYourOwn: OpenPad(); break;
     case AutoPlay: OpenAutoPlay(); break;
     case HotKeys: OpenHotKeys(); break;
+    case Configure: OpenConfigure(); break;
     case DiceRollFiles: OpenRollFiles(); break;
     case Contents: OpenHelp(false); break;
     case Search: OpenHelp(true); break;
@@ -318,6 +320,7 @@ void MainWindow::UpdateStatus() {
   if (table_.Busy()) return;
   const Game& g = table_.State();
   sounds_.SetSilenced(g.DisableAllSound);
+  sounds_.Choose(SoundChoiceOf(g));
   status_->Show(FiguresOf(g));
   if (pad_) pad_->SetRollCount(g.RollCounts[event::kAllRolls]);
   status_->ShowQuickStats(QuickStatsLine(FigureQuickStats(g)));
@@ -327,6 +330,7 @@ void MainWindow::UpdateStatus() {
   if (tool_ == WindowTool::Remove) look.tool = layout::kToolRemove;
   if (g.RollCounts[event::kAllRolls] == 0) look.die1 = look.die2 = 0;
   view_->SetLook(look);
+  view_->SetColours(look.colours);
 }
 
 // --- TableListener -----------------------------------------------------------

@@ -22,6 +22,7 @@ class DiceRollFilesScreen;
 class HotKeysScreen;
 class BankrollGraphScreen;
 class HelpWindow;
+class ConfigureWindow;
 class StatisticsScreen;
 class RollPad;
 struct HelpShortcut;
@@ -54,6 +55,9 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   RollPad* Pad() const;
   AutoPlayScreen* AutoPlay() const;
   HotKeysScreen* HotKeys() const;
+  // The Configure window while it is open, or nullptr.
+  ConfigureWindow* Configure() const;
+  void OpenConfigure();
   // The statistics screen `command` opened, or nullptr.
   StatisticsScreen* Statistics(MenuCommand command) const;
   void OpenStatistics(MenuCommand command);
@@ -138,6 +142,7 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   QPointer<AutoPlayScreen> autoPlay_;
   QPointer<HotKeysScreen> hotKeys_;
   QPointer<DiceRollFilesScreen> rollFiles_;
+  QPointer<ConfigureWindow> configure_;
   std::map<MenuCommand, QPointer<StatisticsScreen>> statistics_;
   QHash<int, QAction*> actions_;
   QTimer liveTimer_;           // redraws from the run's snapshot while it runs

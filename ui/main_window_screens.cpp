@@ -13,6 +13,10 @@
 #include "ui/hot_keys_screen.h"
 #include "ui/main_window.h"
 #include "ui/roll_pad.h"
+#include "ui/config_pages.h"
+#include "ui/configure_window.h"
+#include "ui/sound_page.h"
+#include <QSettings>
 #include "ui/statistics_screen.h"
 #include "ui/statistics_screens.h"
 
@@ -120,6 +124,18 @@ void MainWindow::OpenHotKeys() { OpenScreen(hotKeys_); }
 void MainWindow::OpenRollFiles() { OpenScreen(rollFiles_); }
 
 HotKeysScreen* MainWindow::HotKeys() const { return hotKeys_; }
+
+ConfigureWindow* MainWindow::Configure() const { return configure_; }
+
+void MainWindow::OpenConfigure() {
+  if (configure_) return;
+  configure_ = new ConfigureWindow(table_, MakeConfigPages(table_, dialogs_, sounds_), this);
+  configure_->setAttribute(Qt::WA_DeleteOnClose);
+  if (auto* sound = configure_->findChild<SoundPage*>())
+    connect(sound, &SoundPage::VolumeChanged, this, [](int percent) { QSettings().setValue("sound/volume", percent); });
+  // Modal over the table, without a loop of its own: tests drive it as the player would.
+  configure_->open();
+}
 
 StatisticsScreen* MainWindow::Statistics(MenuCommand command) const {
   const auto found = statistics_.find(command);

@@ -53,6 +53,7 @@ void TableView::SetLook(const TableLook& look) {
 }
 
 void TableView::SetColours(const LayoutColours& colours) {
+  if (colours == colours_) return;
   colours_ = colours;
   update();
 }
