@@ -158,11 +158,10 @@ void BetsPage::Apply(const std::string& setting, Currency value) {
   // A refused vig rule has told the player already; a value out of range has not.
   if (!r.Done() && r.code != TableCode::Refused && r.code != TableCode::Busy) {
     const SettingRow* row = FindSettingRow(setting);
-    const bool percent = setting.ends_with("VigRate");
-    const Currency most = percent ? row->most * kPercent : row->most;
+    const int64_t scale = setting.ends_with("VigRate") ? kPercent : 1;  // as the field shows it
     dialogs_.Message({"Dicemill",
-                      "Please enter an amount from " + FormatNumberWithCommas(percent ? row->least * kPercent : row->least) +
-                          " to " + FormatNumberWithCommas(most) + ".",
+                      "Please enter an amount from " + FormatNumberWithCommas(row->least * scale) + " to " +
+                          FormatNumberWithCommas(row->most * scale) + ".",
                       Buttons::Ok, false});
   }
   Refresh();

@@ -89,8 +89,9 @@ class PayoffGridView : public QWidget {
       p.setFont(font());
       for (int c = 0; c < kColumns; ++c) {
         const QRect cell = CellRect(row, c).adjusted(0, 0, -1, -1);
-        if (page_.Chosen() == PayoffCell{table_, row, c}) p.fillRect(cell, pal.highlight());
-        p.setPen(page_.Chosen() == PayoffCell{table_, row, c} ? pal.highlightedText().color() : pal.text().color());
+        const bool chosen = page_.editing_ && page_.Chosen() == PayoffCell{table_, row, c};
+        if (chosen) p.fillRect(cell, pal.highlight());
+        p.setPen(chosen ? pal.highlightedText().color() : pal.text().color());
         const Qt::Alignment align = c == 1 ? Qt::AlignCenter : Qt::AlignVCenter | Qt::AlignRight;
         p.drawText(cell.adjusted(4, 0, -6, 0), align, texts.cells[static_cast<size_t>(c)]);
       }
@@ -243,7 +244,7 @@ void PayoffsPage::Choose(const PayoffCell& cell) {
     ScrollTo(cell.row < top_ ? cell.row : cell.row - kVisibleRows + 1);
   PlaceEditor();
   editor_->setFocus();
-  editor_->selectAll();
+  if (cell.column != 1) editor_->selectAll();
   grid_->update();
   fieldGrid_->update();
 }
@@ -259,7 +260,8 @@ void PayoffsPage::PlaceEditor() {
   editor_->setAlignment(chosen_.column == 1 ? Qt::AlignCenter : Qt::AlignRight | Qt::AlignVCenter);
   // The middle cell takes keys, not typing.
   editor_->setReadOnly(chosen_.column == 1);
-  if (!editor_->isModified()) editor_->setText(Row(chosen_.table, chosen_.row).cells[static_cast<size_t>(chosen_.column)]);
+  if (!editor_->isModified())
+    editor_->setText(Row(chosen_.table, chosen_.row).cells[static_cast<size_t>(chosen_.column)]);
   editor_->show();
   editor_->raise();
 }
