@@ -48,7 +48,7 @@ BetTrendsScreen::BetTrendsScreen(Table& table, Dialogs& dialogs, QWidget* parent
   empty_->setObjectName(QStringLiteral("lblNoTrends"));
   empty_->setAlignment(Qt::AlignCenter);
   Body()->addWidget(empty_);
-  resize(860, 420);
+  resize(860, 340);
 }
 
 void BetTrendsScreen::Refresh() {

@@ -156,7 +156,11 @@ ReportTable ChipStacksScreen::Report() const {
                  << QStringLiteral("Tray tool");
   for (int r = 0; r < grid_->rowCount(); ++r) {
     ReportRow row;
-    for (int c = 0; c < kColumnCount; ++c) row.push_back({grid_->item(r, c)->text(), grid_->item(r, c)->foreground().color()});
+    for (int c = 0; c < kColumnCount; ++c) {
+      const QTableWidgetItem* cell = grid_->item(r, c);
+      const QVariant color = cell->data(Qt::ForegroundRole);  // unset: the page's own colour
+      row.push_back({cell->text(), color.isValid() ? color.value<QBrush>().color() : QColor()});
+    }
     report.rows.push_back(row);
   }
   return report;

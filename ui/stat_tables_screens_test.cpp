@@ -109,6 +109,10 @@ TEST(FlagsAndChipStacksScreens, FollowTheScriptAsItRuns) {
   EXPECT_NE(value, 0);
   EXPECT_EQ(RowTexts(*stackGrid, r),
             (QStringList{"1", "stop-loss", QString::fromStdString(FormatNumberWithCommas(value)), "7"}));
+  // Printed as shown: the value in the colour of its sign, the name in the page's.
+  const ReportRow printed = stacks.Report().rows.at(static_cast<size_t>(r));
+  EXPECT_EQ(printed[2].color, signed_cells::TextColor(value > 0 ? 1 : -1));
+  EXPECT_FALSE(printed[1].color.isValid());
 }
 
 TEST(ChipStacksScreen, PutsTheChosenStackOnATrayTool) {
