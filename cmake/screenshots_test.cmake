@@ -10,7 +10,9 @@ if(NOT rc EQUAL 0)
   message(FATAL_ERROR "dicemill --screenshot failed (${rc}):\n${err}")
 endif()
 set(expected auto-play hot-keys dice-roll-files bankroll-graph bankroll-graph-running main-window table-empty table-busy table-busy-small table-hop-bets pad message notice-winner notice-lost prompt-number about help
-    summary roll-totals roll-frequencies bet-results)
+    summary roll-totals roll-frequencies bet-results bet-trends games-log games-log-histogram chip-stacks flags
+    configure-checks-dice configure-sound configure-comps configure-colors configure-misc configure-bankroll
+    configure-bets configure-payoffs)
 foreach(name ${expected})
   set(png ${WORK}/png/${name}.png)
   if(NOT EXISTS ${png})

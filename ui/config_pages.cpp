@@ -2,10 +2,12 @@
 
 #include "ui/advantage_page.h"
 #include "ui/bankroll_page.h"
+#include "ui/bets_page.h"
 #include "ui/checks_dice_page.h"
 #include "ui/colors_page.h"
 #include "ui/comps_page.h"
 #include "ui/misc_page.h"
+#include "ui/payoffs_page.h"
 #include "ui/sound_page.h"
 
 QList<ConfigPage*> MakeConfigPages(Table& table, Dialogs& dialogs, SoundBoard& sounds) {
@@ -16,6 +18,8 @@ QList<ConfigPage*> MakeConfigPages(Table& table, Dialogs& dialogs, SoundBoard& s
       new ColorsPage(table, dialogs),
       new MiscPage(table, dialogs),
       new BankrollPage(table, dialogs),
+      new BetsPage(table, dialogs),
+      new PayoffsPage(table, dialogs),
       new AdvantagePage(table, dialogs),
   };
 }

@@ -21,6 +21,7 @@
 #include "ui/bankroll_graph_screen.h"
 #include "ui/dice_roll_files_screen.h"
 #include "ui/dialogs.h"
+#include "ui/games_log_choice.h"
 #include "ui/quick_stats.h"
 #include "ui/roll_pad.h"
 #include "ui/sound_board.h"
@@ -38,9 +39,7 @@ const QString kAppName = QStringLiteral("Dicemill");
 // Screens that later versions of the window open; their items stay disabled
 // until then rather than doing nothing when chosen.
 constexpr std::array kScreensToCome = {
-    MenuCommand::GamesLogFile,
-    MenuCommand::AutoBet,     MenuCommand::GamesLog,    MenuCommand::BetTrends,
-    MenuCommand::ChipStacks,  MenuCommand::Flags,
+    MenuCommand::AutoBet,
 };
 
 bool ScreenToCome(MenuCommand command) {
@@ -163,6 +162,7 @@ void MainWindow::Perform(MenuCommand command) {
     case AutoPlay: OpenAutoPlay(); break;
     case HotKeys: OpenHotKeys(); break;
     case Configure: OpenConfigure(); break;
+    case GamesLogFile: ChooseGamesLog(table_, dialogs_); break;
     case DiceRollFiles: OpenRollFiles(); break;
     case Contents: OpenHelp(false); break;
     case Search: OpenHelp(true); break;

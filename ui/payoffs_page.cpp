@@ -347,3 +347,8 @@ void FillSamplePayoffs(Table& table) {
   table.EditPayoffCell(PayoffTable::Bets, bet::kPlaceBase + bet::NumberIndex(6), 1, 'f');
   table.SetFieldPreset(3);  // Place 6
 }
+
+void PayoffsPage::SelectFault(const QString& control, int index) {
+  if (index < 1) return;
+  ShowRow(control == QLatin1String("picFieldPayoffs") ? PayoffTable::Field : PayoffTable::Bets, index);
+}

@@ -41,6 +41,8 @@ class PayoffsPage : public ConfigPage {
   void Refresh() override;
   QMenu* PageMenu() override { return menu_; }
   void CommitPendingEdit() override;
+  // The closing check names picPayoffs or picFieldPayoffs and the row.
+  void SelectFault(const QString& control, int index) override;
 
   // Scrolls a row into view and chooses its first cell, as after a fault
   // found by the closing check.

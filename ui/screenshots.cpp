@@ -28,6 +28,13 @@
 #include "ui/roll_pad.h"
 #include "ui/bet_results_screen.h"
 #include "ui/statistics_sample.h"
+#include "ui/stat_tables_samples.h"
+#include "ui/bankroll_page.h"
+#include "ui/config_page.h"
+#include "ui/configure_window.h"
+#include "ui/payoffs_page.h"
+#include <QRadioButton>
+#include <QTabWidget>
 #include "ui/statistics_screen.h"
 #include "ui/table_view.h"
 #include "ui/sound_board.h"
@@ -197,6 +204,52 @@ bool SaveStatisticsScreens(const QString& folder, const DesktopPaths& paths) {
   return all;
 }
 
+// The screens of the script's own figures and of finished games, over a
+// session with a games log and a stop-loss script in use.
+bool SaveStatTables(const QString& folder, const DesktopPaths& paths) {
+  PictureTable t(paths);
+  QTemporaryDir scratch;
+  FillSampleStatTables(t.table, scratch.path().toStdString());
+  const std::pair<MenuCommand, const char*> screens[] = {
+      {MenuCommand::BetTrends, "bet-trends"},
+      {MenuCommand::GamesLog, "games-log"},
+      {MenuCommand::ChipStacks, "chip-stacks"},
+      {MenuCommand::Flags, "flags"},
+  };
+  bool all = true;
+  for (const auto& [command, name] : screens) {
+    t.window->Action(command)->trigger();
+    StatisticsScreen* screen = t.window->Statistics(command);
+    all = screen && ::Save(*screen, folder, QString::fromLatin1(name)) && all;
+  }
+  if (StatisticsScreen* log = t.window->Statistics(MenuCommand::GamesLog)) {
+    if (auto* histogram = log->findChild<QRadioButton*>(QStringLiteral("optDisplay1"))) histogram->click();
+    all = ::Save(*log, folder, QStringLiteral("games-log-histogram")) && all;
+  }
+  return all;
+}
+
+// Every tab of the Configure window, with money on the Bankroll tab and a
+// changed payoff in view on the Payoffs tab.
+bool SaveConfigureTabs(const QString& folder, const DesktopPaths& paths) {
+  PictureTable t(paths);
+  FillSampleBankroll(t.table);
+  FillSamplePayoffs(t.table);
+  t.window->Action(MenuCommand::Configure)->trigger();
+  ConfigureWindow* window = t.window->Configure();
+  if (!window) return false;
+  const char* names[] = {"checks-dice", "sound", "comps",    "colors",      "misc",
+                         "bankroll",    "bets",  "payoffs",  "probability", "advantage"};
+  bool all = window->Tabs()->count() == 10;
+  for (int i = 0; i < window->Tabs()->count(); ++i) {
+    window->Tabs()->setCurrentIndex(i);
+    if (auto* payoffs = qobject_cast<PayoffsPage*>(window->Page(i))) payoffs->ShowRow(PayoffTable::Bets, 40);
+    all = ::Save(*window, folder, QStringLiteral("configure-") + QString::fromLatin1(names[i])) && all;
+  }
+  window->Tabs()->setCurrentIndex(0);  // a picture is no reason to change the game's last tab
+  return all;
+}
+
 }  // namespace
 
 int WriteScreenshots(const QString& folder, const DesktopPaths& paths) {
@@ -207,6 +260,8 @@ int WriteScreenshots(const QString& folder, const DesktopPaths& paths) {
   bool all = SaveTables(folder, paths);
   all = SaveRunScreens(folder, paths) && all;
   all = SaveStatisticsScreens(folder, paths) && all;
+  all = SaveStatTables(folder, paths) && all;
+  all = SaveConfigureTabs(folder, paths) && all;
   MessageDialog message(SampleMessage());
   all = Save(message, folder, QStringLiteral("message")) && all;
   SettleNoticeDialog winner(SampleWonNotice());

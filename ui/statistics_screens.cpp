@@ -1,6 +1,10 @@
 #include "ui/statistics_screens.h"
 
 #include "ui/bet_results_screen.h"
+#include "ui/bet_trends_screen.h"
+#include "ui/chip_stacks_screen.h"
+#include "ui/flags_screen.h"
+#include "ui/games_log_screen.h"
 #include "ui/roll_frequencies_screen.h"
 #include "ui/roll_totals_screen.h"
 #include "ui/summary_screen.h"
@@ -11,6 +15,10 @@ StatisticsScreen* MakeStatisticsScreen(MenuCommand command, Table& table, Dialog
     case MenuCommand::RollTotals: return new RollTotalsScreen(table, dialogs, parent);
     case MenuCommand::RollFrequencies: return new RollFrequenciesScreen(table, dialogs, parent);
     case MenuCommand::BetResults: return new BetResultsScreen(table, dialogs, parent);
+    case MenuCommand::BetTrends: return new BetTrendsScreen(table, dialogs, parent);
+    case MenuCommand::GamesLog: return new GamesLogScreen(table, dialogs, parent);
+    case MenuCommand::ChipStacks: return new ChipStacksScreen(table, dialogs, parent);
+    case MenuCommand::Flags: return new FlagsScreen(table, dialogs, parent);
     default: return nullptr;
   }
 }
@@ -20,7 +28,11 @@ bool IsStatisticsScreen(MenuCommand command) {
     case MenuCommand::Summary:
     case MenuCommand::RollTotals:
     case MenuCommand::RollFrequencies:
-    case MenuCommand::BetResults: return true;
+    case MenuCommand::BetResults:
+    case MenuCommand::BetTrends:
+    case MenuCommand::GamesLog:
+    case MenuCommand::ChipStacks:
+    case MenuCommand::Flags: return true;
     default: return false;
   }
 }
