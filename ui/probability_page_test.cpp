@@ -29,9 +29,7 @@ struct PageDesk : ScreenDesk {
   }
   template <typename W>
   W* Find(const char* name) {
-    W* w = page.findChild<W*>(QString::fromLatin1(name));
-    EXPECT_NE(w, nullptr) << name;
-    return w;
+    return page.findChild<W*>(QString::fromLatin1(name));
   }
   void TriggerMenu(const char* text) {
     for (QAction* a : page.PageMenu()->actions())
@@ -95,17 +93,11 @@ TEST(ProbabilityPage, EntriesAreReadInTheDisplayModeChosen) {
     EXPECT_EQ(d.page.Grid()->Shown(6, 1), QString::fromLatin1(c.sevenShownBefore)) << c.mode;
     d.Enter(6, 1, c.typed);
     EXPECT_NEAR(d.Prob().at(6, 1).value, c.sevenWeight, 1) << c.mode;
+    rolls->setText(QStringLiteral("0"));  // refused with a word, and shown as it was
+    emit rolls->editingFinished();
+    EXPECT_EQ(d.dialogs.messages.size(), 1u);
+    EXPECT_EQ(rolls->text(), QString::fromLatin1(c.rollsOutOf));
   }
-}
-
-TEST(ProbabilityPage, RollsOutOfZeroIsRefusedAndSnapsBack) {
-  PageDesk d;
-  d.Find<QRadioButton>("optProbability2")->click();
-  QLineEdit* rolls = d.Find<QLineEdit>("txtRollsOutOf");
-  rolls->setText(QStringLiteral("0"));
-  emit rolls->editingFinished();
-  ASSERT_EQ(d.dialogs.messages.size(), 1u);
-  EXPECT_EQ(rolls->text(), QStringLiteral("36"));
 }
 
 TEST(ProbabilityPage, LTogglesTheLockAndUnlockAllClearsEveryLock) {
@@ -144,31 +136,29 @@ TEST(ProbabilityPage, CursorKeysMoveWithinTheBlockAndWrap) {
   EXPECT_FALSE(d.table.State().ProbModified);  // moving without typing changes nothing
 }
 
-TEST(ProbabilityPage, FullEffectivenessAboutTheOneSixAxisNeverShowsOneOrSix) {
-  PageDesk d;
-  AxisPanel panel(d.table);
-  panel.findChild<QLineEdit*>(QStringLiteral("txtDie1SE"))->setText(QStringLiteral("100"));
-  panel.findChild<QLineEdit*>(QStringLiteral("txtDie2SE"))->setText(QStringLiteral("150"));
-  panel.findChild<QPushButton*>(QStringLiteral("cmdAxisOK"))->click();
-  EXPECT_EQ(panel.findChild<QLineEdit*>(QStringLiteral("txtDie2SE"))->text(), QStringLiteral("100"));
-  for (int row : {kDie1FaceRow, kDie2FaceRow})
-    for (int face : {1, 6}) EXPECT_EQ(d.Prob().at(row, face + 1).value, 0) << row << "," << face;
-  for (int other = 1; other <= 6; ++other)
-    for (int face : {1, 6}) {
-      EXPECT_EQ(OutcomeWeight(d.Prob(), face, other), 0);
-      EXPECT_EQ(OutcomeWeight(d.Prob(), other, face), 0);
+// OK applies the panel through the table (an effectiveness above 100 is
+// written back as 100); Cancel leaves the table alone.
+TEST(ProbabilityPage, AxisPanelAtFullEffectivenessNeverShowsTheAxisFaces) {
+  for (const char* button : {"cmdAxisOK", "cmdAxisCancel"}) {
+    PageDesk d;
+    AxisPanel panel(d.table);
+    auto* die2 = panel.findChild<QLineEdit*>(QStringLiteral("txtDie2SE"));
+    panel.findChild<QLineEdit*>(QStringLiteral("txtDie1SE"))->setText(QStringLiteral("100"));
+    die2->setText(QStringLiteral("150"));
+    panel.findChild<QPushButton*>(QString::fromLatin1(button))->click();
+    if (std::string(button) == "cmdAxisCancel") {
+      EXPECT_TRUE(IsTrueTable(d.Prob()));
+      continue;
     }
-  EXPECT_EQ(panel.result(), QDialog::Accepted);
-}
-
-TEST(ProbabilityPage, AxisCancelChangesNothing) {
-  PageDesk d;
-  AxisPanel panel(d.table);
-  panel.findChild<QLineEdit*>(QStringLiteral("txtDie1SE"))->setText(QStringLiteral("80"));
-  panel.findChild<QRadioButton*>(QStringLiteral("optDie1Axis2"))->setChecked(true);
-  panel.findChild<QPushButton*>(QStringLiteral("cmdAxisCancel"))->click();
-  EXPECT_TRUE(IsTrueTable(d.Prob()));
-  EXPECT_FALSE(d.table.State().ProbModified);
+    EXPECT_EQ(die2->text(), QStringLiteral("100"));
+    for (int a = 1; a <= 6; ++a)
+      for (int b = 1; b <= 6; ++b) {
+        const bool axisFace = a == 1 || a == 6 || b == 1 || b == 6;
+        EXPECT_EQ(OutcomeWeight(d.Prob(), a, b) == 0, axisFace) << a << "," << b;
+      }
+    for (int row : {kDie1FaceRow, kDie2FaceRow})
+      for (int face : {1, 6}) EXPECT_EQ(d.Prob().at(row, face + 1).value, 0) << row << "," << face;
+  }
 }
 
 TEST(ProbabilityPage, SaveOpenAndNewGoThroughTheFileAndTheUnsavedQuestion) {
@@ -177,7 +167,6 @@ TEST(ProbabilityPage, SaveOpenAndNewGoThroughTheFileAndTheUnsavedQuestion) {
   d.Find<QCheckBox>("chkUseSkewedProbability")->click();
   EXPECT_TRUE(d.table.State().UseSkewedProbability);
   d.Enter(6, 1, "30");
-  const ProbTable edited = d.Prob();
 
   d.dialogs.files.push_back(file);
   d.TriggerMenu("&Save ...");
@@ -198,7 +187,7 @@ TEST(ProbabilityPage, SaveOpenAndNewGoThroughTheFileAndTheUnsavedQuestion) {
 
   d.dialogs.files.push_back(file);
   d.TriggerMenu("&Open ...");
-  EXPECT_EQ(d.Prob().at(6, 1).value, edited.at(6, 1).value);
+  EXPECT_EQ(d.Prob().at(6, 1).value, 30000);
   EXPECT_EQ(d.Find<QLabel>("lblPercentageDice")->text(), QStringLiteral("Free Form Dice"));
 }
 
