@@ -23,6 +23,7 @@ namespace {
 
 constexpr const char* kFilePattern = "*.prb";
 constexpr int kSidePanelWidth = 290;
+constexpr int kFileNameWidth = 190;
 
 const char* const kDisplayModeTexts[] = {" Show as percentage", " Show as +/- from true %", " Show as # rolls out of:",
                                          " Show as +/- from true rolls out of:"};
@@ -91,7 +92,8 @@ QWidget* ProbabilityPage::BuildSidePanel() {
     Refresh();
   });
   column->addWidget(useSkewed_);
-  column->addWidget(SmallNote(QStringLiteral("Note:  If this box is UNchecked the\ntrue probabilities will be used."), side));
+  column->addWidget(
+      SmallNote(QStringLiteral("Note:  If this box is UNchecked the\ntrue probabilities will be used."), side));
 
   auto* showBox = new QGroupBox(tr("Show the weights"), side);
   auto* showLayout = new QVBoxLayout(showBox);
@@ -127,7 +129,8 @@ QWidget* ProbabilityPage::BuildSidePanel() {
   legend->addWidget(swatch, 0, Qt::AlignTop);
   legend->addWidget(SmallNote(tr("Locked: keeps its weight while the free cells share the rest."), side), 1);
   column->addLayout(legend);
-  column->addWidget(SmallNote(tr("Type a weight and press Enter. L locks or unlocks the cell; the arrow keys move."), side));
+  column->addWidget(
+      SmallNote(tr("Type a weight and press Enter. L locks or unlocks the cell; the arrow keys move."), side));
 
   unlockAll_ = new QPushButton(QStringLiteral("Unlock All Cells"), side);
   unlockAll_->setObjectName(QStringLiteral("cmdLock"));
@@ -148,7 +151,11 @@ void ProbabilityPage::Refresh() {
   tableMode_->setText(g.Prob.Mode() == kFreeFormDice ? QStringLiteral("Free Form Dice")
                                                      : QStringLiteral("Percentage Dice"));
   const QString file = QString::fromStdString(g.ProbFileName);
-  fileName_->setText(QFileInfo(file).fileName() + (g.ProbModified ? QStringLiteral(" *") : QString()));
+  // A long name is cut in its middle rather than widening the panel; the tip
+  // gives it whole.
+  const QString shown =
+      fileName_->fontMetrics().elidedText(QFileInfo(file).fileName(), Qt::ElideMiddle, kFileNameWidth);
+  fileName_->setText(shown + (g.ProbModified ? QStringLiteral(" *") : QString()));
   fileName_->setToolTip(file);
   useSkewed_->setChecked(g.UseSkewedProbability);
   if (QAbstractButton* option = displayMode_->button(g.ProbDisplayMode)) option->setChecked(true);
