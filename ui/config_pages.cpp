@@ -8,6 +8,7 @@
 #include "ui/comps_page.h"
 #include "ui/misc_page.h"
 #include "ui/payoffs_page.h"
+#include "ui/probability_page.h"
 #include "ui/sound_page.h"
 
 QList<ConfigPage*> MakeConfigPages(Table& table, Dialogs& dialogs, SoundBoard& sounds) {
@@ -20,6 +21,7 @@ QList<ConfigPage*> MakeConfigPages(Table& table, Dialogs& dialogs, SoundBoard& s
       new BankrollPage(table, dialogs),
       new BetsPage(table, dialogs),
       new PayoffsPage(table, dialogs),
+      new ProbabilityPage(table, dialogs),
       new AdvantagePage(table, dialogs),
   };
 }

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kPad = 8;         // around each figure
 constexpr int kBarWidth = 280;  // the longest bar
+constexpr int kLeastBarWidth = 100;
 constexpr int kRowGap = 4;
 
 // Black or white, whichever reads on `background`.
@@ -70,10 +71,10 @@ RollTotalsBars::Columns RollTotalsBars::Layout() const {
   c.actual = wide({QStringLiteral("Actual %"), QStringLiteral("100.00%")});
   c.prob = wide({QStringLiteral("Prob %"), QStringLiteral("100.00%")});
   c.width = c.label + c.bar + c.rolls + c.since + c.actual + c.prob;
-  // The bars take whatever room the window gives beyond that.
-  if (width() > c.width) {
-    c.bar += width() - c.width;
-    c.width = width();
+  // The bars take whatever room the window gives, down to a least width.
+  if (width() > 0) {
+    c.bar = std::max(kLeastBarWidth + 2 * kPad, c.bar + width() - c.width);
+    c.width = c.label + c.bar + c.rolls + c.since + c.actual + c.prob;
   }
   return c;
 }
@@ -83,7 +84,11 @@ QSize RollTotalsBars::sizeHint() const {
   return {c.width - c.bar + kBarWidth + 2 * kPad, HeaderHeight() + static_cast<int>(rows_.size()) * RowHeight() + kPad};
 }
 
-QSize RollTotalsBars::minimumSizeHint() const { return sizeHint(); }
+// The bars give way first: a narrow window keeps every figure in view.
+QSize RollTotalsBars::minimumSizeHint() const {
+  const QSize full = sizeHint();
+  return {full.width() - kBarWidth + kLeastBarWidth, full.height()};
+}
 
 void RollTotalsBars::paintEvent(QPaintEvent*) {
   QPainter p(this);

@@ -89,7 +89,8 @@ RollTotalsScreen::RollTotalsScreen(Table& table, Dialogs& dialogs, QWidget* pare
   BuildMenus();
   ApplyColours();
   viewActions_[static_cast<int>(view_)]->setChecked(true);
-  resize(bars_->sizeHint().width() + 40, 480);
+  // Room for the scroll area's frame and its vertical bar beside the bars.
+  resize(bars_->sizeHint().width() + 60, 480);
 }
 
 void RollTotalsScreen::BuildMenus() {

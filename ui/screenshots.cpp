@@ -1,5 +1,6 @@
 #include "ui/screenshots.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
 #include <QTemporaryDir>
@@ -33,6 +34,7 @@
 #include "ui/config_page.h"
 #include "ui/configure_window.h"
 #include "ui/payoffs_page.h"
+#include "ui/probability_page.h"
 #include <QRadioButton>
 #include <QTabWidget>
 #include "ui/statistics_screen.h"
@@ -48,6 +50,8 @@ class SilentSink : public SoundSink {
 
 bool Save(QWidget& widget, const QString& folder, const QString& name) {
   widget.show();
+  // Labels filled since the last layout take their room before the picture.
+  QCoreApplication::processEvents();
   widget.repaint();
   const bool saved = widget.grab().save(QDir(folder).filePath(name + QStringLiteral(".png")));
   widget.hide();
@@ -235,6 +239,7 @@ bool SaveConfigureTabs(const QString& folder, const DesktopPaths& paths) {
   PictureTable t(paths);
   FillSampleBankroll(t.table);
   FillSamplePayoffs(t.table);
+  FillSampleProbabilities(t.table);
   t.window->Action(MenuCommand::Configure)->trigger();
   ConfigureWindow* window = t.window->Configure();
   if (!window) return false;
@@ -245,6 +250,8 @@ bool SaveConfigureTabs(const QString& folder, const DesktopPaths& paths) {
     window->Tabs()->setCurrentIndex(i);
     if (auto* payoffs = qobject_cast<PayoffsPage*>(window->Page(i))) payoffs->ShowRow(PayoffTable::Bets, 40);
     all = ::Save(*window, folder, QStringLiteral("configure-") + QString::fromLatin1(names[i])) && all;
+    // The skewed dice were for the Probability tab: the house's edge is shown with true dice.
+    if (qobject_cast<ProbabilityPage*>(window->Page(i))) t.table.Set("UseSkewedProbability", 0);
   }
   window->Tabs()->setCurrentIndex(0);  // a picture is no reason to change the game's last tab
   return all;
