@@ -70,6 +70,7 @@ void ConfigureWindow::done(int result) {
   }
   // The tab is the game's, kept for the next time the window opens.
   table_.Set("ConfigTab", tabs_->currentIndex());
+  table_.SetConfigScreenOpen(false);
   QDialog::done(result);
 }
 

@@ -3,84 +3,82 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QLineEdit>
 #include <QMenu>
 #include <QTabWidget>
 
 #include "engine/game.h"
 #include "ui/config_page.h"
+#include "ui/config_page_for_test.h"
+#include "ui/config_pages.h"
 #include "ui/screen_desk_for_test.h"
 
 namespace {
 
-// A page with the five check boxes and a menu of its own: enough of a tab to
-// see the window take the player to a fault.
-class ChecksStub : public ConfigPage {
- public:
-  ChecksStub(Table& table, const QString& caption, bool withMenu) : table_(table), caption_(caption) {
-    for (int i = 0; i < 5; ++i) {
-      boxes_[i] = new QLineEdit(this);
-      boxes_[i]->setObjectName(QStringLiteral("txtDenomination%1").arg(i));
-    }
-    if (withMenu) menu_ = new QMenu(caption, this);
-  }
-  QString Caption() const override { return caption_; }
-  void Refresh() override { ++refreshed; }
-  QMenu* PageMenu() override { return menu_; }
-  void CommitPendingEdit() override {
-    for (int i = 0; i < 5; ++i)
-      if (!boxes_[i]->text().isEmpty()) table_.SetChip(i + 1, Currency(boxes_[i]->text().toInt()));
-  }
-  QLineEdit* Box(int i) const { return boxes_[i]; }
-  int refreshed = 0;
-
- private:
-  Table& table_;
-  QString caption_;
-  QMenu* menu_ = nullptr;
-  QLineEdit* boxes_[5]{};
-};
-
 struct Window {
   ScreenDesk desk;
-  ChecksStub* checks = new ChecksStub(desk.table, QStringLiteral("Checks/Dice"), false);
-  ChecksStub* payoffs = new ChecksStub(desk.table, QStringLiteral("Payoffs"), true);
-  ConfigureWindow window{desk.table, {checks, payoffs}};
+  ConfigureWindow window{desk.table, MakeConfigPages(desk.table, desk.dialogs, desk.sounds)};
+  Window() {
+    window.show();
+    QApplication::setActiveWindow(&window);
+  }
+  // Tries to close; true when the window went.
+  bool Close() {
+    desk.dialogs.messages.clear();
+    window.reject();
+    return !window.isVisible();
+  }
+  QString Current() const { return window.Tabs()->tabText(window.Tabs()->currentIndex()); }
 };
 
 }  // namespace
 
-TEST(ConfigureWindow, AFaultKeepsItOpenAtTheFaultyControl) {
+TEST(ConfigureWindow, HasTheTenTabsInOrder) {
   Window w;
+  QStringList tabs;
+  for (int i = 0; i < w.window.Tabs()->count(); ++i) tabs << w.window.Tabs()->tabText(i);
+  EXPECT_EQ(tabs, QStringList({"Checks/Dice", "Sound", "Comps", "Colors", "Misc.", "Bankroll", "Bets", "Payoffs",
+                               "Probability", "Advantage"}));
   EXPECT_TRUE(w.desk.table.State().ConfigScreenActive);
-  w.window.Tabs()->setCurrentIndex(1);
+}
+
+// A fault keeps the window open at its tab, the control selected; the tab
+// shown last is the one the window opens at next time.
+TEST(ConfigureWindow, ClosingTakesThePlayerToTheFault) {
+  Window w;
+  w.window.Tabs()->setCurrentIndex(w.window.TabOf("Advantage"));
+  const char* boxes[] = {"txtDenomination0", "txtDenomination1", "txtDenomination2", "txtDenomination3",
+                         "txtDenomination4"};
   const int values[] = {1, 5, 4, 100, 500};
-  for (int i = 0; i < 5; ++i) w.checks->Box(i)->setText(QString::number(values[i]));
-  w.window.show();
-  QApplication::setActiveWindow(&w.window);
-  w.window.reject();
-  EXPECT_TRUE(w.window.isVisible());
+  for (int i = 0; i < 5; ++i) Type(*w.window.Page(0), boxes[i], QString::number(values[i]));
+  EXPECT_FALSE(w.Close());
   ASSERT_EQ(w.desk.dialogs.messages.size(), 1u);
   EXPECT_EQ(w.desk.dialogs.messages[0].title, "Check Values");
-  EXPECT_EQ(w.window.Tabs()->currentIndex(), 0);
-  EXPECT_TRUE(w.checks->Box(2)->hasFocus());
-  EXPECT_EQ(w.checks->Box(2)->selectedText(), QStringLiteral("4"));
+  EXPECT_EQ(w.Current(), "Checks/Dice");
+  EXPECT_TRUE(Control<QLineEdit>(*w.window.Page(0), "txtDenomination2")->hasFocus());
 
-  w.checks->Box(2)->setText(QStringLiteral("25"));
-  w.window.Tabs()->setCurrentIndex(1);
-  w.window.reject();
-  EXPECT_FALSE(w.window.isVisible());
-  EXPECT_EQ(w.desk.table.State().ConfigTab, 1);  // opens there next time
+  Type(*w.window.Page(0), "txtDenomination2", "25");
+  ConfigPage& bets = *w.window.Page(w.window.TabOf("Bets"));
+  Type(bets, "txtMinPlacardBet", "0.5");
+  EXPECT_FALSE(w.Close());
+  ASSERT_EQ(w.desk.dialogs.messages.size(), 1u);
+  EXPECT_EQ(w.desk.dialogs.messages[0].title, "Configuration Limits");
+  EXPECT_EQ(w.Current(), "Bets");
+
+  Type(bets, "txtMinPlacardBet", "5");
+  w.window.Tabs()->setCurrentIndex(w.window.TabOf("Payoffs"));
+  EXPECT_TRUE(w.Close());
+  EXPECT_EQ(w.desk.table.State().ConfigTab, 7);
+  EXPECT_FALSE(w.desk.table.State().ConfigScreenActive);
 }
 
 TEST(ConfigureWindow, ATabsMenuWorksOnlyOnItsTab) {
   Window w;
-  QAction* menu = w.payoffs->PageMenu()->menuAction();
-  const int refreshed = w.payoffs->refreshed;
-  EXPECT_FALSE(menu->isEnabled());
-  w.window.Tabs()->setCurrentIndex(1);
-  EXPECT_TRUE(menu->isEnabled());
-  EXPECT_GT(w.payoffs->refreshed, refreshed);
-  w.window.Tabs()->setCurrentIndex(0);
-  EXPECT_FALSE(menu->isEnabled());
+  for (const char* tab : {"Payoffs", "Probability", "Advantage"}) {
+    const int index = w.window.TabOf(tab);
+    QAction* menu = w.window.Page(index)->PageMenu()->menuAction();
+    w.window.Tabs()->setCurrentIndex(0);
+    EXPECT_FALSE(menu->isEnabled()) << tab;
+    w.window.Tabs()->setCurrentIndex(index);
+    EXPECT_TRUE(menu->isEnabled()) << tab;
+  }
 }
