@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <fstream>
 #include <system_error>
 
@@ -102,11 +103,17 @@ bool QuerySaveProbabilityPage(Game& g) {
                                   Buttons::YesNoCancel);
   if (reply == Reply::Cancel) return false;
   if (reply == Reply::No) return true;
-  // With no name of its own the table would need a file dialog, which a
-  // front end without one cannot give: that counts as its Cancel.
+  // With no name of its own the numbers need one from the player; a front
+  // end without a file dialog answers nothing, which counts as its Cancel.
   const std::string name = std::filesystem::path(g.ProbFileName).filename().string();
-  if (g.ProbFileName.empty() || g.ProbFileName == "untitled" || name == "default.prb") return false;
-  return ShowFileStatus(g, SaveProbabilityFile(g, g.ProbFileName));
+  if (name == "default.prb") return false;
+  std::string path = g.ProbFileName;
+  if (path.empty() || path == "untitled") {
+    const std::optional<std::string> chosen = g.Ui->AskFileName("Save Probability File As", "*.prb");
+    if (!chosen) return false;
+    path = *chosen;
+  }
+  return ShowFileStatus(g, SaveProbabilityFile(g, path));
 }
 
 bool NewProbabilities(Game& g) {

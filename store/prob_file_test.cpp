@@ -120,3 +120,25 @@ TEST(ProbFile, NewAsksAboutUnsavedNumbers) {
   EXPECT_EQ(g.Prob.at(6, 1).value, 16667);
   EXPECT_EQ(g.ProbFileName, "untitled");
 }
+
+// Yes on an untitled table asks for a name; no name is a Cancel.
+TEST(ProbFile, YesOnUntitledNumbersAsksForAName) {
+  struct SaysYes : RecordingFrontEnd {
+    std::optional<std::string> name;
+    Reply ShowMessage(const std::string& title, const std::string& text, Buttons buttons) override {
+      RecordingFrontEnd::ShowMessage(title, text, buttons);
+      return Reply::Yes;
+    }
+    std::optional<std::string> AskFileName(const std::string&, const std::string&) override { return name; }
+  };
+  TempFolder folder;
+  for (const bool named : {false, true}) {
+    TestTable table;
+    SaysYes yes;
+    table.g.Ui = &yes;
+    if (named) yes.name = (folder.path() / "mine.prb").string();
+    table.g.ProbModified = true;
+    EXPECT_EQ(NewProbabilities(table.g), named);
+    EXPECT_EQ(std::filesystem::exists(folder.path() / "mine.prb"), named);
+  }
+}
