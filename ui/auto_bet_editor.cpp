@@ -63,6 +63,7 @@ AutoBetEditor::AutoBetEditor(Table& table, Dialogs& dialogs, std::filesystem::pa
   list_->setObjectName(QStringLiteral("lstAutoBets"));
   list_->setHorizontalHeaderLabels({tr("#"), tr("Logged bets")});
   list_->verticalHeader()->hide();
+  list_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   list_->horizontalHeader()->setSectionResizeMode(kNumberColumn, QHeaderView::ResizeToContents);
   list_->horizontalHeader()->setSectionResizeMode(kTextColumn, QHeaderView::Stretch);
   list_->setSelectionBehavior(QAbstractItemView::SelectRows);

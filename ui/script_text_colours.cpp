@@ -31,7 +31,8 @@ void ScriptTextColours::highlightBlock(const QString& text) {
   static const QRegularExpression start = StartLine();
   static const QRegularExpression label(QStringLiteral("^\\s*(Label|Comment)\\b"), QRegularExpression::CaseInsensitiveOption);
   static const QRegularExpression quoted(QStringLiteral("\"(?:[^\"\\\\]|\\\\.)*\"?"));
-  static const QRegularExpression amount(QStringLiteral("(?<![\\w#(-])\\$?-?(?:\\d[\\d,]*(?:\\.\\d+)?|\\.\\d+)%?(?![\\w)-])"));
+  // Money and percentages only: the numbers of bet names ("Place 6") are words.
+  static const QRegularExpression amount(QStringLiteral("\\$-?[\\d,]*\\.?\\d+|-?[\\d,]*\\.?\\d+%"));
   static const QRegularExpression braces(QStringLiteral("\\{[^}]*\\}?"));
   const QString trimmed = text.trimmed();
   if (trimmed.startsWith(QLatin1Char('#'))) {

@@ -91,3 +91,8 @@ void StepsViewer::Answer(StepReply reply) {
   reply_ = reply;
   accept();
 }
+
+void ShowSampleStep(StepsViewer& viewer) {
+  // The status as the pass words it; the viewer puts "Status: " before it.
+  viewer.Show(13, "Place 6 has won 2", "Condition is true (just now occurred). ");
+}

@@ -40,3 +40,6 @@ class StepsViewer : public QDialog {
   QLabel *lineNum_, *step_, *status_;
   StepReply reply_ = StepReply::Next;  // closing the window goes on, as Next does
 };
+
+// A step as a player would meet it, for the screen's picture.
+void ShowSampleStep(StepsViewer& viewer);
