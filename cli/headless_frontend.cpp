@@ -108,8 +108,9 @@ void HeadlessFrontEnd::ShowThrow(int die1, int die2, int pointAfter) {
 
 void HeadlessFrontEnd::ShowStepsBanner(const std::string& word) { WriteJsonLine(out_, {{"steps", word}}); }
 
-void HeadlessFrontEnd::ShowStep(int lineNumber, const std::string& text, const std::string& status) {
+StepReply HeadlessFrontEnd::ShowStep(int lineNumber, const std::string& text, const std::string& status) {
   WriteJsonLine(out_, {{"step", {{"line", lineNumber}, {"text", text}, {"status", status}}}});
+  return StepReply::Next;
 }
 
 std::optional<std::string> HeadlessFrontEnd::AskFileName(const std::string& title, const std::string& pattern) {

@@ -34,7 +34,8 @@ class HeadlessFrontEnd : public FrontEnd {
   void RollFinished(::StopReason reason) override { stopReason_ = reason; }
   // Steps are printed and go straight on: a script's trace, not a wait.
   void ShowStepsBanner(const std::string& word) override;
-  void ShowStep(int lineNumber, const std::string& text, const std::string& status) override;
+  // A script read on a pipe has no one to stop for: every step goes on.
+  StepReply ShowStep(int lineNumber, const std::string& text, const std::string& status) override;
   // The file dialog is a message whose reply is the path of a queued
   // "file:PATH", or "cancel" for anything else.
   std::optional<std::string> AskFileName(const std::string& title, const std::string& pattern) override;

@@ -48,6 +48,9 @@ struct SettleReply {
 // Whether the player, reading a notice, asked not to see its kind again.
 enum class NoticeReply { Seen, DontShowAgain };
 
+// What the player chose on a step of the steps viewer.
+enum class StepReply { Next, RunToEnd, Cancel };
+
 class FrontEnd {
  public:
   virtual ~FrontEnd() = default;
@@ -83,7 +86,11 @@ class FrontEnd {
   // "Hot-Key"), then every step shows its line and status and waits until
   // the player goes on.
   virtual void ShowStepsBanner(const std::string& /*word*/) {}
-  virtual void ShowStep(int /*lineNumber*/, const std::string& /*text*/, const std::string& /*status*/) {}
+  // The player's answer: the next step, the rest of this pass unseen, or no
+  // more steps at all (until a "Show Steps" line asks again).
+  virtual StepReply ShowStep(int /*lineNumber*/, const std::string& /*text*/, const std::string& /*status*/) {
+    return StepReply::Next;
+  }
   // The file dialog of a save: a path, or nullopt when the player cancels
   // (and on front ends that have no such dialog).
   virtual std::optional<std::string> AskFileName(const std::string& /*title*/, const std::string& /*pattern*/) {

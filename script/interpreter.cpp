@@ -296,7 +296,7 @@ class Pass {
     else
       Say("Action taken.");
     // The action may have changed the script; show the line only if it stands.
-    if (steps_ && lineNumber <= script().NumLines()) g_.Ui->ShowStep(lineNumber, script().Line(lineNumber).Text, s_.Status);
+    if (steps_ && lineNumber <= script().NumLines()) ShowStep(lineNumber, script().Line(lineNumber).Text);
   }
 
   void ReturnToGoSub() {
@@ -410,7 +410,15 @@ class Pass {
     if (steps_) s_.Status += text;
   }
   void Show(const ScriptLine& line) {
-    if (steps_) g_.Ui->ShowStep(s_.CurrentLine, line.Text, s_.Status);
+    if (steps_) ShowStep(s_.CurrentLine, line.Text);
+  }
+  // The rest of the pass runs unseen after "Run to end"; Cancel also ends
+  // the showing of steps for the passes to come.
+  void ShowStep(int lineNumber, const std::string& text) {
+    const StepReply reply = g_.Ui->ShowStep(lineNumber, text, s_.Status);
+    if (reply == StepReply::Next) return;
+    steps_ = false;
+    if (reply == StepReply::Cancel) g_.ShowingSteps = false;
   }
 
   void End() {
@@ -456,7 +464,7 @@ class Pass {
 
   Game& g_;
   PassState s_;
-  const bool steps_;
+  bool steps_;  // the pass shows its steps: decided at its start, ended by the player
   int64_t linesRun_ = 0;
   std::vector<bool> looping_;  // lines run in the last stretch of a pass that runs too long
 };

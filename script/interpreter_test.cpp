@@ -32,7 +32,11 @@ class StepsFrontEnd : public RecordingFrontEnd {
   Reply answer = Reply::No;
 
   void ShowStepsBanner(const std::string& word) override { banners.push_back(word); }
-  void ShowStep(int line, const std::string&, const std::string& status) override { steps.push_back({line, status}); }
+  StepReply ShowStep(int line, const std::string&, const std::string& status) override {
+    steps.push_back({line, status});
+    return replies.empty() ? StepReply::Next : replies[std::min(steps.size(), replies.size()) - 1];
+  }
+  std::vector<StepReply> replies;  // the player's answer to each step in turn; the last repeats
   void WaitSeconds(double seconds) override { waits.push_back(seconds); }
   bool LetInputRun() override {
     ++yields;
@@ -380,3 +384,29 @@ TEST(Interpreter, ThePlanFollowsAnEditMadeInPlace) {
 }
 
 }  // namespace
+
+// The viewer's answers: Next goes on, "Run to end" runs the rest of the pass
+// unseen, Cancel also stops the next passes from showing steps. Every line
+// runs whatever the answer.
+TEST(Interpreter, StepAnswersEndTheShowingNotThePass) {
+  struct Case {
+    StepReply reply;
+    size_t stepsSeen;
+    bool stillShowing;
+  };
+  for (const Case& c : {Case{StepReply::Next, 4, true}, Case{StepReply::RunToEnd, 1, true},
+                        Case{StepReply::Cancel, 1, false}}) {
+    std::vector<ScriptLine> lines = {Line(kDoThis)};
+    for (const char* name : {"a", "b", "c"}) {
+      lines.push_back(Line(kAction, verb::kSetFlag, name));
+      lines.back().LineAmount = Currency(-1);  // "to True"
+    }
+    Pass p(lines);
+    p.t.g.AutoBet.Flags = {{"a", 0, 0}, {"b", 0, 0}, {"c", 0, 0}};
+    p.ui.replies = {c.reply};
+    p.Run();
+    EXPECT_EQ(p.ui.steps.size(), c.stepsSeen);
+    EXPECT_EQ(p.t.g.ShowingSteps, c.stillShowing);
+    for (const Flag& f : p.t.g.AutoBet.Flags) EXPECT_EQ(f.FlagValue, -1) << f.FlagName;
+  }
+}

@@ -40,12 +40,9 @@ std::optional<std::string> RunScreen::AskFileName(const std::string& title, cons
   return Ask([title, pattern](FrontEnd& s) { return s.AskFileName(title, pattern); });
 }
 
-void RunScreen::ShowStep(int lineNumber, const std::string& text, const std::string& status) {
-  // The viewer holds the pass until the player goes on: a question with no answer.
-  Ask([lineNumber, text, status](FrontEnd& s) {
-    s.ShowStep(lineNumber, text, status);
-    return true;
-  });
+StepReply RunScreen::ShowStep(int lineNumber, const std::string& text, const std::string& status) {
+  // The viewer holds the pass until the player goes on.
+  return Ask([lineNumber, text, status](FrontEnd& s) { return s.ShowStep(lineNumber, text, status); });
 }
 
 void RunScreen::GraphWindowFilled() {

@@ -39,7 +39,7 @@ class RunScreen : public FrontEnd {
   std::optional<SettleReply> ShowSettleNotice(const SettleNotice& notice) override;
   std::optional<std::string> AskFileName(const std::string& title, const std::string& pattern) override;
   void ShowStepsBanner(const std::string& word) override;
-  void ShowStep(int lineNumber, const std::string& text, const std::string& status) override;
+  StepReply ShowStep(int lineNumber, const std::string& text, const std::string& status) override;
   bool IsMinimised() const override;
 
   void ShowThrow(int die1, int die2, int pointAfter) override;

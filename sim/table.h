@@ -15,6 +15,7 @@
 #include "autoplay/atm.h"
 #include "dice/prob_table.h"
 #include "dice/money.h"
+#include "engine/script_line.h"
 #include "engine/payoffs.h"
 #include "engine/rules.h"
 #include "script/hot_key_run.h"
@@ -170,6 +171,21 @@ class Table {
   TableResult DefineHotKey(char key, const std::string& file, const std::string& label);
   TableResult ClearHotKey(char key);
 
+  // --- The Auto-Bet editor ----------------------------------------------------------
+  // The editor's lines become the script as they are edited: unsaved, Flags
+  // rebuilt. Its first cycle waits until the editor closes.
+  TableResult ReplaceScript(const std::vector<ScriptLine>& lines);
+  // The editor closes: a changed script is written to the working copy and
+  // offers its first cycle before the next roll; Auto-Bet is left as the
+  // editor's switch says.
+  TableResult CloseScriptEditor(bool changed, bool activated);
+  // New and Open in the editor ask about unsaved lines first; Cancelled keeps them.
+  TableResult NewScriptInEditor();
+  TableResult OpenScriptInEditor(const std::string& path);
+  // Save and Save As: a ".bet" path gets records, any other the text form.
+  TableResult SaveScriptAs(const std::string& path);
+  // "Copy To Auto-Bet File": these lines only; the script keeps its name.
+  TableResult WriteScriptLines(const std::string& path, const std::vector<ScriptLine>& lines);
   // --- Dice Roll File --------------------------------------------------------------
   TableResult OpenRollFile(const std::string& path);
   TableResult CloseRollFile();

@@ -58,8 +58,8 @@ class TableRelay : public FrontEnd {
   }
   bool IsMinimised() const override { return screen_->IsMinimised(); }
   void ShowStepsBanner(const std::string& word) override { screen_->ShowStepsBanner(word); }
-  void ShowStep(int lineNumber, const std::string& text, const std::string& status) override {
-    screen_->ShowStep(lineNumber, text, status);
+  StepReply ShowStep(int lineNumber, const std::string& text, const std::string& status) override {
+    return screen_->ShowStep(lineNumber, text, status);
   }
   std::optional<std::string> AskFileName(const std::string& title, const std::string& pattern) override {
     return screen_->AskFileName(title, pattern);

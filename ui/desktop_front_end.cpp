@@ -62,8 +62,8 @@ void DesktopFrontEnd::ShowStepsBanner(const std::string& word) {
   dialogs_.Message({word, word + " step by step: each line is shown before it runs.", Buttons::Ok, false});
 }
 
-void DesktopFrontEnd::ShowStep(int lineNumber, const std::string& text, const std::string& status) {
-  dialogs_.Message({"Auto-Bet line #" + std::to_string(lineNumber), text + "\r\rStatus: " + status, Buttons::Ok, false});
+StepReply DesktopFrontEnd::ShowStep(int lineNumber, const std::string& text, const std::string& status) {
+  return dialogs_.Step({lineNumber, text, status});
 }
 
 void DesktopFrontEnd::GraphWindowFilled() {

@@ -40,7 +40,7 @@ class DesktopFrontEnd : public FrontEnd {
   bool LetInputRun() override;
   bool IsMinimised() const override;
   void ShowStepsBanner(const std::string& word) override;
-  void ShowStep(int lineNumber, const std::string& text, const std::string& status) override;
+  StepReply ShowStep(int lineNumber, const std::string& text, const std::string& status) override;
   void WaitSeconds(double seconds) override;
   void GraphWindowFilled() override;
 

@@ -34,6 +34,12 @@ struct TwoNumberRequest {
   Currency first, second;
 };
 
+// One step of a script pass, as the steps viewer shows it.
+struct StepRequest {
+  int line = 0;
+  std::string text, status;
+};
+
 // Open wants a file that exists; Save asks before replacing one; OpenOrCreate
 // takes any name, since the table creates a file that is not there yet.
 enum class FileMode { Open, Save, OpenOrCreate };
@@ -53,4 +59,6 @@ class Dialogs {
   // Lets the player pick and set up the printer the caller prepared; false
   // when cancelled.
   virtual bool ChoosePrinter(QPrinter& printer, const std::string& title) = 0;
+  // The steps viewer: waits for the player's Next, "Run to end" or Cancel.
+  virtual StepReply Step(const StepRequest& step) = 0;
 };

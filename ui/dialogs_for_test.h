@@ -30,6 +30,8 @@ class QueuedDialogs : public Dialogs {
   std::deque<std::optional<std::pair<Currency, Currency>>> numberPairs;
   std::deque<std::optional<SettleReply>> settles;
   std::deque<std::optional<std::string>> files;
+  std::deque<StepReply> stepReplies;  // Next when empty
+  std::vector<StepRequest> steps;     // every step shown
   // Each printer chosen prints to this PDF file.
   std::deque<std::string> printFiles;
 
@@ -68,6 +70,10 @@ class QueuedDialogs : public Dialogs {
   std::optional<std::string> FileName(const std::string& title, const std::string& pattern, FileMode mode) override {
     filesAsked.push_back({title, pattern, mode});
     return Take(files, std::optional<std::string>());
+  }
+  StepReply Step(const StepRequest& step) override {
+    steps.push_back(step);
+    return Take(stepReplies, StepReply::Next);
   }
   bool ChoosePrinter(QPrinter& printer, const std::string& title) override {
     printersAsked.push_back(title);

@@ -72,6 +72,13 @@ std::optional<SettleReply> ModalDialogs::Settle(const SettleNotice& notice) {
   return dialog.Answer();
 }
 
+StepReply ModalDialogs::Step(const StepRequest& step) {
+  StepsViewer viewer(stepScreens_, parent_);
+  viewer.Show(step.line, step.text, step.status);
+  viewer.exec();
+  return viewer.Reply();
+}
+
 std::optional<std::string> ModalDialogs::FileName(const std::string& title, const std::string& pattern,
                                                   FileMode mode) {
   const bool save = mode == FileMode::Save;

@@ -6,7 +6,10 @@
 #include <QString>
 #include <QWidget>
 
+#include <functional>
+
 #include "ui/dialogs.h"
+#include "ui/steps_viewer.h"
 
 // "*.crp" -> "Game files (*.crp);;All files (*)".
 QString FileFilter(const std::string& pattern);
@@ -27,8 +30,12 @@ class ModalDialogs : public Dialogs {
   std::optional<SettleReply> Settle(const SettleNotice& notice) override;
   std::optional<std::string> FileName(const std::string& title, const std::string& pattern, FileMode mode) override;
   bool ChoosePrinter(QPrinter& printer, const std::string& title) override;
+  StepReply Step(const StepRequest& step) override;
+  // What the steps viewer's menus open: the main window's screens.
+  void SetStepScreens(std::function<void(StatsScreenId)> open) { stepScreens_ = std::move(open); }
 
  private:
   QPointer<QWidget> parent_;
   QString folder_;
+  std::function<void(StatsScreenId)> stepScreens_;
 };

@@ -16,4 +16,5 @@ class PictureDialogs : public Dialogs {
   std::optional<SettleReply> Settle(const SettleNotice&) override { return std::nullopt; }
   std::optional<std::string> FileName(const std::string&, const std::string&, FileMode) override { return std::nullopt; }
   bool ChoosePrinter(QPrinter&, const std::string&) override { return false; }
+  StepReply Step(const StepRequest&) override { return StepReply::Next; }
 };
