@@ -12,7 +12,8 @@ endif()
 set(expected auto-play hot-keys dice-roll-files bankroll-graph bankroll-graph-running main-window table-empty table-busy table-busy-small table-hop-bets pad message notice-winner notice-lost prompt-number about help
     summary roll-totals roll-frequencies bet-results bet-trends games-log games-log-histogram chip-stacks flags
     configure-checks-dice configure-sound configure-comps configure-colors configure-misc configure-bankroll
-    configure-bets configure-payoffs configure-probability configure-advantage)
+    configure-bets configure-payoffs configure-probability configure-advantage
+    auto-bet-lines auto-bet-text steps)
 foreach(name ${expected})
   set(png ${WORK}/png/${name}.png)
   if(NOT EXISTS ${png})

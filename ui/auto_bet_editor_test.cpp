@@ -274,8 +274,8 @@ TEST(StepsViewer, ARollShowsEachStepAndTheAnswersGoBack) {
   EXPECT_EQ(d.dialogs.steps[1].text, "Bet $5 on Field");
   EXPECT_FALSE(d.table.State().ShowingSteps);
 
-  std::vector<StatsScreenId> opened;
-  StepsViewer viewer([&](StatsScreenId id) { opened.push_back(id); });
+  std::vector<MenuCommand> opened;
+  StepsViewer viewer([&](MenuCommand id) { opened.push_back(id); });
   viewer.Show(1, "Bet $5 on Field", "Action taken.");
   EXPECT_EQ(viewer.findChild<QLabel*>(QStringLiteral("lblLineNum"))->text(), QStringLiteral("Line #1"));
   EXPECT_EQ(viewer.findChild<QLabel*>(QStringLiteral("lblAutoBetStep"))->text(), QStringLiteral("Bet $5 on Field"));
@@ -293,7 +293,7 @@ TEST(StepsViewer, ARollShowsEachStepAndTheAnswersGoBack) {
   for (const StatsScreenEntry& e : StepsViewerScreens())
     viewer.findChild<QAction*>(QString::fromLatin1(e.name))->trigger();
   ASSERT_EQ(opened.size(), StepsViewerScreens().size());
-  EXPECT_EQ(opened.back(), StatsScreenId::Flags);
+  EXPECT_EQ(opened.back(), MenuCommand::Flags);
 }
 
 }  // namespace

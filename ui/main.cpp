@@ -73,6 +73,8 @@ int main(int argc, char** argv) {
   Table table(frontEnd);
   MainWindow window(table, frontEnd, dialogs, sounds, paths);
   dialogs.SetParent(&window);
+  // The steps viewer's menus open the screens the main menu's entries do.
+  dialogs.SetStepScreens([&window](MenuCommand command) { window.Action(command)->trigger(); });
   window.show();
   table.StartUp(folder.string(), true);
   return app.exec();

@@ -36,16 +36,6 @@ namespace {
 constexpr int kLiveRedrawMs = 50;
 const QString kAppName = QStringLiteral("Dicemill");
 
-// Screens that later versions of the window open; their items stay disabled
-// until then rather than doing nothing when chosen.
-constexpr std::array kScreensToCome = {
-    MenuCommand::AutoBet,
-};
-
-bool ScreenToCome(MenuCommand command) {
-  return std::find(kScreensToCome.begin(), kScreensToCome.end(), command) != kScreensToCome.end();
-}
-
 // The view switches are the player's, not the game's: kept in the user's settings.
 const char* ViewSetting(MenuCommand command) {
   switch (command) {
@@ -162,14 +152,13 @@ void MainWindow::Perform(MenuCommand command) {
     case AutoPlay: OpenAutoPlay(); break;
     case HotKeys: OpenHotKeys(); break;
     case Configure: OpenConfigure(); break;
+    case AutoBet: OpenAutoBet(); break;
     case GamesLogFile: ChooseGamesLog(table_, dialogs_); break;
     case DiceRollFiles: OpenRollFiles(); break;
     case Contents: OpenHelp(false); break;
     case Search: OpenHelp(true); break;
     case About: AboutDialog(QApplication::applicationVersion(), this).exec(); break;
-    default:
-      OpenStatistics(command);  // the screens to come have their items disabled
-      break;
+    default: OpenStatistics(command); break;
   }
 }
 
@@ -308,7 +297,7 @@ void MainWindow::UpdateMenus() {
   const bool busy = table_.Busy();
   for (const MenuItemEntry& entry : MainMenuItems()) {
     QAction* action = Action(entry.command);
-    action->setEnabled(!ScreenToCome(entry.command) && (!busy || entry.duringRun == DuringRun::Enabled));
+    action->setEnabled(!busy || entry.duringRun == DuringRun::Enabled);
   }
   Action(MenuCommand::AutoRoll)->setText(tr(AutoRollCaption(busy && runKind_ == RunKind::AutoRoll)));
   // A Hyper-Drive run is stopped from its own screen, Esc or Exit.

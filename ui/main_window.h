@@ -22,6 +22,7 @@ class DiceRollFilesScreen;
 class HotKeysScreen;
 class BankrollGraphScreen;
 class HelpWindow;
+class AutoBetEditor;
 class ConfigureWindow;
 class StatisticsScreen;
 class RollPad;
@@ -55,6 +56,8 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   RollPad* Pad() const;
   AutoPlayScreen* AutoPlay() const;
   HotKeysScreen* HotKeys() const;
+  AutoBetEditor* AutoBetEditorWindow() const;
+  void OpenAutoBet();
   // The Configure window while it is open, or nullptr.
   ConfigureWindow* Configure() const;
   void OpenConfigure();
@@ -143,6 +146,7 @@ class MainWindow : public QMainWindow, public TableListener, public TableScreen 
   QPointer<HotKeysScreen> hotKeys_;
   QPointer<DiceRollFilesScreen> rollFiles_;
   QPointer<ConfigureWindow> configure_;
+  QPointer<AutoBetEditor> autoBet_;
   std::map<MenuCommand, QPointer<StatisticsScreen>> statistics_;
   QHash<int, QAction*> actions_;
   QTimer liveTimer_;           // redraws from the run's snapshot while it runs

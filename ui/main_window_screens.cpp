@@ -6,6 +6,7 @@
 
 #include "engine/game.h"
 #include "sim/table.h"
+#include "ui/auto_bet_editor.h"
 #include "ui/auto_play_screen.h"
 #include "ui/bankroll_graph_screen.h"
 #include "ui/dice_roll_files_screen.h"
@@ -124,6 +125,13 @@ void MainWindow::OpenHotKeys() { OpenScreen(hotKeys_); }
 void MainWindow::OpenRollFiles() { OpenScreen(rollFiles_); }
 
 HotKeysScreen* MainWindow::HotKeys() const { return hotKeys_; }
+
+AutoBetEditor* MainWindow::AutoBetEditorWindow() const { return autoBet_; }
+
+void MainWindow::OpenAutoBet() {
+  Reveal(autoBet_, [this] { return new AutoBetEditor(table_, dialogs_, paths_.dataFolder.toStdString(), this); });
+  autoBet_->Reload();
+}
 
 ConfigureWindow* MainWindow::Configure() const { return configure_; }
 

@@ -32,10 +32,10 @@ class ModalDialogs : public Dialogs {
   bool ChoosePrinter(QPrinter& printer, const std::string& title) override;
   StepReply Step(const StepRequest& step) override;
   // What the steps viewer's menus open: the main window's screens.
-  void SetStepScreens(std::function<void(StatsScreenId)> open) { stepScreens_ = std::move(open); }
+  void SetStepScreens(std::function<void(MenuCommand)> open) { stepScreens_ = std::move(open); }
 
  private:
   QPointer<QWidget> parent_;
   QString folder_;
-  std::function<void(StatsScreenId)> stepScreens_;
+  std::function<void(MenuCommand)> stepScreens_;
 };

@@ -14,6 +14,8 @@
 #include "engine/catalogue.h"
 #include "sim/table.h"
 #include "ui/about_dialog.h"
+#include "ui/auto_bet_editor.h"
+#include "ui/steps_viewer.h"
 #include "ui/auto_play_screen.h"
 #include "ui/dice_roll_files_screen.h"
 #include "ui/hot_keys_screen.h"
@@ -233,6 +235,21 @@ bool SaveStatTables(const QString& folder, const DesktopPaths& paths) {
   return all;
 }
 
+// The Auto-Bet editor's two views of one script, and the steps viewer.
+bool SaveEditors(const QString& folder, const DesktopPaths& paths) {
+  PictureTable t(paths);
+  t.window->Action(MenuCommand::AutoBet)->trigger();
+  AutoBetEditor* editor = t.window->AutoBetEditorWindow();
+  if (!editor) return false;
+  FillSampleAutoBets(*editor);
+  bool all = ::Save(*editor, folder, QStringLiteral("auto-bet-lines"));
+  editor->ShowTextView();
+  all = ::Save(*editor, folder, QStringLiteral("auto-bet-text")) && all;
+  StepsViewer steps([](MenuCommand) {});
+  ShowSampleStep(steps);
+  return ::Save(steps, folder, QStringLiteral("steps")) && all;
+}
+
 // Every tab of the Configure window, with money on the Bankroll tab and a
 // changed payoff in view on the Payoffs tab.
 bool SaveConfigureTabs(const QString& folder, const DesktopPaths& paths) {
@@ -269,6 +286,7 @@ int WriteScreenshots(const QString& folder, const DesktopPaths& paths) {
   all = SaveStatisticsScreens(folder, paths) && all;
   all = SaveStatTables(folder, paths) && all;
   all = SaveConfigureTabs(folder, paths) && all;
+  all = SaveEditors(folder, paths) && all;
   MessageDialog message(SampleMessage());
   all = Save(message, folder, QStringLiteral("message")) && all;
   SettleNoticeDialog winner(SampleWonNotice());

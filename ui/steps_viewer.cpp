@@ -9,15 +9,15 @@
 
 const std::vector<StatsScreenEntry>& StepsViewerScreens() {
   static const std::vector<StatsScreenEntry> screens = {
-      {StatsScreenId::Summary, "&Summary ...", "mnuSummary"},
-      {StatsScreenId::RollTotals, "Roll &Totals ...", "mnuRolltotals"},
-      {StatsScreenId::RollFrequencies, "Roll &Frequencies ...", "mnuRollFreqs"},
-      {StatsScreenId::Bankroll, "&Bankroll / Hyper-Drive ...", "mnuBankroll"},
-      {StatsScreenId::BetResults, "Bet R&esults ...", "mnuBetStats"},
-      {StatsScreenId::BetTrends, "Bet T&rends ...", "mnuBetsWonLost"},
-      {StatsScreenId::GamesLog, "&Games Log ...", "mnuGamesLog"},
-      {StatsScreenId::ChipStacks, "&Chip Stacks ...", "mnuChipStacks"},
-      {StatsScreenId::Flags, "F&lags ...", "mnuFlagValues"},
+      {MenuCommand::Summary, "&Summary ...", "mnuSummary"},
+      {MenuCommand::RollTotals, "Roll &Totals ...", "mnuRolltotals"},
+      {MenuCommand::RollFrequencies, "Roll &Frequencies ...", "mnuRollFreqs"},
+      {MenuCommand::Bankroll, "&Bankroll / Hyper-Drive ...", "mnuBankroll"},
+      {MenuCommand::BetResults, "Bet R&esults ...", "mnuBetStats"},
+      {MenuCommand::BetTrends, "Bet T&rends ...", "mnuBetsWonLost"},
+      {MenuCommand::GamesLog, "&Games Log ...", "mnuGamesLog"},
+      {MenuCommand::ChipStacks, "&Chip Stacks ...", "mnuChipStacks"},
+      {MenuCommand::Flags, "F&lags ...", "mnuFlagValues"},
   };
   return screens;
 }

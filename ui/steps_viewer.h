@@ -9,21 +9,20 @@
 #include <vector>
 
 #include "engine/frontend.h"
+#include "ui/menu_tree.h"
 
 class QLabel;
 
-// The screens the viewer's menus open; the main window knows how.
-enum class StatsScreenId { Summary, RollTotals, RollFrequencies, Bankroll, BetResults, BetTrends, GamesLog, ChipStacks, Flags };
-
-// Each id with its menu caption and control name, in menu order.
+// The screens the viewer's menus open, each with its menu caption and
+// control name, in menu order; the main window opens them.
 struct StatsScreenEntry {
-  StatsScreenId id;
+  MenuCommand id;  // the main menu's entry of the same meaning
   const char* caption;
   const char* name;
 };
 const std::vector<StatsScreenEntry>& StepsViewerScreens();
 
-using OpenStatsScreen = std::function<void(StatsScreenId)>;
+using OpenStatsScreen = std::function<void(MenuCommand)>;
 
 class StepsViewer : public QDialog {
   Q_OBJECT
