@@ -3,7 +3,10 @@
 #   PYTHONPATH=build/python /usr/bin/python3 -c "import dicemill"
 # works from the build tree, and installed where Debian's Python looks.
 option(DICEMILL_PYTHON "Build the Python module when pybind11 and Python are found" ON)
-if(NOT DICEMILL_PYTHON)
+# An instrumented module would need the sanitizers' runtime loaded into the
+# interpreter before anything else: the sanitized builds leave it out.
+if(NOT DICEMILL_PYTHON OR DICEMILL_FUZZ OR DICEMILL_SANITIZE)
+  set(DICEMILL_PYTHON OFF)
   return()
 endif()
 # Debian's interpreter, whose packages (numpy, pytest) the module is tested
