@@ -57,19 +57,13 @@ class PythonFrontEnd : public SilentFrontEnd {
 struct SettledBet {
   int bet = 0;
   std::string name;
-  std::string outcome;  // "win", "lose", "odds_win" or "odds_lose"
+  // By what the bankroll gained: "win", "lose" or "push" (odds handed back
+  // too). A Field that loses on a row paying -1 to 1 is a "lose" here.
+  std::string outcome;
   Currency amount, net;
 };
 
-const char* OutcomeName(Outcome o) {
-  switch (o) {
-    case Outcome::Win: return "win";
-    case Outcome::Loss: return "lose";
-    case Outcome::OddsWin: return "odds_win";
-    case Outcome::OddsLoss: return "odds_lose";
-  }
-  return "win";
-}
+const char* OutcomeName(Currency net) { return net > 0 ? "win" : net < 0 ? "lose" : "push"; }
 
 // What one roll did.
 struct RollReport {
@@ -96,7 +90,7 @@ class PythonListener : public TableListener {
     if (keep) {
       settled.clear();
       for (const Settlement& s : settlements)
-        settled.push_back({s.BetId, std::string(bet::CatalogueName(s.BetId)), OutcomeName(s.Outcome), s.Amount, s.Net});
+        settled.push_back({s.BetId, std::string(bet::CatalogueName(s.BetId)), OutcomeName(s.Net), s.Amount, s.Net});
     }
     if (callbacks.contains("roll")) Call("roll", py::cast(settled));
   }

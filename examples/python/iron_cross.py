@@ -20,7 +20,7 @@ def iron_cross(table):
 
 table = dicemill.Table(seed=1, bankroll=2_000)
 path = table.play(iron_cross, 100_000)
-print(f"{len(path):,} rolls: bankroll ends at ${path[-1]:,.2f}, low ${path.min():,.2f}, high ${path.max():,.2f}")
+print(f"{len(path):,} rolls: the bankroll ends at {path[-1]:,.2f}, low {path.min():,.2f}, high {path.max():,.2f}")
 
 # One roll by hand, and what it settled.
 table.bet("Place 6", 12)
