@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "cli/exit_codes.h"
-#include "cli/terminal_text.h"
+#include "sim/terminal_text.h"
 #include "engine/catalogue.h"
 #include "engine/game.h"
 #include "sim/table.h"

@@ -11,7 +11,7 @@
 #include "cli/exit_codes.h"
 #include "cli/json_lines.h"
 #include "cli/roll_text.h"
-#include "cli/terminal_text.h"
+#include "sim/terminal_text.h"
 #include "engine/dice_roll_files.h"
 #include "engine/file_errors.h"
 

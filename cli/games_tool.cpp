@@ -6,7 +6,7 @@
 
 #include "cli/exit_codes.h"
 #include "cli/json_lines.h"
-#include "cli/terminal_text.h"
+#include "sim/terminal_text.h"
 #include "engine/script.h"
 #include "stats/games_log.h"
 #include "store/games_log_file.h"

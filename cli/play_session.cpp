@@ -10,7 +10,7 @@
 #include "cli/json_lines.h"
 #include "cli/settings_registry.h"
 #include "cli/table_answer.h"
-#include "cli/table_state_json.h"
+#include "sim/table_state_json.h"
 #include "engine/game.h"
 #include "sim/table.h"
 #include "sim/table_limits.h"

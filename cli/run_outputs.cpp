@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "cli/terminal_text.h"
+#include "sim/terminal_text.h"
 #include "store/games_log_file.h"
 
 namespace {

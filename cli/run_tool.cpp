@@ -17,7 +17,7 @@
 #include "cli/run_outputs.h"
 #include "cli/run_report.h"
 #include "cli/script_tool.h"
-#include "cli/terminal_text.h"
+#include "sim/terminal_text.h"
 #include "engine/game.h"
 #include "script/checker.h"
 #include "sim/batch.h"

@@ -7,7 +7,7 @@
 
 #include "cli/exit_codes.h"
 #include "cli/script_words.h"
-#include "cli/terminal_text.h"
+#include "sim/terminal_text.h"
 #include "script/checker.h"
 #include "script/loop_check.h"
 #include "script/text_form.h"

@@ -1,6 +1,7 @@
 # Installs the build tree into a fresh prefix and checks that every program
 # and shipped file landed where the programs and the desktop look for them.
-#   cmake -DSOURCE=<tree> -DBUILD=<build> -DPREFIX=<temp> -DAPP=<0|1> -P install_test.cmake
+#   cmake -DSOURCE=<tree> -DBUILD=<build> -DPREFIX=<temp> -DAPP=<0|1> [-DPYTHON_MODULE=<path under prefix>]
+#         -P install_test.cmake
 foreach(var SOURCE BUILD PREFIX)
   if(NOT ${var})
     message(FATAL_ERROR "install_test: ${var} is not set")
@@ -20,6 +21,9 @@ if(APP)
   list(APPEND expected bin/dicemill share/applications/org.dicemill.Dicemill.desktop
        share/icons/hicolor/scalable/apps/org.dicemill.Dicemill.svg
        share/metainfo/org.dicemill.Dicemill.metainfo.xml)
+endif()
+if(PYTHON_MODULE)
+  list(APPEND expected ${PYTHON_MODULE})
 endif()
 # Each shipped file, from the tree, so that a file added later is checked too.
 foreach(pair "samples/*;${share}/samples" "data/sounds/*;${share}/sounds" "docs/*.md;${share}/docs"

@@ -16,6 +16,7 @@
 #include "script/values.h"
 #include "sim/fresh_table.h"
 #include "sim/hyper_drive.h"
+#include "sim/strategy_watcher.h"
 #include "stats/bet_results.h"
 #include "dice/file_read.h"
 #include "sim/assemble_game.h"
@@ -170,6 +171,8 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
   } else if (g.InitPending && g.AutoBetActivated && g.AutoBet.NumLines() > 0) {
     StartScript(g, Script(g.AutoBet));  // a saved game whose first cycle was still due
   }
+  // A strategy bets before the first roll as before every other.
+  if (auto* strategy = dynamic_cast<StrategyWatcher*>(options.Watcher)) strategy->BeforeFirstRoll(g);
   g.RollCountStop = g.RollCountLeft = static_cast<int32_t>(options.Rolls);
   g.KeepRolling = false;
   if (!control.Stop.load()) StartHyperDrive(g);

@@ -58,9 +58,9 @@ TableResult Table::MarkUnsavedIf(bool changed) {
 
 // --- Start and end -----------------------------------------------------------
 
-void Table::StartFresh() {
+void Table::StartFresh(const FreshTable& how) {
   Command([&](Game& g) {
-    SetUpFreshTable(g, {});
+    SetUpFreshTable(g, how);
     return TableResult{};
   });
 }

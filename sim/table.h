@@ -19,6 +19,7 @@
 #include "engine/payoffs.h"
 #include "engine/rules.h"
 #include "script/hot_key_run.h"
+#include "sim/fresh_table.h"
 #include "sim/hyper_drive.h"
 #include "sim/run_controller.h"
 #include "sim/table_result.h"
@@ -64,7 +65,7 @@ class Table {
   // --- Start and end ---------------------------------------------------------
   // A table with no file: the built-in defaults and the first roll (as every
   // game of a batch run starts).
-  void StartFresh();
+  void StartFresh(const FreshTable& how = {});
   // The start of a screen: claims the data folder (another Dicemill holding
   // it leaves this one reading only), then opens its default game.
   void StartUp(const std::string& folder, bool claimFolder);

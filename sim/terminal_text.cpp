@@ -1,4 +1,4 @@
-#include "cli/terminal_text.h"
+#include "sim/terminal_text.h"
 
 #include <cctype>
 #include <cstring>

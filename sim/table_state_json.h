@@ -1,7 +1,7 @@
 #pragma once
 // The `state` object of the play protocol: the table as a client sees it.
 
-#include "cli/json_lines.h"
+#include "sim/money_json.h"
 
 struct Game;
 

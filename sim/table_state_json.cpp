@@ -1,8 +1,8 @@
-#include "cli/table_state_json.h"
+#include "sim/table_state_json.h"
 
 #include <string>
 
-#include "cli/json_lines.h"
+#include "sim/money_json.h"
 #include "engine/game.h"
 
 namespace {
