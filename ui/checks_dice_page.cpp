@@ -37,8 +37,9 @@ constexpr Currency kMostCheck = 100'000;
 class ChipSwatch : public QWidget {
  public:
   explicit ChipSwatch(QWidget* parent) : QWidget(parent) { setFixedSize(44, 44); }
-  void SetValue(Currency value) {
+  void SetValue(Currency value, ChipStyle style) {
     value_ = value;
+    style_ = style;
     update();
   }
 
@@ -46,25 +47,33 @@ class ChipSwatch : public QWidget {
   void paintEvent(QPaintEvent*) override {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
-    PaintChip(p, rect().center() + QPointF(0.5, 0.5), 20, value_, AmountLabel(value_));
+    PaintChip(p, rect().center() + QPointF(0.5, 0.5), 20, value_, AmountLabel(value_), style_);
   }
 
  private:
   Currency value_;
+  ChipStyle style_ = ChipStyle::Striped;
 };
 
 // A pair of dice as the table throws them.
 class DiceSample : public QWidget {
  public:
   explicit DiceSample(QWidget* parent) : QWidget(parent) { setFixedSize(96, 48); }
+  void SetStyle(DiceStyle style) {
+    style_ = style;
+    update();
+  }
 
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
-    PaintDie(p, QRectF(4, 4, 40, 40), 5);
-    PaintDie(p, QRectF(52, 4, 40, 40), 2);
+    PaintDie(p, QRectF(4, 4, 40, 40), 5, style_);
+    PaintDie(p, QRectF(52, 4, 40, 40), 2, style_);
   }
+
+ private:
+  DiceStyle style_ = DiceStyle::CasinoRed;
 };
 
 int32_t UpperSeedLimit(const Game& g) {
@@ -83,8 +92,9 @@ QString Text(const std::string& s) { return QString::fromStdString(s); }
 
 }  // namespace
 
-QStringList ChipStyleNames() { return {QObject::tr("Classic"), QObject::tr("Casino"), QObject::tr("Plain")}; }
-QStringList DiceStyleNames() { return {QObject::tr("Classic"), QObject::tr("Casino"), QObject::tr("Translucent")}; }
+// In the order of ChipStyle and DiceStyle.
+QStringList ChipStyleNames() { return {QObject::tr("Casino stripes"), QObject::tr("Plain")}; }
+QStringList DiceStyleNames() { return {QObject::tr("Casino red"), QObject::tr("Ivory"), QObject::tr("Translucent")}; }
 
 ChecksDicePage::ChecksDicePage(Table& table, Dialogs& dialogs, QWidget* parent)
     : ConfigPage(parent), table_(table), dialogs_(dialogs) {
@@ -175,7 +185,9 @@ QWidget* ChecksDicePage::BuildLooks() {
   diceStyle_->addItems(DiceStyleNames());
   connect(diceStyle_, &QComboBox::activated, this, [this](int index) { SetAndRefresh("DiceStyle", index); });
   form->addRow(tr("Dice style:"), diceStyle_);
-  form->addRow(QString(), new DiceSample(box));
+  auto* sample = new DiceSample(box);
+  sample->setObjectName(QStringLiteral("picDiceSample"));
+  form->addRow(QString(), sample);
   return box;
 }
 
@@ -189,7 +201,8 @@ void ChecksDicePage::Refresh() {
       checks_[i]->setText(Text(FormatNumberWithCommas(value)));
       checks_[i]->setModified(false);
     }
-    if (auto* swatch = findChild<ChipSwatch*>(QString("chipSwatch%1").arg(i))) swatch->SetValue(value);
+    if (auto* swatch = findChild<ChipSwatch*>(QString("chipSwatch%1").arg(i)))
+      swatch->SetValue(value, ChipStyleOf(g.ChipStyle));
   }
   rng_->setCurrentIndex(g.RngChoice >= 0 && g.RngChoice < kRngCount ? g.RngChoice : 0);
   seedMode_->button(g.UserSeedMode ? 1 : 0)->setChecked(true);
@@ -198,6 +211,7 @@ void ChecksDicePage::Refresh() {
   // A file's style past the list shows the first, as the table draws it.
   chipStyle_->setCurrentIndex(g.ChipStyle < chipStyle_->count() ? g.ChipStyle : 0);
   diceStyle_->setCurrentIndex(g.DiceStyle < diceStyle_->count() ? g.DiceStyle : 0);
+  if (auto* sample = findChild<DiceSample*>(QStringLiteral("picDiceSample"))) sample->SetStyle(DiceStyleOf(g.DiceStyle));
 }
 
 void ChecksDicePage::CommitPendingEdit() {

@@ -8,6 +8,7 @@
 #include "engine/game.h"
 #include "ui/config_page_for_test.h"
 #include "ui/screen_desk_for_test.h"
+#include "ui/table_look.h"
 
 namespace {
 
@@ -64,6 +65,7 @@ TEST(ChecksDicePage, GeneratorChoicesGoToTheGameWithoutSeeding) {
   Click(page, "chkReSeed");
   auto* chips = Control<QComboBox>(page, "cmbChipStyle");
   emit chips->activated(1);
+  emit Control<QComboBox>(page, "cmbDiceStyle")->activated(2);
 
   const Game& g = desk.table.State();
   EXPECT_EQ(g.RngChoice, 5);
@@ -71,6 +73,9 @@ TEST(ChecksDicePage, GeneratorChoicesGoToTheGameWithoutSeeding) {
   EXPECT_TRUE(g.UserSeedMode);
   EXPECT_EQ(g.ReSeedNewGames, !reSeed);
   EXPECT_EQ(g.ChipStyle, 1);
+  // The table draws what was chosen.
+  EXPECT_EQ(LookOf(g).chipStyle, ChipStyle::Plain);
+  EXPECT_EQ(LookOf(g).diceStyle, DiceStyle::Translucent);
   EXPECT_TRUE(desk.dialogs.messages.empty());
 }
 

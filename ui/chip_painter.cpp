@@ -47,10 +47,11 @@ void SetFontFor(QPainter& p, const QString& text, qreal width, qreal height) {
 }
 
 // The top face: the colour, a ring of edge stripes and an inlay.
-void PaintFace(QPainter& p, QPointF c, qreal rx, qreal ry, const QColor& colour) {
+void PaintFace(QPainter& p, QPointF c, qreal rx, qreal ry, const QColor& colour, ChipStyle style) {
   p.setPen(QPen(colour.darker(170), rx * 0.05));
   p.setBrush(colour);
   p.drawEllipse(c, rx, ry);
+  if (style == ChipStyle::Plain) return;
   p.setPen(Qt::NoPen);
   p.setBrush(StripeColour(colour));
   constexpr int kStripes = 8;
@@ -112,16 +113,19 @@ std::vector<Currency> ChipsFor(Currency amount, const CheckValues& checks, int l
 
 QString AmountLabel(Currency amount) { return QStringLiteral("$") + QString::fromStdString(FormatNumberWithCommas(amount)); }
 
-void PaintChip(QPainter& p, QPointF centre, qreal radius, Currency value, const QString& label) {
+ChipStyle ChipStyleOf(int index) { return index == 1 ? ChipStyle::Plain : ChipStyle::Striped; }
+
+void PaintChip(QPainter& p, QPointF centre, qreal radius, Currency value, const QString& label, ChipStyle style) {
   p.save();
   p.setRenderHint(QPainter::Antialiasing);
   const QColor colour = ChipColour(value);
-  PaintFace(p, centre, radius, radius, colour);
+  PaintFace(p, centre, radius, radius, colour, style);
   PaintLabel(p, centre, radius * 0.62, radius * 0.62, colour, label);
   p.restore();
 }
 
-void PaintChipStack(QPainter& p, QPointF base, qreal radius, Currency amount, const CheckValues& checks) {
+void PaintChipStack(QPainter& p, QPointF base, qreal radius, Currency amount, const CheckValues& checks,
+                    ChipStyle style) {
   if (amount.raw <= 0) return;
   p.save();
   p.setRenderHint(QPainter::Antialiasing);
@@ -143,13 +147,15 @@ void PaintChipStack(QPainter& p, QPointF base, qreal radius, Currency amount, co
     p.drawPath(side);
     // The edge stripes seen on the side of the chip.
     p.setPen(QPen(StripeColour(colour), rx * 0.13));
-    for (qreal at : {-0.62, 0.0, 0.62}) {
-      const qreal x = c.x() + at * rx, drop = ry * std::sqrt(1 - at * at);
-      p.drawLine(QPointF(x, c.y() - t * 0.85 + drop * 0.9), QPointF(x, c.y() + drop * 0.9 - t * 0.1));
+    if (style == ChipStyle::Striped) {
+      for (qreal at : {-0.62, 0.0, 0.62}) {
+        const qreal x = c.x() + at * rx, drop = ry * std::sqrt(1 - at * at);
+        p.drawLine(QPointF(x, c.y() - t * 0.85 + drop * 0.9), QPointF(x, c.y() + drop * 0.9 - t * 0.1));
+      }
     }
     c.ry() -= t;
     if (i + 1 == chips.size()) {
-      PaintFace(p, c, rx, ry, colour);
+      PaintFace(p, c, rx, ry, colour, style);
       PaintLabel(p, c, rx * 0.66, ry * 0.66, colour, AmountLabel(amount).mid(1));
     }
   }

@@ -25,10 +25,19 @@ std::vector<Currency> ChipsFor(Currency amount, const CheckValues& checks, int l
 // The amount as the layout labels it: "$1,250", "$7.50".
 QString AmountLabel(Currency amount);
 
+// The looks a player may give the chips, in the order Configure lists them:
+// a casino's edge stripes, or plain colour.
+enum class ChipStyle { Striped, Plain };
+inline constexpr int kChipStyles = 2;
+// The style a game's stored index names; an unknown index is the first.
+ChipStyle ChipStyleOf(int index);
+
 // One chip seen from above, with its value on its face (the tray's tools).
-void PaintChip(QPainter& p, QPointF centre, qreal radius, Currency value, const QString& label);
+void PaintChip(QPainter& p, QPointF centre, qreal radius, Currency value, const QString& label,
+               ChipStyle style = ChipStyle::Striped);
 // A bet's stack standing on `base`, its amount on the top chip.
-void PaintChipStack(QPainter& p, QPointF base, qreal radius, Currency amount, const CheckValues& checks);
+void PaintChipStack(QPainter& p, QPointF base, qreal radius, Currency amount, const CheckValues& checks,
+                    ChipStyle style = ChipStyle::Striped);
 // A bet's amount as a number on a dark ticket; answers the ticket's box.
 QRectF PaintAmount(QPainter& p, QPointF centre, qreal radius, Currency amount);
 // The small ON (white) or OFF (black) button beside a called bet.

@@ -69,5 +69,7 @@ TableLook LookOf(const Game& g) {
   look.field = FieldOf(g);
   look.scheme = g.TableScheme;
   look.colours = SchemeColours(g.TableScheme);
+  look.chipStyle = ChipStyleOf(g.ChipStyle);
+  look.diceStyle = DiceStyleOf(g.DiceStyle);
   return look;
 }

@@ -9,6 +9,7 @@
 #include "dice/money.h"
 #include "engine/catalogue.h"
 #include "ui/chip_painter.h"
+#include "ui/die_painter.h"
 #include "ui/layout_painter.h"
 
 struct Game;
@@ -36,6 +37,8 @@ struct TableLook {
   // The game's table scheme and its colours, which the layout is painted in.
   int scheme = 0;
   LayoutColours colours;
+  ChipStyle chipStyle = ChipStyle::Striped;
+  DiceStyle diceStyle = DiceStyle::CasinoRed;
 };
 
 // The look of a game's table. The display switches (Hop bets, numbers) are

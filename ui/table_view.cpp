@@ -163,7 +163,7 @@ void TableView::PaintTravel(QPainter& p) const {
   if (travel_.progress >= 1) return;
   const QPointF from = layout::ChipPoint(travel_.from), to = layout::ChipPoint(travel_.to);
   const QPointF at = from + (to - from) * travel_.progress;
-  PaintChipStack(p, at, layout::Marks().chipRadius, travel_.amount, look_.checks);
+  PaintChipStack(p, at, layout::Marks().chipRadius, travel_.amount, look_.checks, look_.chipStyle);
 }
 
 void TableView::PaintThrow(QPainter& p) const {
@@ -180,7 +180,8 @@ void TableView::PaintThrow(QPainter& p) const {
     p.save();
     p.translate(at + QPointF((i == 0 ? -1 : 1) * (side * 0.5 + 6), -hop));
     p.rotate((1 - throw_.progress) * (i == 0 ? 540 : -420));
-    PaintDie(p, QRectF(-side / 2, -side / 2, side, side), i == 0 ? throw_.tumbleFace1 : throw_.tumbleFace2);
+    PaintDie(p, QRectF(-side / 2, -side / 2, side, side), i == 0 ? throw_.tumbleFace1 : throw_.tumbleFace2,
+             look_.diceStyle);
     p.restore();
   }
   p.restore();
@@ -197,7 +198,7 @@ void TableView::PaintBets(QPainter& p) const {
     if (look_.betsAsNumbers) {
       marker.setX(PaintAmount(p, at, r * 0.8, amount).right() + r * 0.5);
     } else {
-      PaintChipStack(p, at, r, amount, look_.checks);
+      PaintChipStack(p, at, r, amount, look_.checks, look_.chipStyle);
     }
     const int32_t status = look_.statuses[id];
     if (status == status::kCalledOn || status == status::kCalledOff)
@@ -220,13 +221,13 @@ void TableView::PaintTray(QPainter& p) const {
     const QRectF caption(area.left(), area.bottom() - 13, area.width(), 12);
     if (tool >= kToolFirstChip && tool <= kToolLastChip) {
       const Currency value = look_.checks[tool - kToolFirstChip];
-      PaintChip(p, c, r, value, QString::fromStdString(FormatNumberWithCommas(value)));
+      PaintChip(p, c, r, value, QString::fromStdString(FormatNumberWithCommas(value)), look_.chipStyle);
       p.setFont(small);
       p.setPen(QColor(0xf3, 0xed, 0xd6));
       p.drawText(caption, Qt::AlignCenter, QString::number(tool));
     } else if (tool >= kToolFirstStack && tool <= kToolLastStack) {
       const TrayStackLook& stack = look_.stacks[tool - kToolFirstStack];
-      PaintChipStack(p, c + QPointF(0, r * 0.5), r * 0.9, stack.amount, look_.checks);
+      PaintChipStack(p, c + QPointF(0, r * 0.5), r * 0.9, stack.amount, look_.checks, look_.chipStyle);
       p.setFont(small);
       p.setPen(QColor(0xf3, 0xed, 0xd6));
       p.drawText(caption, Qt::AlignCenter, stack.amount.raw > 0 ? AmountLabel(stack.amount) : QStringLiteral("STACK"));
@@ -245,8 +246,8 @@ void TableView::PaintTray(QPainter& p) const {
   if (look_.die1 >= 1 && look_.die2 >= 1) {
     const QRectF dice = layout::Marks().dice;
     const qreal side = dice.height() * 0.78;
-    PaintDie(p, QRectF(dice.center().x() - side - 6, dice.center().y() - side / 2, side, side), look_.die1);
-    PaintDie(p, QRectF(dice.center().x() + 6, dice.center().y() - side / 2, side, side), look_.die2);
+    PaintDie(p, QRectF(dice.center().x() - side - 6, dice.center().y() - side / 2, side, side), look_.die1, look_.diceStyle);
+    PaintDie(p, QRectF(dice.center().x() + 6, dice.center().y() - side / 2, side, side), look_.die2, look_.diceStyle);
   }
 }
 
