@@ -21,7 +21,9 @@
 #include "engine/game.h"
 #include "script/checker.h"
 #include "sim/batch.h"
+#include "sim/fresh_table.h"
 #include "sim/table.h"
+#include "sim/told_front_end.h"
 
 namespace {
 
@@ -40,21 +42,10 @@ struct Refusal {
   std::string text;
 };
 
-// Reads the script once for all games; a refusal is told in the program's
-// own words.
-class ScriptReader : public SilentFrontEnd {
- public:
-  Reply ShowMessage(const std::string& title, const std::string& text, Buttons b) override {
-    told += (told.empty() ? "" : "\n") + title + ": " + TerminalText(text);
-    return SilentFrontEnd::ShowMessage(title, text, b);
-  }
-  std::string told;
-};
-
 Script ReadScript(const std::string& path, bool unchecked, std::ostream& err) {
   Script script;
   if (path.empty()) return script;
-  ScriptReader reader;
+  ToldFrontEnd reader;  // the script is read once for all games
   Table table(reader);
   const TableResult read = table.ReadScript(path);
   if (!read.Done()) {
@@ -78,14 +69,6 @@ int64_t CountOption(const std::string& option, const std::string& text, int64_t 
   return *n;
 }
 
-// The generator a game will play when none is given: the table's default.
-int DefaultRng() {
-  SilentFrontEnd ui;
-  Table table(ui);
-  table.StartFresh();
-  return table.State().RngChoice + 1;
-}
-
 RunOptions ReadRunOptions(const RunToolOptions& o) {
   RunOptions run = o.run;
   if (!o.games.empty()) run.Games = static_cast<int>(CountOption("--games", o.games, 1, kMostGames));
@@ -100,7 +83,7 @@ RunOptions ReadRunOptions(const RunToolOptions& o) {
     if (run.Games > 1 && !run.ReSeed)
       throw Refusal{"--games above 1 with --game needs --seed, or every game would roll the same dice"};
   } else if (run.Rng == 0) {
-    run.Rng = DefaultRng();
+    run.Rng = DefaultGeneratorNumber();
   }
   const int64_t largest = run.Rng == kRng3 ? kLargestSeedOfRng3 : kLargestSeed;
   const int64_t lastSeed = run.Seed + run.FirstGame + run.Games - 1;

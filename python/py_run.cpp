@@ -15,6 +15,7 @@
 #include "python/py_values.h"
 #include "sim/batch.h"
 #include "sim/run_report_json.h"
+#include "sim/fresh_table.h"
 #include "sim/table.h"
 
 namespace {
@@ -69,14 +70,6 @@ void InRange(const char* what, int64_t value, int64_t least, int64_t most) {
                           std::to_string(least) + " to " + std::to_string(most));
 }
 
-// The generator a game plays when none is given: the table's default.
-int DefaultRng() {
-  SilentFrontEnd ui;
-  Table table(ui);
-  table.StartFresh();
-  return table.State().RngChoice + 1;
-}
-
 // The options as the command line would read the same arguments.
 RunOptions OptionsOf(const RunArgs& a) {
   RunOptions run;
@@ -88,7 +81,7 @@ RunOptions OptionsOf(const RunArgs& a) {
   run.Rolls = a.rolls;
   run.Seed = a.seed;
   if (a.rng) InRange("rng", *a.rng, 1, 8);
-  run.Rng = a.rng ? *a.rng : DefaultRng();
+  run.Rng = a.rng ? *a.rng : DefaultGeneratorNumber();
   const int64_t largest = run.Rng == kRng3 ? kLargestSeedOfRng3 : kLargestSeed;
   if (run.Seed + run.Games - 1 > largest)
     throw py::value_error("the last game would take seed " + std::to_string(run.Seed + run.Games - 1) +

@@ -11,20 +11,11 @@
 #include "script/checker.h"
 #include "script/text_form.h"
 #include "sim/table.h"
+#include "sim/told_front_end.h"
 #include "sim/terminal_text.h"
 #include "stats/advantage.h"
 
 namespace {
-
-// Keeps what the table says while it reads a script.
-class ScriptReader : public SilentFrontEnd {
- public:
-  Reply ShowMessage(const std::string& title, const std::string& text, Buttons b) override {
-    told += (told.empty() ? "" : "\n") + title + ": " + TerminalText(text);
-    return SilentFrontEnd::ShowMessage(title, text, b);
-  }
-  std::string told;
-};
 
 // "LINE: Title", and the checker's message.
 TableResult FaultResult(const ScriptFault& fault) {
@@ -55,7 +46,7 @@ py::dict AdvantageRow(const Game& g, int id) {
 }  // namespace
 
 Script ReadCheckedScript(const std::string& path, bool unchecked) {
-  ScriptReader reader;
+  ToldFrontEnd reader;
   Table table(reader);
   const TableResult read = table.ReadScript(path);
   if (!read.Done())

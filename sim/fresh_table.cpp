@@ -2,6 +2,7 @@
 
 #include "engine/game.h"
 #include "engine/new_game.h"
+#include "sim/table.h"
 
 void SetUpFreshTable(Game& g, const FreshTable& how) {
   if (!how.reSeed) g.ReSeedNewGames = false;
@@ -11,4 +12,11 @@ void SetUpFreshTable(Game& g, const FreshTable& how) {
     g.BankrollInitAmount = *how.bankroll;
   }
   NewGame(g, false);
+}
+
+int DefaultGeneratorNumber() {
+  SilentFrontEnd ui;
+  Table table(ui);
+  table.StartFresh();
+  return table.State().RngChoice + 1;
 }

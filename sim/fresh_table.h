@@ -15,3 +15,6 @@ struct FreshTable {
 };
 
 void SetUpFreshTable(Game& g, const FreshTable& how);
+
+// The generator (1..8) a fresh table plays: a run's games when none is given.
+int DefaultGeneratorNumber();
