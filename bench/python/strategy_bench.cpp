@@ -28,6 +28,7 @@ constexpr int64_t kRollsAtTheTable = 20'000;
 // The strategy and the four ways of playing it, each returning the rolls played.
 constexpr const char* kPlays = R"(
 import dicemill
+import numpy  # Table.play's arrays would import it inside the first take
 
 # A run's table has no settings of its own: a one-line script turns Auto-Take on.
 FULL_ODDS_ON = "While\n  Next roll is a come-out roll\nthen\n  Set Auto-Take Full Odds on\n"
