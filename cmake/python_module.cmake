@@ -19,3 +19,18 @@ set(DICEMILL_PYTHON_DIR lib/python${Python3_VERSION_MAJOR}.${Python3_VERSION_MIN
 install(TARGETS dicemill_python LIBRARY DESTINATION ${DICEMILL_PYTHON_DIR})
 # The install test looks for it there.
 set(DICEMILL_PYTHON_INSTALLED ${DICEMILL_PYTHON_DIR}/$<TARGET_FILE_NAME:dicemill_python>)
+
+# Strategies written in Python timed by an interpreter embedded in a
+# benchmark of its own (dicemill_bench links no libpython), which imports the
+# module built above.
+if(DICEMILL_BENCH AND TARGET Python3::Python)
+  find_package(benchmark REQUIRED)
+  add_executable(dicemill_python_bench bench/python/strategy_bench.cpp)
+  target_link_libraries(dicemill_python_bench PRIVATE pybind11::embed benchmark::benchmark)
+  target_compile_definitions(dicemill_python_bench PRIVATE
+    DICEMILL_PYTHON_MODULE_DIR="$<TARGET_FILE_DIR:dicemill_python>" DICEMILL_SOURCE_DIR="${CMAKE_CURRENT_SOURCE_DIR}")
+  add_dependencies(dicemill_python_bench dicemill_python)
+  # One short take of each, so that a build that cannot embed or import
+  # fails a test rather than the next person timing it.
+  add_test(NAME PythonBenchmarkRuns COMMAND dicemill_python_bench --benchmark_min_time=0.01)
+endif()

@@ -11,8 +11,8 @@ const Game& Player::g() const {
   return *game;
 }
 
-PythonStrategy::PythonStrategy(py::function strategy)
-    : strategy_(std::move(strategy)), player_(py::cast(Player{})), view_(&player_.cast<Player&>()) {}
+PythonStrategy::PythonStrategy(py::function strategy, std::atomic<bool>& stop)
+    : strategy_(std::move(strategy)), player_(py::cast(Player{})), view_(&player_.cast<Player&>()), stop_(stop) {}
 
 void PythonStrategy::Call(Game& g) {
   if (failure_) return;
@@ -20,9 +20,13 @@ void PythonStrategy::Call(Game& g) {
   view_->game = &g;
   try {
     strategy_(player_);
+    // Python code notices Ctrl-C as it runs, a strategy written in C does
+    // not: a look at Python's pending-signal flag, no system call.
+    if (PyErr_CheckSignals() != 0) throw py::error_already_set();
   } catch (py::error_already_set& e) {
     failure_ = std::move(e);
     g.KeepRolling = false;  // the game ends at this roll
+    stop_ = true;           // and no other game starts
   }
   view_->game = nullptr;
 }

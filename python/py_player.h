@@ -4,6 +4,7 @@
 
 #include <pybind11/pybind11.h>
 
+#include <atomic>
 #include <optional>
 
 #include "sim/strategy_watcher.h"
@@ -21,10 +22,12 @@ struct Player {
 
 class PythonStrategy : public StrategyWatcher {
  public:
-  explicit PythonStrategy(py::function strategy);
+  // `stop` is the run's stop request: a strategy that raises ends the run.
+  PythonStrategy(py::function strategy, std::atomic<bool>& stop);
   void BeforeFirstRoll(Game& g) override { Call(g); }
   void LetInputRun(Game& g) override { Call(g); }
-  // Raises, with the GIL held, what the strategy raised; the run stopped there.
+  // Raises, with the GIL held, what the strategy raised (or Ctrl-C's
+  // KeyboardInterrupt, noticed between calls); the run stopped there.
   void RaiseAnyFailure();
 
  private:
@@ -32,6 +35,7 @@ class PythonStrategy : public StrategyWatcher {
   py::function strategy_;
   py::object player_;  // a Player, handed to every call
   Player* view_;       // the same, as C++ sees it
+  std::atomic<bool>& stop_;
   std::optional<py::error_already_set> failure_;
 };
 

@@ -10,6 +10,7 @@
 
 #include "engine/frontend.h"
 #include "engine/game.h"
+#include "python/py_interrupt.h"
 #include "python/py_player.h"
 #include "python/py_script.h"
 #include "python/py_values.h"
@@ -112,30 +113,31 @@ Played Play(const RunArgs& a) {
   const Script script = a.script       ? ReadCheckedScript(*a.script, a.unchecked)
                         : a.scriptText ? ScriptFromText(*a.scriptText, a.unchecked)
                                        : Script{};
+  RunControl control;
   std::optional<PythonStrategy> strategy;
   if (!a.strategy.is_none()) {
     if (!PyCallable_Check(a.strategy.ptr())) throw py::type_error("strategy must be callable: def strategy(table): ...");
-    strategy.emplace(py::reinterpret_borrow<py::function>(a.strategy));
+    strategy.emplace(py::reinterpret_borrow<py::function>(a.strategy), control.Stop);
     description.Options.Watcher = &*strategy;
   }
-  RunControl control;
   std::unique_ptr<BankrollPaths> paths;
   if (a.bankrollPath) {
     paths = std::make_unique<BankrollPaths>(description.Options.Games, description.Options.Rolls);
     control.Series = paths.get();
   }
   BatchResult batch;
-  std::string setUpError;
-  {
-    // The games touch no Python object: other Python threads go on meanwhile.
-    py::gil_scoped_release released;
-    try {
+  try {
+    if (strategy) {
+      // The games play on this thread, which takes the GIL back for every
+      // call of the strategy; the strategy itself notices Ctrl-C.
+      py::gil_scoped_release released;
       batch = RunBatch(description.Options, script, control);
-    } catch (const GameSetUpError& e) {
-      setUpError = e.what();
+    } else {
+      batch = RunBatchInterruptibly(description.Options, script, control);
     }
+  } catch (const GameSetUpError& e) {
+    throw py::value_error(e.what());
   }
-  if (!setUpError.empty()) throw py::value_error(setUpError);
   if (strategy) strategy->RaiseAnyFailure();
   Played played{RunReportJson(description, batch, false).dump(2) + "\n", py::list()};
   if (paths) played.paths = paths->Arrays();

@@ -194,6 +194,8 @@ class PyTable {
     try {
       for (; done < rolls; ++done) {
         strategy(self);
+        // Ctrl-C, which a strategy written in C would not notice itself.
+        if (PyErr_CheckSignals() != 0) throw py::error_already_set();
         ui_.messages.clear();
         const RunResult r = Done(table_->Roll());
         out[done] = game().Bankroll().ToDouble();
