@@ -116,7 +116,7 @@ bool HeldByContract(const Game& g, int betId) {
 }
 
 ContractOutcome ApplyContractRules(Game& g, int betId, Currency change) {
-  Rules r{g, betId, g.BetAmount[betId], betId <= bet::kDontPass ? g.BetCommitted[betId] : Currency(0), change};
+  Rules r{g, betId, g.BetAmount[betId], betId <= bet::kDontPass ? g.Committed(betId) : Currency(0), change};
   if (change > 0 && !g.MovingBet) r.Adding();
   if (change < 0) r.TakingDown();
   return ContractOutcome{r.change, r.ended};

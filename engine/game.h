@@ -49,7 +49,17 @@ struct Game : DiceState {
   BetStatusTable BetStatus;
   std::array<int32_t, 101> WorkOnComeOut{};  // status while no point is on
   std::array<std::array<int32_t, 101>, 2> BetStreak{};  // [1] now, [0] at the top of the roll
-  std::array<Currency, 47> BetCommitted{};   // contract baseline: amounts as the dice went out
+  // The bets whose streak [0] is behind [1]: a roll brings just those up to
+  // date as it starts, rather than copying every bet's.
+  std::array<uint64_t, 2> StreaksMoved{~uint64_t{0}, ~uint64_t{0}};
+  // The contract baseline of bets 0..46 (Committed): their amounts as the
+  // dice went out, which is the roll's start snapshot, except where a bet
+  // was decided or moved onto its number since. A roll starts it by
+  // dropping those changes rather than copying the layout.
+  static constexpr int kCommittedSlots = bet::kDontPass + 1;
+  using CommittedTable = std::array<Currency, kCommittedSlots>;
+  CommittedTable CommittedSince{};
+  uint64_t CommittedChanged = ~uint64_t{0};
   // The amounts as the dice went out (BetAtRollStart) and as the last
   // script pass left them (BetAfterRoll). Two buffers: when nothing moved a
   // bet between a pass and the next throw, both name one buffer and a roll
@@ -304,6 +314,28 @@ struct Game : DiceState {
   void SetSnapshotSlot(int slot, Currency amount) {
     for (Amounts& amounts : BetSnapshots) amounts[slot] = amount;
   }
+
+  Currency Committed(int id) const {
+    return (CommittedChanged >> id) & 1 ? CommittedSince[id] : BetAtRollStart()[id];
+  }
+  void SetCommitted(int id, Currency amount) {
+    if (id >= kCommittedSlots) return;
+    CommittedSince[id] = amount;
+    CommittedChanged |= uint64_t{1} << id;
+  }
+  CommittedTable CommittedAmounts() const {
+    CommittedTable all;
+    for (int id = 0; id < kCommittedSlots; ++id) all[id] = Committed(id);
+    return all;
+  }
+  void SetAllCommitted(const CommittedTable& all) {
+    CommittedSince = all;
+    CommittedChanged = ~uint64_t{0};
+  }
+  // The dice go out: the baseline is the layout as it stands.
+  void CommitLayout() { CommittedChanged = 0; }
+  // A bet's streak moved in this roll.
+  void MarkStreakMoved(int id) { StreaksMoved[id >> 6] |= uint64_t{1} << (id & 63); }
 
   Currency& Bankroll() { return BetAmount[bet::kBankroll]; }
   Currency Bankroll() const { return BetAmount[bet::kBankroll]; }

@@ -46,7 +46,7 @@ void NewGame(Game& g, bool keepChipStacks) {
     g.BetAmount[id] = 0;
     g.SetSnapshotSlot(id, 0);
   }
-  g.BetCommitted.fill(0);
+  g.SetAllCommitted({});
   g.GameChanged = false;
   for (int id = bet::kFirstStack; id <= bet::kLastStack; ++id) {
     if (keepChipStacks) {

@@ -32,7 +32,7 @@ Currency RoundChangeToChips(Currency change, Currency chip) {
 Currency BetMinimum(const Game& g, int id) {
   if (bet::IsHardWay(id) || id >= bet::kTwo) return g.SmallestChip();
   Currency minimum = g.TableMinimum;
-  if (id == bet::kPassLine || bet::IsComeNumber(id)) minimum = Max(minimum, g.BetCommitted[id]);
+  if (id == bet::kPassLine || bet::IsComeNumber(id)) minimum = Max(minimum, g.Committed(id));
   return minimum;
 }
 
@@ -82,7 +82,7 @@ class TablePlacement {
  public:
   TablePlacement(Game& g, int id, Notices notices)
       : g_(g), id_(id), written_(notices == Notices::Written), bet_(g.BetAmount[id]),
-        committed_(id <= bet::kDontPass ? g.BetCommitted[id] : Currency(0)) {}
+        committed_(id <= bet::kDontPass ? g.Committed(id) : Currency(0)) {}
 
   void Run();
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <chrono>
 
 #include "dice/rng.h"
@@ -100,6 +101,18 @@ void Finish(Game& g) {
   g.RollInProgress = false;
 }
 
+// The streaks at the top of the roll: only the bets decided since the last
+// top can differ.
+void CatchUpStreaks(Game& g) {
+  for (int word = 0; word < 2; ++word) {
+    for (uint64_t moved = g.StreaksMoved[word]; moved != 0; moved &= moved - 1) {
+      const int id = word * 64 + std::countr_zero(moved);
+      if (id < static_cast<int>(g.BetStreak[0].size())) g.BetStreak[0][id] = g.BetStreak[1][id];
+    }
+    g.StreaksMoved[word] = 0;
+  }
+}
+
 void TakeSnapshots(Game& g) {
   g.Settlements.Clear();
   // The last pass's snapshot is the layout now unless input ran since.
@@ -109,10 +122,10 @@ void TakeSnapshots(Game& g) {
   } else {
     g.AtRollStartIndex = g.AfterRollIndex;
   }
-  CopyArray(g.BetStreak[0], g.BetStreak[1]);
+  CatchUpStreaks(g);
   // Reads the last roll's DiceTotal and PointBeforeRoll.
   if (g.Hooks.RollStarting) g.Hooks.RollStarting(g);
-  CopyBlock(g.BetCommitted.data(), g.BetAmount.data(), sizeof g.BetCommitted);
+  g.CommitLayout();
   g.PointTwoRollsAgo = g.PointBeforeRoll;
   g.PointBeforeRoll = g.Point;
 }
@@ -268,7 +281,7 @@ void MoveBet(Game& g, int fromBet, int toBet) {
   g.BetChange = amount;
   PlaceBetOnTable(g, toBet);
   g.MovingBet = false;
-  g.BetCommitted[toBet] = amount;  // at once a contract bet on its number
+  g.SetCommitted(toBet, amount);  // at once a contract bet on its number
   if (bet::IsComeNumber(toBet) && g.AutoRemovePlaceBets) {
     TakeDownBet(g, bet::PlaceOfCome(toBet));
     TakeDownBet(g, bet::BuyOfCome(toBet));

@@ -56,17 +56,41 @@ TEST_F(RollTest, StatusesAndSnapshotsFollowThePoint) {
   EXPECT_EQ(g.BetStatus[bet::kPassOdds], 1);
   g.BetStatus.Set(bet::Place(8), -1);  // called OFF: outlives the point
   Bet(bet::Place(5), 10);
-  EXPECT_EQ(g.BetCommitted[bet::Place(5)], 0);  // placed after the dice came to rest
+  EXPECT_EQ(g.Committed(bet::Place(5)), 0);  // placed after the dice came to rest
   Roll(4, 2);  // point made: default-off bets are off again
   EXPECT_EQ(g.BetStatus[bet::Place(6)], 0);
   EXPECT_EQ(g.BetStatus[bet::Place(8)], -1);
   EXPECT_EQ(g.BetStatus[bet::kField], 1);
-  EXPECT_EQ(g.BetCommitted[bet::Place(5)], 10);
+  EXPECT_EQ(g.Committed(bet::Place(5)), 10);
   EXPECT_EQ(g.BetAtRollStart()[bet::Place(5)], 10);
   EXPECT_EQ(g.BetAfterRoll()[bet::Place(5)], 10);
   Roll(2, 3);
   EXPECT_EQ(g.PointTwoRollsAgo, 6);
   EXPECT_EQ(g.PointBeforeRoll, 0);
+}
+
+// A roll keeps its baselines by their changes rather than by copies: over
+// many rolls of a full layout, the contract baseline must read as the layout
+// did when the dice went out, and the streaks at the top of the roll as they
+// stood before it.
+TEST_F(RollTest, BaselinesReadAsTheLayoutWhenTheDiceWentOut) {
+  static Game::CommittedTable layout;  // read by a hook, which captures nothing
+  static int mismatches = 0;
+  g.Hooks.DiceCounted = [](Game& game) { mismatches += game.CommittedAmounts() != layout; };
+  uint32_t seed = 20261124;
+  auto die = [&seed] {
+    seed = seed * 1103515245u + 12345u;
+    return static_cast<int>((seed >> 16) % 6) + 1;
+  };
+  for (int roll = 0; roll < 3000; ++roll) {
+    for (int id : {bet::kPassLine, bet::kCome, bet::kDontCome, bet::kDontPass, bet::Place(6), bet::kField, bet::kHard8})
+      if (g.BetAmount[id] == 0) Bet(id, 10);
+    std::copy_n(g.BetAmount.begin(), layout.size(), layout.begin());
+    const auto streaksBefore = g.BetStreak[1];
+    Roll(die(), die());
+    ASSERT_EQ(g.BetStreak[0], streaksBefore) << "roll " << roll;
+  }
+  EXPECT_EQ(mismatches, 0);
 }
 
 TEST_F(RollTest, ComeBoxBetsTravelToTheirNumberAfterItIsSettled) {
@@ -81,7 +105,7 @@ TEST_F(RollTest, ComeBoxBetsTravelToTheirNumberAfterItIsSettled) {
   Roll(4, 2);
   EXPECT_EQ(g.BetAmount[bet::kCome], 0);
   EXPECT_EQ(g.BetAmount[bet::Come(6)], 10);
-  EXPECT_EQ(g.BetCommitted[bet::Come(6)], 10);
+  EXPECT_EQ(g.Committed(bet::Come(6)), 10);
   EXPECT_EQ(g.BetAmount[bet::Place(6)], 0);  // taken down for the Come bet
   Bet(bet::kDontCome, 5);
   Roll(2, 2);

@@ -77,6 +77,7 @@ bool MustComeDown(const Game& g, int betId) {
 }
 
 void KeepStreak(Game& g, int betId) {
+  g.MarkStreakMoved(betId);
   int32_t& streak = g.BetStreak[1][betId];
   if (g.NetPayoff > 0) streak = streak < 0 ? 1 : streak + 1;
   if (g.NetPayoff < 0) streak = streak > 0 ? -1 : streak - 1;
@@ -90,7 +91,7 @@ void KeepStreak(Game& g, int betId) {
   if (g.Payoff[0].Win == 0 && g.NetPayoff == 0) return;  // a push: nothing happened
 
   g.Bankroll() += g.NetPayoff;
-  if (betId < static_cast<int>(g.BetCommitted.size())) g.BetCommitted[betId] = 0;
+  g.SetCommitted(betId, 0);
   g.BetComesDown = MustComeDown(g, betId);
   KeepStreak(g, betId);
 

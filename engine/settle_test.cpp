@@ -164,7 +164,7 @@ TEST(SettleBet, WhatComesDownAfterAWin) {
   t.Stand(bet::DontCome(4), 10);
   t.Dice(3, 4, 6);
   t.Settle(Outcome::Win, bet::DontCome(4));
-  EXPECT_EQ(t.g.BetCommitted[bet::DontCome(4)], Currency(0));
+  EXPECT_EQ(t.g.Committed(bet::DontCome(4)), Currency(0));
   EXPECT_TRUE(t.g.BetComesDown);
   EXPECT_EQ(t.g.BetAmount[bet::DontCome(4)], Currency(0));
   EXPECT_EQ(t.ui.notices.at(0).buttons.size(), 1u);
@@ -184,7 +184,7 @@ TEST(SettleBet, WhatComesDownAfterAWin) {
   t.Settle(Outcome::Win, bet::kPassLine);
   EXPECT_FALSE(t.g.BetComesDown);
   EXPECT_EQ(t.g.BetAmount[bet::kPassLine], Currency(10));
-  EXPECT_EQ(t.g.BetCommitted[bet::kPassLine], Currency(0));
+  EXPECT_EQ(t.g.Committed(bet::kPassLine), Currency(0));
   t.Settle(Outcome::Win, bet::Come(5));
   EXPECT_TRUE(t.g.BetComesDown);
   t.g.AllowPutBets = true;

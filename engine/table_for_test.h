@@ -103,12 +103,14 @@ struct TestTable {
   void Stand(int id, Currency amount) {
     g.BetAmount[id] = g.EditAtRollStart()[id] = amount;
     g.TotalOnTable += amount;
-    if (id < static_cast<int>(g.BetCommitted.size())) g.BetCommitted[id] = amount;
+    g.SetCommitted(id, amount);
     g.BetStatus.Set(id, 1);
   }
   // As the top of a roll does: what stands now is committed.
   void Commit() {
-    for (size_t id = 0; id < g.BetCommitted.size(); ++id) g.BetCommitted[id] = g.BetAmount[id];
+    Game::CommittedTable standing;
+    std::copy_n(g.BetAmount.begin(), standing.size(), standing.begin());
+    g.SetAllCommitted(standing);
   }
   // Asks PlaceBet for `change`; the change made.
   Currency Place(int id, Currency change) {

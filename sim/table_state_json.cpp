@@ -44,7 +44,7 @@ Json TableStateJson(const Game& g) {
       {"rollCount", g.RollCounts[0]},
       {"bets", NonZeroSlots(g.BetAmount, bet::kFirstTableBet, bet::kLastTableBet)},
       {"stacks", NonZeroSlots(g.BetAmount, bet::kFirstStack, bet::kLastStack)},
-      {"committed", NonZeroSlots(g.BetCommitted, 1, static_cast<int>(g.BetCommitted.size()) - 1)},
+      {"committed", NonZeroSlots(g.CommittedAmounts(), 1, Game::kCommittedSlots - 1)},
       {"status", status},
       {"handStats", g.HandStats},
       {"buyVig", MoneyArray(g.BuyVigOnBet)},

@@ -55,7 +55,9 @@ void KeepMoneyInRange(Game& g) {
     for (Currency& v : *table) Bound(v);
     (*table)[bet::kBankroll] = bankroll;
   }
-  for (Currency& v : g.BetCommitted) Bound(v);
+  Game::CommittedTable committed = g.CommittedAmounts();
+  for (Currency& v : committed) Bound(v);
+  g.SetAllCommitted(committed);
   for (Currency& v : g.BuyVigOnBet) Bound(v);
   for (Currency& v : g.LayVigOnBet) Bound(v);
   for (Currency* v : {&g.HighBankroll, &g.LowBankroll}) Bound(*v, -kMostBankroll, kMostBankroll);

@@ -72,7 +72,7 @@ void WriteTableRecords(const Game& g, RecordWriter& w) {
   WriteMoneySlots(w, g.BetAmount);
   WriteMoneySlots(w, g.BetAtRollStart());
   WriteMoneySlots(w, g.BetAfterRoll());
-  WriteCommitted(w, g.BetCommitted);
+  WriteCommitted(w, g.CommittedAmounts());
 
   FileRecord& vig = w.Add();
   for (int n = 1; n <= 6; ++n) {
@@ -91,7 +91,9 @@ void ReadTableRecords(Game& g, RecordReader& r) {
   ReadMoneySlots(r, g.BetAmount);
   ReadMoneySlots(r, g.EditAtRollStart());
   ReadMoneySlots(r, g.EditAfterRoll());
-  ReadCommitted(r, g.BetCommitted);
+  Game::CommittedTable committed;
+  ReadCommitted(r, committed);
+  g.SetAllCommitted(committed);
 
   const FileRecord vig = r.Next();
   for (int n = 1; n <= 6; ++n) {
