@@ -7,7 +7,7 @@
 #include <atomic>
 #include <optional>
 
-#include "sim/strategy_watcher.h"
+#include "sim/run_options.h"
 
 namespace py = pybind11;
 
@@ -20,7 +20,7 @@ struct Player {
   const Game& g() const;
 };
 
-class PythonStrategy : public StrategyWatcher {
+class PythonStrategy : public TableWatcher {
  public:
   // `stop` is the run's stop request: a strategy that raises ends the run.
   PythonStrategy(py::function strategy, std::atomic<bool>& stop);

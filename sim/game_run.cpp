@@ -16,7 +16,6 @@
 #include "script/values.h"
 #include "sim/fresh_table.h"
 #include "sim/hyper_drive.h"
-#include "sim/strategy_watcher.h"
 #include "stats/bet_results.h"
 #include "dice/file_read.h"
 #include "sim/assemble_game.h"
@@ -172,7 +171,7 @@ GameResult RunGame(const RunOptions& options, const Script& script, int64_t inde
     StartScript(g, Script(g.AutoBet));  // a saved game whose first cycle was still due
   }
   // A strategy bets before the first roll as before every other.
-  if (auto* strategy = dynamic_cast<StrategyWatcher*>(options.Watcher)) strategy->BeforeFirstRoll(g);
+  if (options.Watcher) options.Watcher->BeforeFirstRoll(g);
   g.RollCountStop = g.RollCountLeft = static_cast<int32_t>(options.Rolls);
   g.KeepRolling = false;
   if (!control.Stop.load()) StartHyperDrive(g);

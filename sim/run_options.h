@@ -17,6 +17,10 @@ class TableWatcher {
  public:
   virtual ~TableWatcher() = default;
   virtual void LetInputRun(Game& g) = 0;
+  // A player who sits at the game from its start (a strategy written in
+  // Python) is handed the table here too, after the script's first cycle:
+  // LetInputRun is first called after the first roll.
+  virtual void BeforeFirstRoll(Game&) {}
 };
 
 struct RunOptions {
