@@ -30,8 +30,12 @@ void SoundBoard::UseFolder(const QString& folder) {
 }
 
 void SoundBoard::Choose(const SoundChoice& choice) {
+  // Asked after every change of the window's status: the paths are built
+  // again only when the sets chosen differ.
+  const bool sameSets = choice.stickman == choice_.stickman && choice.dice == choice_.dice &&
+                        choice.chips == choice_.chips && choice.win == choice_.win;
   choice_ = choice;
-  PickFiles();
+  if (!sameSets) PickFiles();
 }
 
 void SoundBoard::PickFiles() {
