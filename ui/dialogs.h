@@ -30,6 +30,7 @@ struct MessageRequest {
 // The prompt for two amounts, as the break-point of the games log asks.
 struct TwoNumberRequest {
   std::string title;
+  std::string text;  // above the fields; "\r" breaks a line
   std::string firstLabel, secondLabel;
   Currency first, second;
 };

@@ -58,7 +58,7 @@ class QueuedDialogs : public Dialogs {
     return Take(numbers, std::optional<Currency>(amount));
   }
   std::optional<std::pair<Currency, Currency>> TwoNumbers(const TwoNumberRequest& request) override {
-    messages.push_back({request.title, request.firstLabel, Buttons::Ok, false});
+    messages.push_back({request.title, request.text, Buttons::Ok, false});
     offered.push_back(request.first);
     offered.push_back(request.second);
     return Take(numberPairs, std::optional<std::pair<Currency, Currency>>({request.first, request.second}));

@@ -287,7 +287,7 @@ void GamesLogScreen::ShowOutcomes() {
 void GamesLogScreen::SetBreakPoint() {
   const auto answer = dialogs_.TwoNumbers({"Set Break-point",
                                            "Enter the break-point or range that you'd \rlike to use to sort this data:",
-                                           "", view_.BreakLow, view_.BreakHigh});
+                                           "", "", view_.BreakLow, view_.BreakHigh});
   if (!answer) return;
   ::SetBreakPoint(view_, answer->first, answer->second);
   Recalculate();

@@ -49,7 +49,8 @@ TEST(NumberPrompt, CancelAnswersNothing) {
 }
 
 TEST(TwoNumberPrompt, NeedsBothAmounts) {
-  TwoNumberPrompt prompt({"Set Break-point", "Low:", "High:", 100, 2000});
+  TwoNumberPrompt prompt({"Set Break-point", "Enter the break-point or range that you'd \rlike to use to sort this data:",
+                          "", "", 100, 2000});
   prompt.show();
   Type(prompt, "txtSecondAmount", "");
   EXPECT_TRUE(prompt.isVisible());

@@ -15,13 +15,20 @@ TwoNumberPrompt::TwoNumberPrompt(const TwoNumberRequest& request, QWidget* paren
 
   auto* layout = new QVBoxLayout(this);
   prompt_parts::SetMargins(layout);
-  auto* form = new QFormLayout;
-  form->setHorizontalSpacing(12);
+  if (!request.text.empty()) layout->addWidget(new QLabel(DisplayLines(request.text), this));
   first_ = prompt_parts::AmountEntry("txtFirstAmount", request.first, this);
   second_ = prompt_parts::AmountEntry("txtSecondAmount", request.second, this);
-  form->addRow(DisplayLines(request.firstLabel), first_);
-  form->addRow(DisplayLines(request.secondLabel), second_);
-  layout->addLayout(form);
+  if (request.firstLabel.empty() && request.secondLabel.empty()) {
+    // The text above says what the two are: the fields stand under it, flush.
+    layout->addWidget(first_);
+    layout->addWidget(second_);
+  } else {
+    auto* form = new QFormLayout;
+    form->setHorizontalSpacing(12);
+    form->addRow(DisplayLines(request.firstLabel), first_);
+    form->addRow(DisplayLines(request.secondLabel), second_);
+    layout->addLayout(form);
+  }
 
   error_ = prompt_parts::ErrorLabel(this);
   layout->addWidget(error_);
