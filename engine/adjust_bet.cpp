@@ -96,7 +96,8 @@ void Refuse(Game& g, const std::string& what, const std::string& title, Currency
 Currency AdjustBet(Game& g, int betId, Currency request, bool neverUp) {
   if (g.AutoAdjustMode <= 0 || !bet::IsTableBet(betId)) return request;
   const Currency amount = g.BetAmount[betId];
-  if (amount + request < 0) return request;
+  // Nothing left standing pays a payoff to be made whole.
+  if (amount + request <= 0) return request;
   const Currency per = PayoffOf(g, betId).Per;
   if (per <= 0 || g.SmallestChip() <= 0) return request;
 

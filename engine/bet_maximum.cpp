@@ -13,6 +13,8 @@ Currency RoundDownToChip(const Game& g, Currency amount) {
   if (amount.raw <= 0) return 0;
   Currency chip = g.SmallestChip();
   if (chip.raw <= 0) return amount;
+  // A $1 check is the common case, and a constant divisor is cheap.
+  if (chip.raw == Currency::kScale) return Currency::FromRaw(amount.raw / Currency::kScale * Currency::kScale);
   return Currency::FromRaw(amount.raw / chip.raw * chip.raw);
 }
 
@@ -66,9 +68,9 @@ Currency OddsMaximum(const Game& g, int oddsId) {
 }  // namespace
 
 Currency GetBetMaximum(const Game& g, int betId) {
+  if (bet::IsTableBet(betId) && bet::IsOdds(betId)) return OddsMaximum(g, betId);
   const Currency start = RoundDownToChip(g, g.TableMaximum);
   if (!bet::IsTableBet(betId)) return start;
-  if (bet::IsOdds(betId)) return OddsMaximum(g, betId);
   // The split bets: the winning part is paid by its own number's record while
   // the other parts lose, so the largest of those ratios decides.
   switch (betId) {

@@ -82,6 +82,27 @@ void KeepStreak(Game& g, int betId) {
   if (g.NetPayoff < 0) streak = streak > 0 ? -1 : streak - 1;
 }
 
+// The record a decision pays by: the bet's own, the loss row, the point's
+// record for a line bet and its odds, a split bet's winning part, or the
+// Field's row for the pair.
+const PayoffRecord& DecidingRecord(const Game& g, int betId, Outcome outcome, const PayoffRecord& loss) {
+  if (betId == bet::kField) return g.FieldPayoff[bet::FieldRow(g.Die1, g.Die2)];
+  if (!IsWin(outcome)) return loss;
+  if (IsSplit(betId)) return g.Payoff[WinningPart(betId, g.DiceTotal)];
+  return g.Payoff[WinningRecord(g, betId)];
+}
+
+// chip x per, as the ratio worked in double gives it: exact in whole numbers
+// when per is whole and the product stays well inside a double's integers.
+Currency ChipTimesPer(Currency chip, Currency per) {
+  // Below these bounds the product is below 2^52, where doubles hold every integer.
+  constexpr int64_t kChipBound = int64_t{1} << 32, kPerBound = int64_t{1} << 20;
+  if (per.IsWhole() && chip.raw >= 0 && chip.raw < kChipBound && per.raw >= 0 &&
+      per.raw / Currency::kScale < kPerBound)
+    return Currency::FromRaw(chip.raw * (per.raw / Currency::kScale));
+  return MulRatio(chip, per.ToDouble());
+}
+
 [[gnu::noinline]] void SettleWorkingBet(Game& g, Outcome outcome, int betId) {
   const Currency amount = g.BetAmount[betId];
   FigurePayoff(g, 1, betId, outcome, amount);
@@ -146,27 +167,12 @@ void SettleMoneyBet(Game& g, Outcome outcome, int betId) {
 
 void FigurePayoff(Game& g, int realBet, int betId, Outcome outcome, Currency amount) {
   PayoffRecord& row0 = g.Payoff.Quiet(0);
-  const PayoffRecord& own = g.Payoff[betId];
-  row0 = IsWin(outcome) ? own : PayoffRecord{-1, own.Form, 1};
-  g.RawPayoff = Share(amount, row0.Win, row0.Per);
+  const PayoffRecord loss{-1, g.Payoff[betId].Form, 1};
+  row0 = DecidingRecord(g, betId, outcome, loss);
+  g.RawPayoff = IsWin(outcome) && IsSplit(betId) ? SplitPayoff(amount, SplitParts(betId), row0)
+                                                 : Share(amount, row0.Win, row0.Per);
+  // Only a Lay or a Buy pays vig, and either is paid by its own record.
   if (ChargesVig(g, betId, g.RawPayoff > 0)) g.RawPayoff -= VigOf(g, realBet, betId, amount);
-
-  if (IsWin(outcome)) {
-    int record = WinningRecord(g, betId);
-    if (record != betId) {
-      row0 = g.Payoff[record];
-      g.RawPayoff = Share(amount, row0.Win, row0.Per);
-    }
-    if (IsSplit(betId)) {
-      row0 = g.Payoff[WinningPart(betId, g.DiceTotal)];
-      g.RawPayoff = SplitPayoff(amount, SplitParts(betId), row0);
-    }
-  }
-  // One call serves the Field's wins and losses: the pair's row says which.
-  if (betId == bet::kField) {
-    row0 = g.FieldPayoff[bet::FieldRow(g.Die1, g.Die2)];
-    g.RawPayoff = Share(amount, row0.Win, row0.Per);
-  }
 
   // Toward minus infinity: a winner's odd cents stay with the house.
   Currency chip = g.SmallestChip();
@@ -176,7 +182,7 @@ void FigurePayoff(Game& g, int realBet, int betId, Outcome outcome, Currency amo
 Currency UnitFor(const Game& g, Currency amount, Currency per) {
   Currency unit;
   for (int slot = bet::kLastChip; slot >= bet::kFirstChip; --slot) {
-    unit = MulRatio(g.BetAmount[slot], per.ToDouble());
+    unit = ChipTimesPer(g.BetAmount[slot], per);
     if (unit > 0 && unit <= amount && amount.raw % unit.raw == 0) break;
   }
   return unit;
