@@ -1,7 +1,5 @@
 #include "engine/settle.h"
 
-#include <optional>
-
 #include "engine/game.h"
 #include "engine/phantom_payoff.h"
 #include "engine/settle_notice.h"
@@ -103,6 +101,18 @@ Currency ChipTimesPer(Currency chip, Currency per) {
   return MulRatio(chip, per.ToDouble());
 }
 
+// The notices are built only when someone may see them, and out of line: even
+// an empty one is a large block to clear on every decision.
+[[gnu::noinline]] void TellLost(Game& g, int betId, Currency amount) {
+  const SettleNotice notice = LostNotice(g, betId, UnitFor(g, amount, g.Payoff[betId].Per));
+  if (g.Hooks.LostBet) g.Hooks.LostBet(g, betId, &notice);
+}
+
+[[gnu::noinline]] void TellWon(Game& g, int betId, SettleNotice (*build)(const Game&, int)) {
+  const SettleNotice notice = build(g, betId);
+  if (g.Hooks.WonBet) g.Hooks.WonBet(g, betId, &notice);
+}
+
 [[gnu::noinline]] void SettleWorkingBet(Game& g, Outcome outcome, int betId) {
   const Currency amount = g.BetAmount[betId];
   FigurePayoff(g, 1, betId, outcome, amount);
@@ -116,16 +126,17 @@ Currency ChipTimesPer(Currency chip, Currency per) {
   KeepStreak(g, betId);
 
   if (g.NetPayoff < 0) {
-    std::optional<SettleNotice> notice;
     if (g.HandleLosingBets == 0 && g.Visible() && g.BetAtRollStart()[betId] > 0)
-      notice = LostNotice(g, betId, UnitFor(g, amount, g.Payoff[betId].Per));
-    if (g.Hooks.LostBet) g.Hooks.LostBet(g, betId, notice ? &*notice : nullptr);
+      TellLost(g, betId, amount);
+    else if (g.Hooks.LostBet)
+      g.Hooks.LostBet(g, betId, nullptr);
     return;
   }
   FigureUnit(g, betId);
-  std::optional<SettleNotice> notice;
-  if (g.Visible() && g.WonBetAction == 0) notice = WonNotice(g, betId);
-  if (g.Hooks.WonBet) g.Hooks.WonBet(g, betId, notice ? &*notice : nullptr);
+  if (g.Visible() && g.WonBetAction == 0)
+    TellWon(g, betId, WonNotice);
+  else if (g.Hooks.WonBet)
+    g.Hooks.WonBet(g, betId, nullptr);
 }
 
 // A flat bet that is off stands untouched; odds that are off go back to the
@@ -141,9 +152,10 @@ Currency ChipTimesPer(Currency chip, Currency per) {
     g.Payoff.Quiet(0).Per = g.Payoff[betId].Per;
     FigureUnit(g, betId);
   }
-  std::optional<SettleNotice> notice;
-  if (g.Visible() && g.WonBetAction == 0) notice = OddsReturnedNotice(g, betId);
-  if (g.Hooks.WonBet) g.Hooks.WonBet(g, betId, notice ? &*notice : nullptr);
+  if (g.Visible() && g.WonBetAction == 0)
+    TellWon(g, betId, OddsReturnedNotice);
+  else if (g.Hooks.WonBet)
+    g.Hooks.WonBet(g, betId, nullptr);
   g.BetStatus.Set(betId, status::kWorking);
 }
 
