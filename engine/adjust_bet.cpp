@@ -22,7 +22,13 @@ const PayoffRecord& PayoffOf(const Game& g, int id) {
   }
 }
 
-Currency Times(Currency a, Currency b) { return MulDiv(a, b, Currency(1)); }
+Currency Times(Currency a, Currency b) {
+  // A whole Per multiplies exactly: no rounding to work out.
+  int64_t product = 0;
+  if (b.IsWhole() && !__builtin_mul_overflow(a.raw, b.raw / Currency::kScale, &product))
+    return Currency::FromRaw(product);
+  return MulDiv(a, b, Currency(1));
+}
 
 // new / unit to four places, so that a quotient within rounding of a whole
 // number counts as whole.

@@ -138,6 +138,10 @@ void TablePlacement::Run() {
     ShowPendingNotice(g_, BetTitle(g_, id_), false, true);
   }
   if (!g_.MsgText.empty()) return;
+  if (shownText_.empty() && refusalText.empty() && refusalTitle.empty()) {  // went through as asked
+    g_.MsgTitle.clear();
+    return;
+  }
   g_.MsgText = std::move(shownText_.empty() ? refusalText : shownText_);
   g_.MsgTitle = std::move(shownText_.empty() ? refusalTitle : shownTitle_);
 }
