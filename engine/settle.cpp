@@ -9,6 +9,10 @@ namespace {
 // amount x win / per, exact.
 Currency Share(Currency amount, Currency win, Currency per) {
   if (per.raw == 0) return Currency{};  // validation keeps Per above zero
+  // Every loss, and an even-money win, moves the amount itself: exact, and
+  // the commonest decisions by far.
+  if (win == -per) return -amount;
+  if (win == per) return amount;
   return MulDiv(amount, win, per);
 }
 
