@@ -22,7 +22,13 @@ const PayoffRecord& PayoffOf(const Game& g, int id) {
   }
 }
 
-Currency Times(Currency a, Currency b) { return MulDiv(a, b, Currency(1)); }
+Currency Times(Currency a, Currency b) {
+  // A whole Per multiplies exactly: no rounding to work out.
+  int64_t product = 0;
+  if (b.IsWhole() && !__builtin_mul_overflow(a.raw, b.raw / Currency::kScale, &product))
+    return Currency::FromRaw(product);
+  return MulDiv(a, b, Currency(1));
+}
 
 // new / unit to four places, so that a quotient within rounding of a whole
 // number counts as whole.
@@ -96,7 +102,8 @@ void Refuse(Game& g, const std::string& what, const std::string& title, Currency
 Currency AdjustBet(Game& g, int betId, Currency request, bool neverUp) {
   if (g.AutoAdjustMode <= 0 || !bet::IsTableBet(betId)) return request;
   const Currency amount = g.BetAmount[betId];
-  if (amount + request < 0) return request;
+  // Nothing left standing pays a payoff to be made whole.
+  if (amount + request <= 0) return request;
   const Currency per = PayoffOf(g, betId).Per;
   if (per <= 0 || g.SmallestChip() <= 0) return request;
 

@@ -13,6 +13,8 @@ Currency RoundDownToChip(const Game& g, Currency amount) {
   if (amount.raw <= 0) return 0;
   Currency chip = g.SmallestChip();
   if (chip.raw <= 0) return amount;
+  // A $1 check is the common case, and a constant divisor is cheap.
+  if (chip.raw == Currency::kScale) return Currency::FromRaw(amount.raw / Currency::kScale * Currency::kScale);
   return Currency::FromRaw(amount.raw / chip.raw * chip.raw);
 }
 
@@ -58,17 +60,18 @@ Currency OddsMaximum(const Game& g, int oddsId) {
   in.per = take.Per;
   in.smallestChip = g.SmallestChip();
   in.maxOddsBet = g.MaxOddsBet;
-  if (oddsId == bet::kPassOdds || bet::IsComeOdds(oddsId)) return RoundDownToChip(g, FigureOddsMaximum(in));
   const PayoffRecord& lay = g.Payoff[bet::DontComeOdds(number)];
-  return RoundDownToChip(g, FigureLayOddsMaximum(in, lay.Win, lay.Per));
+
+  BetMaximumMemo::Odds& memo = g.MaximumMemo.odds[oddsId - BetMaximumMemo::kFirstOdds];
+  if (memo.known && memo.in == in && memo.layWin == lay.Win && memo.layPer == lay.Per) return memo.maximum;
+  const bool takeSide = oddsId == bet::kPassOdds || bet::IsComeOdds(oddsId);
+  memo = {in, lay.Win, lay.Per,
+          RoundDownToChip(g, takeSide ? FigureOddsMaximum(in) : FigureLayOddsMaximum(in, lay.Win, lay.Per)), true};
+  return memo.maximum;
 }
 
-}  // namespace
-
-Currency GetBetMaximum(const Game& g, int betId) {
-  const Currency start = RoundDownToChip(g, g.TableMaximum);
-  if (!bet::IsTableBet(betId)) return start;
-  if (bet::IsOdds(betId)) return OddsMaximum(g, betId);
+// The maximum of a proposition bet, worked from the payoff ratios.
+Currency FigurePropMaximum(const Game& g, int betId, Currency start) {
   // The split bets: the winning part is paid by its own number's record while
   // the other parts lose, so the largest of those ratios decides.
   switch (betId) {
@@ -81,8 +84,30 @@ Currency GetBetMaximum(const Game& g, int betId) {
       return PropMaximum(
           g, LargestRatio(g, {bet::kTwo, bet::kThree, bet::kSeven, bet::kEleven, bet::kTwelve}) / 5 - 0.8, start);
     default:
-      break;
+      return PropMaximum(g, Ratio(g.Payoff[betId]), start);
   }
-  if (betId >= bet::kHard4) return PropMaximum(g, Ratio(g.Payoff[betId]), start);
-  return start;
+}
+
+Currency PropMaximumOf(const Game& g, int betId, Currency start) {
+  BetMaximumMemo& memo = g.MaximumMemo;
+  const BetMaximumMemo::PropLimits now{g.Payoff.Version(), g.TableMaximum, g.MaxPropBetPayoff, g.SmallestChip()};
+  if (!(memo.propLimits == now)) {
+    memo.propLimits = now;
+    memo.propKnown = {};
+  }
+  const int slot = betId - BetMaximumMemo::kFirstProp;
+  if (!memo.propKnown[slot]) {
+    memo.prop[slot] = FigurePropMaximum(g, betId, start);
+    memo.propKnown[slot] = true;
+  }
+  return memo.prop[slot];
+}
+
+}  // namespace
+
+Currency GetBetMaximum(const Game& g, int betId) {
+  if (bet::IsTableBet(betId) && bet::IsOdds(betId)) return OddsMaximum(g, betId);
+  const Currency start = RoundDownToChip(g, g.TableMaximum);
+  if (!bet::IsTableBet(betId)) return start;
+  return betId >= BetMaximumMemo::kFirstProp ? PropMaximumOf(g, betId, start) : start;
 }

@@ -12,6 +12,10 @@ TEST(BetMaximum, TableMaximumPropositionsAndOdds) {
                                        {bet::kHard4, 428},    {bet::kTwo, 100},    {bet::kFirstHop, 200},
                                        {bet::kCandE, 428},    {bet::kHorn, 444},   {bet::kWorld, 576}};
   for (const auto& [id, maximum] : props) EXPECT_EQ(GetBetMaximum(g, id), maximum) << id;
+  // Asked again, each maximum follows the figure that moved since.
+  g.MaxPropBetPayoff = 1500;
+  EXPECT_EQ(GetBetMaximum(g, bet::kHard4), 214);
+  g.MaxPropBetPayoff = 3000;
   g.Payoff.Set(bet::kFirstHop, {1, -1, 1});
   EXPECT_EQ(GetBetMaximum(g, bet::kFirstHop), 3000);  // the payoff limit, not the table maximum
   g.Payoff.Set(bet::kSeven, {60, -1, 1});                // World includes the Seven
@@ -34,6 +38,8 @@ TEST(BetMaximum, TableMaximumPropositionsAndOdds) {
   t.SetPoint(4);
   EXPECT_EQ(GetBetMaximum(g, bet::kPassOdds), 20);
   EXPECT_EQ(GetBetMaximum(g, bet::kDontPassOdds), 40);
+  g.BetAmount[bet::kPassLine] = 20;
+  EXPECT_EQ(GetBetMaximum(g, bet::kPassOdds), 40);
   g.BetAmount[bet::Come(5)] = 5;
   g.BetAmount[bet::DontCome(5)] = 10;
   EXPECT_EQ(GetBetMaximum(g, bet::ComeOdds(5)), 10);

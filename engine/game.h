@@ -12,6 +12,7 @@
 #include "dice/dice_roll_file.h"
 #include "dice/dice_state.h"
 #include "dice/money.h"
+#include "engine/bet_maximum_memo.h"
 #include "engine/bet_status_table.h"
 #include "engine/catalogue.h"
 #include "engine/hand_counters.h"
@@ -117,6 +118,9 @@ struct Game : DiceState {
   Currency OddsAllowed59 = 2;
   Currency OddsAllowed68 = Currency::FromRaw(25000);
   int32_t OddsCalcMethod = 0;
+  // Maxima worked out from the limits above and the payoffs; a cache that
+  // checks its own inputs, so asking for a maximum still reads as a query.
+  mutable BetMaximumMemo MaximumMemo;
   int32_t BarNumber = 12;
   bool AllowPutBets = false;
   Currency LayVigRate = Currency::FromRaw(500);

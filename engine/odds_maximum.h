@@ -11,6 +11,7 @@ struct OddsLimitInput {
   Currency win, per;      // the odds bet's payoff (Come side)
   Currency smallestChip;
   Currency maxOddsBet;
+  friend bool operator==(const OddsLimitInput&, const OddsLimitInput&) = default;
 };
 
 // The method that "Auto select" (0) stands for with this X: 4 for 1, 3 for 2,

@@ -109,6 +109,12 @@ void TablePlacement::Run() {
   change_ = RoundChangeToChips(Min(Max(g_.BetChange, -kStackLimit), kStackLimit), Chip(g_));
   if (bet_ + change_ < 0) change_ = -bet_;
   if (change_ == 0) return;
+  // Taking a whole bet down that no contract holds meets no rule: no
+  // minimum or maximum, no adjustment, no bankroll. A lost bet comes down so.
+  if (change_ < 0 && bet_ + change_ == 0 && !HeldByContract(g_, id_)) {
+    Apply();
+    return;
+  }
 
   ContractOutcome contract = ApplyContractRules(g_, id_, change_);
   change_ = contract.change;
@@ -117,8 +123,9 @@ void TablePlacement::Run() {
     return;
   }
   // A refusal that let part of the change through was shown already; it is
-  // left as the message only if no limit notice follows.
-  const std::string refusalText = g_.MsgText, refusalTitle = g_.MsgTitle;
+  // left as the message only if no limit notice follows. Moved aside, not
+  // copied: most placements have none.
+  std::string refusalText = std::move(g_.MsgText), refusalTitle = std::move(g_.MsgTitle);
   g_.MsgText.clear();
   g_.MsgTitle.clear();
 
@@ -130,10 +137,13 @@ void TablePlacement::Run() {
   } else if (!g_.MsgText.empty()) {
     ShowPendingNotice(g_, BetTitle(g_, id_), false, true);
   }
-  if (g_.MsgText.empty()) {
-    g_.MsgText = shownText_.empty() ? refusalText : shownText_;
-    g_.MsgTitle = shownText_.empty() ? refusalTitle : shownTitle_;
+  if (!g_.MsgText.empty()) return;
+  if (shownText_.empty() && refusalText.empty() && refusalTitle.empty()) {  // went through as asked
+    g_.MsgTitle.clear();
+    return;
   }
+  g_.MsgText = std::move(shownText_.empty() ? refusalText : shownText_);
+  g_.MsgTitle = std::move(shownText_.empty() ? refusalTitle : shownTitle_);
 }
 
 bool TablePlacement::ApplyMinimum() {

@@ -1,7 +1,5 @@
 #include "engine/settle.h"
 
-#include <optional>
-
 #include "engine/game.h"
 #include "engine/phantom_payoff.h"
 #include "engine/settle_notice.h"
@@ -11,6 +9,10 @@ namespace {
 // amount x win / per, exact.
 Currency Share(Currency amount, Currency win, Currency per) {
   if (per.raw == 0) return Currency{};  // validation keeps Per above zero
+  // Every loss, and an even-money win, moves the amount itself: exact, and
+  // the commonest decisions by far.
+  if (win == -per) return -amount;
+  if (win == per) return amount;
   return MulDiv(amount, win, per);
 }
 
@@ -83,6 +85,39 @@ void KeepStreak(Game& g, int betId) {
   if (g.NetPayoff < 0) streak = streak > 0 ? -1 : streak - 1;
 }
 
+// The record a decision pays by: the bet's own, the loss row, the point's
+// record for a line bet and its odds, a split bet's winning part, or the
+// Field's row for the pair.
+const PayoffRecord& DecidingRecord(const Game& g, int betId, Outcome outcome, const PayoffRecord& loss) {
+  if (betId == bet::kField) return g.FieldPayoff[bet::FieldRow(g.Die1, g.Die2)];
+  if (!IsWin(outcome)) return loss;
+  if (IsSplit(betId)) return g.Payoff[WinningPart(betId, g.DiceTotal)];
+  return g.Payoff[WinningRecord(g, betId)];
+}
+
+// chip x per, as the ratio worked in double gives it: exact in whole numbers
+// when per is whole and the product stays well inside a double's integers.
+Currency ChipTimesPer(Currency chip, Currency per) {
+  // Below these bounds the product is below 2^52, where doubles hold every integer.
+  constexpr int64_t kChipBound = int64_t{1} << 32, kPerBound = int64_t{1} << 20;
+  if (per.IsWhole() && chip.raw >= 0 && chip.raw < kChipBound && per.raw >= 0 &&
+      per.raw / Currency::kScale < kPerBound)
+    return Currency::FromRaw(chip.raw * (per.raw / Currency::kScale));
+  return MulRatio(chip, per.ToDouble());
+}
+
+// The notices are built only when someone may see them, and out of line: even
+// an empty one is a large block to clear on every decision.
+[[gnu::noinline]] void TellLost(Game& g, int betId, Currency amount) {
+  const SettleNotice notice = LostNotice(g, betId, UnitFor(g, amount, g.Payoff[betId].Per));
+  if (g.Hooks.LostBet) g.Hooks.LostBet(g, betId, &notice);
+}
+
+[[gnu::noinline]] void TellWon(Game& g, int betId, SettleNotice (*build)(const Game&, int)) {
+  const SettleNotice notice = build(g, betId);
+  if (g.Hooks.WonBet) g.Hooks.WonBet(g, betId, &notice);
+}
+
 [[gnu::noinline]] void SettleWorkingBet(Game& g, Outcome outcome, int betId) {
   const Currency amount = g.BetAmount[betId];
   FigurePayoff(g, 1, betId, outcome, amount);
@@ -96,16 +131,17 @@ void KeepStreak(Game& g, int betId) {
   KeepStreak(g, betId);
 
   if (g.NetPayoff < 0) {
-    std::optional<SettleNotice> notice;
     if (g.HandleLosingBets == 0 && g.Visible() && g.BetAtRollStart()[betId] > 0)
-      notice = LostNotice(g, betId, UnitFor(g, amount, g.Payoff[betId].Per));
-    if (g.Hooks.LostBet) g.Hooks.LostBet(g, betId, notice ? &*notice : nullptr);
+      TellLost(g, betId, amount);
+    else if (g.Hooks.LostBet)
+      g.Hooks.LostBet(g, betId, nullptr);
     return;
   }
   FigureUnit(g, betId);
-  std::optional<SettleNotice> notice;
-  if (g.Visible() && g.WonBetAction == 0) notice = WonNotice(g, betId);
-  if (g.Hooks.WonBet) g.Hooks.WonBet(g, betId, notice ? &*notice : nullptr);
+  if (g.Visible() && g.WonBetAction == 0)
+    TellWon(g, betId, WonNotice);
+  else if (g.Hooks.WonBet)
+    g.Hooks.WonBet(g, betId, nullptr);
 }
 
 // A flat bet that is off stands untouched; odds that are off go back to the
@@ -121,9 +157,10 @@ void KeepStreak(Game& g, int betId) {
     g.Payoff.Quiet(0).Per = g.Payoff[betId].Per;
     FigureUnit(g, betId);
   }
-  std::optional<SettleNotice> notice;
-  if (g.Visible() && g.WonBetAction == 0) notice = OddsReturnedNotice(g, betId);
-  if (g.Hooks.WonBet) g.Hooks.WonBet(g, betId, notice ? &*notice : nullptr);
+  if (g.Visible() && g.WonBetAction == 0)
+    TellWon(g, betId, OddsReturnedNotice);
+  else if (g.Hooks.WonBet)
+    g.Hooks.WonBet(g, betId, nullptr);
   g.BetStatus.Set(betId, status::kWorking);
 }
 
@@ -147,27 +184,12 @@ void SettleMoneyBet(Game& g, Outcome outcome, int betId) {
 
 void FigurePayoff(Game& g, int realBet, int betId, Outcome outcome, Currency amount) {
   PayoffRecord& row0 = g.Payoff.Quiet(0);
-  const PayoffRecord& own = g.Payoff[betId];
-  row0 = IsWin(outcome) ? own : PayoffRecord{-1, own.Form, 1};
-  g.RawPayoff = Share(amount, row0.Win, row0.Per);
+  const PayoffRecord loss{-1, g.Payoff[betId].Form, 1};
+  row0 = DecidingRecord(g, betId, outcome, loss);
+  g.RawPayoff = IsWin(outcome) && IsSplit(betId) ? SplitPayoff(amount, SplitParts(betId), row0)
+                                                 : Share(amount, row0.Win, row0.Per);
+  // Only a Lay or a Buy pays vig, and either is paid by its own record.
   if (ChargesVig(g, betId, g.RawPayoff > 0)) g.RawPayoff -= VigOf(g, realBet, betId, amount);
-
-  if (IsWin(outcome)) {
-    int record = WinningRecord(g, betId);
-    if (record != betId) {
-      row0 = g.Payoff[record];
-      g.RawPayoff = Share(amount, row0.Win, row0.Per);
-    }
-    if (IsSplit(betId)) {
-      row0 = g.Payoff[WinningPart(betId, g.DiceTotal)];
-      g.RawPayoff = SplitPayoff(amount, SplitParts(betId), row0);
-    }
-  }
-  // One call serves the Field's wins and losses: the pair's row says which.
-  if (betId == bet::kField) {
-    row0 = g.FieldPayoff[bet::FieldRow(g.Die1, g.Die2)];
-    g.RawPayoff = Share(amount, row0.Win, row0.Per);
-  }
 
   // Toward minus infinity: a winner's odd cents stay with the house.
   Currency chip = g.SmallestChip();
@@ -177,7 +199,7 @@ void FigurePayoff(Game& g, int realBet, int betId, Outcome outcome, Currency amo
 Currency UnitFor(const Game& g, Currency amount, Currency per) {
   Currency unit;
   for (int slot = bet::kLastChip; slot >= bet::kFirstChip; --slot) {
-    unit = MulRatio(g.BetAmount[slot], per.ToDouble());
+    unit = ChipTimesPer(g.BetAmount[slot], per);
     if (unit > 0 && unit <= amount && amount.raw % unit.raw == 0) break;
   }
   return unit;
