@@ -104,7 +104,8 @@ TEST(WonBetHandling, ModifiedFormsAndResultNotices) {
   TestTable u;
   u.g.WonBetAction = 3;
   u.Stand(kPlace6, 6);
-  u.g.BetAmount[kPlace6] = u.g.TotalOnTable = 12;
+  u.g.BetAmount.Set(kPlace6, 12);
+  u.g.TotalOnTable = 12;
   u.Dice(2, 4, 5);
   u.Settle(Outcome::Win, kPlace6);
   EXPECT_EQ(u.ui.messages, (std::vector<RecordedMessage>{{"Press 1 Unit Place 6", "Bet increased by: $12"}}));
@@ -114,7 +115,8 @@ TEST(WonBetHandling, SameBetIsTheAmountBeforeTheRollAndBuysPayTheirVigAnew) {
   TestTable t;
   t.g.WonBetAction = 2;
   t.Stand(kPlace6, 12);
-  t.g.BetAmount[kPlace6] = t.g.TotalOnTable = 18;  // raised after the dice went out
+  t.g.BetAmount.Set(kPlace6, 18);  // raised after the dice went out
+  t.g.TotalOnTable = 18;
   t.Dice(2, 4, 5);
   EXPECT_EQ(t.Settle(Outcome::Win, kPlace6), Currency(21));
   EXPECT_EQ(t.g.BetAmount[kPlace6], Currency(12));

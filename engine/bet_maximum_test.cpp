@@ -20,28 +20,29 @@ TEST(BetMaximum, TableMaximumPropositionsAndOdds) {
   EXPECT_EQ(GetBetMaximum(g, bet::kFirstHop), 3000);  // the payoff limit, not the table maximum
   g.Payoff.Set(bet::kSeven, {60, -1, 1});                // World includes the Seven
   EXPECT_EQ(GetBetMaximum(g, bet::kWorld), 267);
-  g.BetAmount[bet::kFirstChip] = 5;
+  g.BetAmount.Set(bet::kFirstChip, 5);
   EXPECT_EQ(GetBetMaximum(g, bet::kHard6), 330);
   g.Payoff.Set(bet::kHard6, {0, -1, 1});  // cannot win: the table maximum
   EXPECT_EQ(GetBetMaximum(g, bet::kHard6), 1000);
   g.TableMaximum = Currency::FromDouble(1003.5);
   EXPECT_EQ(GetBetMaximum(g, bet::kPassLine), 1000);
   EXPECT_EQ(GetBetMaximum(g, bet::kRail), 1000);
-  g.BetAmount[bet::kFirstChip] = 1;
+  g.BetAmount.Set(bet::kFirstChip, 1);
 
   // Odds by their number and parent; lays by what the take would win.
   EXPECT_EQ(GetBetMaximum(g, bet::kPassOdds), 0);  // no point
   t.SetPoint(6);
-  g.BetAmount[bet::kPassLine] = g.BetAmount[bet::kDontPass] = 10;
+  g.BetAmount.Set(bet::kPassLine, 10);
+  g.BetAmount.Set(bet::kDontPass, 10);
   EXPECT_EQ(GetBetMaximum(g, bet::kPassOdds), 25);
   EXPECT_EQ(GetBetMaximum(g, bet::kDontPassOdds), 30);
   t.SetPoint(4);
   EXPECT_EQ(GetBetMaximum(g, bet::kPassOdds), 20);
   EXPECT_EQ(GetBetMaximum(g, bet::kDontPassOdds), 40);
-  g.BetAmount[bet::kPassLine] = 20;
+  g.BetAmount.Set(bet::kPassLine, 20);
   EXPECT_EQ(GetBetMaximum(g, bet::kPassOdds), 40);
-  g.BetAmount[bet::Come(5)] = 5;
-  g.BetAmount[bet::DontCome(5)] = 10;
+  g.BetAmount.Set(bet::Come(5), 5);
+  g.BetAmount.Set(bet::DontCome(5), 10);
   EXPECT_EQ(GetBetMaximum(g, bet::ComeOdds(5)), 10);
   EXPECT_EQ(GetBetMaximum(g, bet::DontComeOdds(5)), 30);
   EXPECT_EQ(GetBetMaximum(g, bet::ComeOdds(9)), 0);  // no Come 9

@@ -12,6 +12,7 @@
 #include "dice/dice_roll_file.h"
 #include "dice/dice_state.h"
 #include "dice/money.h"
+#include "engine/bet_amounts.h"
 #include "engine/bet_maximum_memo.h"
 #include "engine/bet_status_table.h"
 #include "engine/catalogue.h"
@@ -45,7 +46,7 @@ constexpr int BankLimit = 9'999'999;
 // Die2) comes first.
 struct Game : DiceState {
   // --- Money slots and per-bet arrays -------------------------------------
-  std::array<Currency, bet::kSlots> BetAmount{};
+  BetAmounts BetAmount;
   std::array<std::string, bet::kSlots> BetName{};
   BetStatusTable BetStatus;
   std::array<int32_t, 101> WorkOnComeOut{};  // status while no point is on
@@ -65,8 +66,9 @@ struct Game : DiceState {
   // script pass left them (BetAfterRoll). Two buffers: when nothing moved a
   // bet between a pass and the next throw, both name one buffer and a roll
   // copies the layout once rather than twice.
-  using Amounts = std::array<Currency, bet::kSlots>;
-  std::array<Amounts, 2> BetSnapshots{};
+  // BetAmount brings each buffer up to date with the slots that moved.
+  using Amounts = BetAmounts::Amounts;
+  std::array<Amounts, BetAmounts::kCopies> BetSnapshots{};
   uint8_t AtRollStartIndex = 0, AfterRollIndex = 1;
   bool BetsMovedSincePass = true;  // anything may have changed since the last pass
   std::array<float, bet::kSlots> BetX{};
@@ -308,15 +310,15 @@ struct Game : DiceState {
   const Amounts& BetAfterRoll() const { return BetSnapshots[AfterRollIndex]; }
   Amounts& EditAtRollStart() {
     Unshare();
-    return BetSnapshots[AtRollStartIndex];
+    return EditSnapshot(AtRollStartIndex);
   }
   Amounts& EditAfterRoll() {
     Unshare();
-    return BetSnapshots[AfterRollIndex];
+    return EditSnapshot(AfterRollIndex);
   }
   // One slot of both snapshots.
   void SetSnapshotSlot(int slot, Currency amount) {
-    for (Amounts& amounts : BetSnapshots) amounts[slot] = amount;
+    for (int copy = 0; copy < BetAmounts::kCopies; ++copy) EditSnapshot(copy)[slot] = amount;
   }
 
   Currency Committed(int id) const {
@@ -341,7 +343,7 @@ struct Game : DiceState {
   // A bet's streak moved in this roll.
   void MarkStreakMoved(int id) { StreaksMoved[id >> 6] |= uint64_t{1} << (id & 63); }
 
-  Currency& Bankroll() { return BetAmount[bet::kBankroll]; }
+  Currency& Bankroll() { return BetAmount.Bankroll(); }
   Currency Bankroll() const { return BetAmount[bet::kBankroll]; }
   Currency SmallestChip() const { return BetAmount[bet::kFirstChip]; }
   // Notices are never shown under Hyper-Drive.
@@ -356,6 +358,11 @@ struct Game : DiceState {
     if (AtRollStartIndex != AfterRollIndex) return;
     AtRollStartIndex ^= 1;
     BetSnapshots[AtRollStartIndex] = BetSnapshots[AfterRollIndex];
+    BetAmount.CopyEdited(AtRollStartIndex);
+  }
+  Amounts& EditSnapshot(int copy) {
+    BetAmount.CopyEdited(copy);
+    return BetSnapshots[static_cast<size_t>(copy)];
   }
 
   SilentFrontEnd silentUi;

@@ -29,7 +29,7 @@ Currency BeginningBankroll(Game& g, Currency old) {
 
 void FillDefaults(Game& g) {
   static constexpr int kChips[5] = {1, 5, 25, 100, 500};
-  for (int i = 0; i < 5; ++i) g.BetAmount[bet::kFirstChip + i] = kChips[i];
+  for (int i = 0; i < 5; ++i) g.BetAmount.Set(bet::kFirstChip + i, kChips[i]);
   for (int id = 0; id < bet::kSlots; ++id)
     g.BetName[id] = bet::IsStack(id) && id > bet::kFirstStack ? bet::StackName(id) : std::string(bet::CatalogueName(id));
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id)
@@ -43,7 +43,7 @@ void NewGame(Game& g, bool keepChipStacks) {
   if (g.Hooks.GameFinished) g.Hooks.GameFinished(g);
   const Currency savedBankroll = g.Bankroll();
   for (int id = 0; id <= bet::kLastTableBet; ++id) {
-    g.BetAmount[id] = 0;
+    g.BetAmount.Set(id, 0);
     g.SetSnapshotSlot(id, 0);
   }
   g.SetAllCommitted({});
@@ -53,7 +53,7 @@ void NewGame(Game& g, bool keepChipStacks) {
       g.Ui->RedrawBet(id);
       continue;
     }
-    g.BetAmount[id] = 0;
+    g.BetAmount.Set(id, 0);
     g.SetSnapshotSlot(id, 0);
     g.BetName[id] = id > bet::kFirstStack ? bet::StackName(id) : "";
   }
@@ -72,7 +72,7 @@ void NewGame(Game& g, bool keepChipStacks) {
   if (g.ReSeedNewGames) SeedRNG(g, false);
 
   const Currency bankroll = BeginningBankroll(g, savedBankroll);
-  g.BetAmount[bet::kBankroll] = bankroll;
+  g.BetAmount.Set(bet::kBankroll, bankroll);
   g.SetSnapshotSlot(bet::kBankroll, bankroll);
   if (g.BankrollInitType != 3) g.AmountInvested = bankroll;  // type 3 keeps counting from the first start
   if (bankroll < 0) g.AllowNegativeBankroll = true;

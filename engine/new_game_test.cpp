@@ -8,8 +8,9 @@
 TEST(NewGame, ClearsTheTableAndKeepsTheSettings) {
   TestTable t;
   Game& g = t.g;
-  g.BetAmount[bet::kField] = g.TotalOnTable = 5;
-  g.BetAmount[101] = 7;
+  g.BetAmount.Set(bet::kField, 5);
+  g.TotalOnTable = 5;
+  g.BetAmount.Set(101, 7);
   g.BetName[101] = "Press fund";
   g.RollCounts[0] = g.HandStats[hand::kRolls] = 3;
   g.RollCountStop = 4;

@@ -231,7 +231,7 @@ void TablePlacement::ApplyBankroll() {
 
 void TablePlacement::Apply() {
   if (change_ == 0) return;
-  g_.BetAmount[id_] += change_;
+  g_.BetAmount.Add(id_, change_);
   g_.TotalOnTable += change_;
   if (g_.BetAmount[id_] == 0) SetBetStatusDefault(g_, id_);
 
@@ -275,7 +275,7 @@ void PlaceStack(Game& g, int id) {
   }
   // The title is built only for a notice: most changes have none.
   if (!g.MsgText.empty()) ShowPendingNotice(g, bet::StackName(id), true, change == 0);
-  g.BetAmount[id] += change;
+  g.BetAmount.Add(id, change);
   g.BetChangeAllowed = change;
 }
 
@@ -290,7 +290,7 @@ void Place(Game& g, int betId, Notices notices) {
     return;
   }
   if (!bet::IsTableBet(betId)) {  // the bankroll, the rail and the chips take any change
-    g.BetAmount[betId] += g.BetChange;
+    g.BetAmount.Add(betId, g.BetChange);
     g.BetChangeAllowed = g.BetChange;
     if (g.BetChangeAllowed != 0) g.GameChanged = true;
     return;
@@ -361,7 +361,7 @@ bool RestateBet(Game& g, int betId) {
   g.MsgText.clear();
   g.MsgTitle.clear();
   g.BetChange = -amount;
-  g.BetAmount[betId] = 0;
+  g.BetAmount.Set(betId, 0);
   g.TotalOnTable -= amount;
   SetBetStatusDefault(g, betId);
   g.BetChangeAllowed = -amount;
@@ -372,7 +372,7 @@ bool RestateBet(Game& g, int betId) {
     PlaceBetOnTable(g, betId);  // some rule has a say: the table decides
     return true;
   }
-  g.BetAmount[betId] = amount;
+  g.BetAmount.Set(betId, amount);
   g.TotalOnTable += amount;
   g.BetChangeAllowed = amount;
   g.Ui->RedrawBet(betId);

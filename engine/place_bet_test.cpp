@@ -20,7 +20,7 @@ TEST(PlaceBet, ChangesMoveInWholeChips) {
   TestTable t;
   EXPECT_EQ(t.Place(bet::Place(6), Money(7.5)), 8);
   EXPECT_EQ(t.Place(bet::Place(6), Money(-7.5)), -8);
-  t.g.BetAmount[bet::kFirstChip] = 5;
+  t.g.BetAmount.Set(bet::kFirstChip, 5);
   const std::pair<Currency, Currency> steps[] = {{7, 10}, {-3, -5}, {-20, -5}, {Currency::FromRaw(INT64_MAX), 1000},
                                                  {Currency::FromRaw(INT64_MIN), -1000}};
   for (const auto& [asked, made] : steps) EXPECT_EQ(t.Place(bet::Place(6), asked), made) << asked.raw;
@@ -79,8 +79,8 @@ TEST(PlaceBet, EveryRefusalWordForWord) {
   for (const auto& c : cases) {
     TestTable t;
     t.SetPoint(c.point);
-    t.g.BetAmount[c.betId] = c.standing;
-    if (c.parent) t.g.BetAmount[bet::ParentOf(c.betId)] = c.parent;
+    t.g.BetAmount.Set(c.betId, c.standing);
+    if (c.parent) t.g.BetAmount.Set(bet::ParentOf(c.betId), c.parent);
     t.Commit();
     EXPECT_EQ(t.Place(c.betId, c.change), 0) << c.text;
     EXPECT_EQ(t.g.BetAmount[c.betId], c.standing) << c.text;
@@ -117,8 +117,8 @@ TEST(PlaceBet, LimitsCutTheChangeAndSayWhy) {
   for (const auto& c : cases) {
     TestTable t;
     t.g.TableMinimum = 5;
-    t.g.BetAmount[c.id] = c.standing;
-    t.g.BetAmount[bet::kField] = c.field;
+    t.g.BetAmount.Set(c.id, c.standing);
+    t.g.BetAmount.Set(bet::kField, c.field);
     if (bet::IsTableBet(c.id)) t.g.TotalOnTable = c.standing + c.field;
     t.g.AllowNegativeBankroll = c.bankroll < 0;
     if (c.bankroll >= 0) t.g.Bankroll() = c.bankroll;
@@ -127,7 +127,7 @@ TEST(PlaceBet, LimitsCutTheChangeAndSayWhy) {
   }
   // A maximum lowered below an ordinary bet cuts it when it is touched.
   TestTable t;
-  t.g.BetAmount[bet::Place(8)] = 1000;
+  t.g.BetAmount.Set(bet::Place(8), 1000);
   t.g.TableMaximum = 500;
   EXPECT_EQ(t.Place(bet::Place(8), 5), -500);
 }
@@ -161,7 +161,8 @@ TEST(PlaceBet, ContractBetsPutBetsAndBetsOnTheMove) {
   TestTable t;
   t.g.AllowPutBets = true;
   t.SetPoint(6);
-  t.g.BetAmount[bet::kPassLine] = t.g.TotalOnTable = 50;
+  t.g.BetAmount.Set(bet::kPassLine, 50);
+  t.g.TotalOnTable = 50;
   t.Commit();
   EXPECT_EQ(t.Place(bet::kPassLine, 15), 15);
   EXPECT_EQ(t.Place(bet::kPassLine, -20), -15);
@@ -243,8 +244,8 @@ TEST(PlaceBetOnTable, AutomaticOddsAndSetBetToMaximum) {
   EXPECT_EQ(t.g.BetAmount[bet::kPassOdds], 25);
   EXPECT_EQ(t.g.TotalOnTable, 35);
   // Odds left above a lowered flat bet come down to the new maximum.
-  t.g.BetAmount[bet::DontCome(6)] = 10;
-  t.g.BetAmount[bet::DontComeOdds(6)] = 30;
+  t.g.BetAmount.Set(bet::DontCome(6), 10);
+  t.g.BetAmount.Set(bet::DontComeOdds(6), 30);
   t.g.TotalOnTable += 40;
   t.g.BetChange = -5;
   PlaceBetOnTable(t.g, bet::DontCome(6));
@@ -259,7 +260,8 @@ TEST(PlaceBetOnTable, AutomaticOddsAndSetBetToMaximum) {
   u.SetPoint(4);
   u.Place(bet::kPassLine, 10);  // refused with the point on
   const std::string refusal = u.g.MsgText;
-  u.g.BetAmount[bet::kPassLine] = u.g.TotalOnTable = 10;
+  u.g.BetAmount.Set(bet::kPassLine, 10);
+  u.g.TotalOnTable = 10;
   SetBetToMaximum(u.g, bet::kPassOdds);
   EXPECT_EQ(u.g.BetAmount[bet::kPassOdds], 20);
   EXPECT_EQ(u.g.BetChangeAllowed, 20);

@@ -118,7 +118,7 @@ void TakeSnapshots(Game& g) {
   // The last pass's snapshot is the layout now unless input ran since.
   if (g.BetsMovedSincePass) {
     g.AtRollStartIndex = static_cast<uint8_t>(g.AfterRollIndex ^ 1);
-    CopyArray(g.BetSnapshots[g.AtRollStartIndex], g.BetAmount);
+    g.BetAmount.Sync(g.AtRollStartIndex, g.BetSnapshots[g.AtRollStartIndex]);
   } else {
     g.AtRollStartIndex = g.AfterRollIndex;
   }
@@ -302,7 +302,7 @@ void CheckBankLimit(Game& g) {
 
 void TakeScriptSnapshots(Game& g) {
   g.AfterRollIndex = static_cast<uint8_t>(g.AtRollStartIndex ^ 1);
-  CopyArray(g.BetSnapshots[g.AfterRollIndex], g.BetAmount);
+  g.BetAmount.Sync(g.AfterRollIndex, g.BetSnapshots[g.AfterRollIndex]);
   g.BetsMovedSincePass = false;
   for (Flag& flag : g.AutoBet.Flags) flag.FlagPrevious = flag.FlagValue;
   g.RollCountAfterPass = g.RollCounts[0];

@@ -69,14 +69,19 @@ TEST_F(RollTest, StatusesAndSnapshotsFollowThePoint) {
   EXPECT_EQ(g.PointBeforeRoll, 0);
 }
 
-// A roll keeps its baselines by their changes rather than by copies: over
-// many rolls of a full layout, the contract baseline must read as the layout
-// did when the dice went out, and the streaks at the top of the roll as they
-// stood before it.
+// A roll keeps its baselines and snapshots by their changes rather than by
+// whole copies: over many rolls of a full layout, the contract baseline and
+// the start snapshot must read as the layout did when the dice went out, the
+// after-roll snapshot as it stands after the roll, and the streaks at the top
+// of the roll as they stood before it.
 TEST_F(RollTest, BaselinesReadAsTheLayoutWhenTheDiceWentOut) {
-  static Game::CommittedTable layout;  // read by a hook, which captures nothing
+  static Game::Amounts layout;  // read by a hook, which captures nothing
   static int mismatches = 0;
-  g.Hooks.DiceCounted = [](Game& game) { mismatches += game.CommittedAmounts() != layout; };
+  g.Hooks.DiceCounted = [](Game& game) {
+    Game::CommittedTable committed;
+    std::copy_n(layout.begin(), committed.size(), committed.begin());
+    mismatches += game.CommittedAmounts() != committed || game.BetAtRollStart() != layout;
+  };
   uint32_t seed = 20261124;
   auto die = [&seed] {
     seed = seed * 1103515245u + 12345u;
@@ -85,10 +90,11 @@ TEST_F(RollTest, BaselinesReadAsTheLayoutWhenTheDiceWentOut) {
   for (int roll = 0; roll < 3000; ++roll) {
     for (int id : {bet::kPassLine, bet::kCome, bet::kDontCome, bet::kDontPass, bet::Place(6), bet::kField, bet::kHard8})
       if (g.BetAmount[id] == 0) Bet(id, 10);
-    std::copy_n(g.BetAmount.begin(), layout.size(), layout.begin());
+    layout = g.BetAmount.All();
     const auto streaksBefore = g.BetStreak[1];
     Roll(die(), die());
     ASSERT_EQ(g.BetStreak[0], streaksBefore) << "roll " << roll;
+    ASSERT_EQ(g.BetAfterRoll(), g.BetAmount.All()) << "roll " << roll;
   }
   EXPECT_EQ(mismatches, 0);
 }

@@ -32,16 +32,16 @@ TEST(Vig, RoundsByModeAndNeverBelowOneCheck) {
   t.g.LayVigRate = Money(-0.05);
   EXPECT_EQ(FigureLayVig(t.g, bet::Lay(4), 40), 0);
   t.g.BuyVigRate = Money(0.05);
-  t.g.BetAmount[bet::kFirstChip] = Money(0.25);
+  t.g.BetAmount.Set(bet::kFirstChip, Money(0.25));
   EXPECT_EQ(FigureBuyVig(t.g, bet::Buy(6), 10), Money(0.5));
   EXPECT_EQ(FigureBuyVig(t.g, bet::Buy(6), 1), Money(0.25));
 }
 
 TEST(Vig, RefigureVigsRebuildsTheTotal) {
   TestTable t;
-  t.g.BetAmount[bet::Buy(4)] = 20;
-  t.g.BetAmount[bet::Lay(4)] = 40;
-  t.g.BetAmount[bet::kField] = 5;
+  t.g.BetAmount.Set(bet::Buy(4), 20);
+  t.g.BetAmount.Set(bet::Lay(4), 40);
+  t.g.BetAmount.Set(bet::kField, 5);
   RefigureVigs(t.g);
   EXPECT_EQ(t.g.BuyVigOnBet[0], 1);
   EXPECT_EQ(t.g.LayVigOnBet[0], 1);
@@ -65,7 +65,7 @@ TEST(Vig, ChangeVigRuleIsRefusedWhenUpFrontVigOutrunsTheBankroll) {
   t.g.AllowNegativeBankroll = false;
   t.g.ChargeAllBuy = false;
   t.g.Bankroll() = 20;
-  t.g.BetAmount[bet::Buy(4)] = 20;
+  t.g.BetAmount.Set(bet::Buy(4), 20);
   RefigureVigs(t.g);
   EXPECT_FALSE(ChangeVigRule(t.g, VigRule::ChargeAllBuy, kTrue));
   EXPECT_FALSE(t.g.ChargeAllBuy);
@@ -78,14 +78,14 @@ TEST(Vig, ChangeVigRuleIsRefusedWhenUpFrontVigOutrunsTheBankroll) {
   EXPECT_EQ(t.g.TotalOnTable, 21);
 
   // Rounding up raises the up-front vig of 30 from 1 to 2.
-  t.g.BetAmount[bet::Buy(4)] = 30;
+  t.g.BetAmount.Set(bet::Buy(4), 30);
   RefigureVigs(t.g);
   t.g.Bankroll() = 31;
   EXPECT_FALSE(ChangeVigRule(t.g, VigRule::RoundBuyVig, 2));
   EXPECT_EQ(t.g.RoundBuyVig, 0);
   EXPECT_EQ(t.g.BuyVigOnBet[0], 1);
 
-  t.g.BetAmount[bet::Lay(4)] = 40;
+  t.g.BetAmount.Set(bet::Lay(4), 40);
   t.g.ChargeAllLay = false;
   RefigureVigs(t.g);
   t.g.Bankroll() = t.g.TotalOnTable;
@@ -141,7 +141,7 @@ TEST(Rules, ValidateConfigurationStopsAtTheFirstFault) {
       {{5, 5, 25}, 10, 10, "", "", "", "", -1},  // equal is fine
   };
   for (const auto& c : cases) {
-    for (int i = 0; i < 3; ++i) t.g.BetAmount[bet::ChipSlot(i + 1)] = Money(c.chips[i]);
+    for (int i = 0; i < 3; ++i) t.g.BetAmount.Set(bet::ChipSlot(i + 1), Money(c.chips[i]));
     t.g.TableMinimum = Money(c.minimum);
     t.g.TableMaximum = Money(c.maximum);
     t.ui.messages.clear();

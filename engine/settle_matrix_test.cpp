@@ -153,7 +153,7 @@ TEST_P(SettleMatrix, EveryBetOnEveryPairAndPoint) {
           g.BuyVigRate = g.LayVigRate = Currency::FromRaw(v.vigPercent * 100);
           g.ChargeAllBuy = g.ChargeAllLay = v.chargeAll;
           g.RoundBuyVig = g.RoundLayVig = v.roundVig;
-          g.BetAmount[bet::kFirstChip] = Currency::FromDouble(v.chip);
+          g.BetAmount.Set(bet::kFirstChip, Currency::FromDouble(v.chip));
           g.AllowPutBets = v.putBets;
           g.BarNumber = v.barNumber;
           if (v.changedPayoffs) ChangePayoffs(g);

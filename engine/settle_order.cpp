@@ -37,22 +37,6 @@ void BookPhantomsSoFar(Game& g, const ThrowPlan& plan, int lastStep, const Worki
   g.PhantomsDeferred = false;
 }
 
-// Whether any table bet has money on it, worked branch-free so that it costs
-// less than walking the throw's settlements of an empty layout.
-bool AnyMoneyOnLayout(const Game& g) {
-  // Four chains of ORs, so that they do not wait on one another.
-  static_assert(bet::kLastTableBet - bet::kFirstTableBet + 1 == 83);
-  const Currency* amounts = &g.BetAmount[bet::kFirstTableBet];
-  int64_t a = 0, b = 0, c = 0, d = 0;
-  for (int i = 0; i < 80; i += 4) {
-    a |= amounts[i].raw;
-    b |= amounts[i + 1].raw;
-    c |= amounts[i + 2].raw;
-    d |= amounts[i + 3].raw;
-  }
-  return (a | b | c | d | amounts[80].raw | amounts[81].raw | amounts[82].raw) != 0;
-}
-
 void TakeOtherStep(Game& g, const ThrowStep& step) {
   switch (step.kind) {
     case StepKind::LineWin: LineWin(g); break;
@@ -90,19 +74,49 @@ void WalkBookingPhantoms(Game& g, const ThrowPlan& plan, int first, ThrowDecisio
   }
 }
 
+// The steps that a throw whose phantom units are counted whole must take:
+// the settlements of the bets with money, and the steps that are not
+// settlements.
+SlotBits<2> StepsDue(const ThrowPlan& plan, const BetAmounts::BetBits& withMoney) {
+  SlotBits<2> due = plan.otherSteps;
+  (withMoney & plan.settled).ForEach([&](int id) { due.Add(plan.stepOfBet[static_cast<size_t>(id)]); });
+  return due;
+}
+
+// The bets in `moved` gained or lost their money: from `first` on, the
+// steps due take in or drop their settlements.
+void FollowMoney(const ThrowPlan& plan, const BetAmounts::BetBits& moved, const BetAmounts::BetBits& withMoney,
+                 int first, SlotBits<2>& due) {
+  (moved & plan.settled).ForEach([&](int id) {
+    const int step = plan.stepOfBet[static_cast<size_t>(id)];
+    if (step < first) return;
+    if (withMoney.Has(id))
+      due.Add(step);
+    else
+      due.Remove(step);
+  });
+}
+
 // The steps of a throw whose phantom units are counted whole: an empty spot
 // has nothing to settle. Gives the step after which the rest of the throw
 // must book its own units, or the plan's end.
 int WalkCountedWhole(Game& g, const ThrowPlan& plan, ThrowDecisions& decided) {
   const WorkingSet atStart = g.BetStatus.Working();
   uint32_t changesSeen = g.BetStatus.Changes();
-  for (int i = 0; i < plan.count; ++i) {
-    const ThrowStep& step = plan.steps[i];
-    if (step.kind == StepKind::Settle) {
-      if (g.BetAmount[step.bet].raw == 0) continue;
+  BetAmounts::BetBits withMoney = g.BetAmount.WithMoney();
+  SlotBits<2> due = StepsDue(plan, withMoney);
+  while (due.Any()) {
+    const int i = due.TakeFirst();
+    const ThrowStep& step = plan.steps[static_cast<size_t>(i)];
+    if (step.kind == StepKind::Settle)
       SettleStep(g, step, false, decided);
-    } else {
+    else
       TakeOtherStep(g, step);
+    // A step may put money on a bet or take it off: the rest of the throw
+    // follows the layout as it now stands.
+    if (g.BetAmount.WithMoney() != withMoney) {
+      FollowMoney(plan, withMoney ^ g.BetAmount.WithMoney(), g.BetAmount.WithMoney(), i + 1, due);
+      withMoney = g.BetAmount.WithMoney();
     }
     if (g.BetStatus.Changes() != changesSeen) {
       changesSeen = g.BetStatus.Changes();
@@ -121,7 +135,7 @@ ThrowDecisions SettleTheThrow(Game& g) {
   ThrowDecisions decided;
   if (!DiceOnTheTable(g)) return decided;
   const ThrowPlan& plan = PlanFor(g.Die1, g.Die2, g.PointBeforeRoll, g.BarNumber);
-  if (g.PhantomsDeferred && !AnyMoneyOnLayout(g)) {
+  if (g.PhantomsDeferred && !g.BetAmount.WithMoney().Any()) {
     TakeOtherSteps(g, plan);
     return decided;
   }

@@ -54,7 +54,7 @@ TEST(SettleBet, WonNoticesAndRounding) {
   t.Dice(1, 4, 0);
   EXPECT_EQ(t.Settle(Outcome::Win, bet::kField), Currency(-2));
   EXPECT_EQ(t.g.RawPayoff, Currency::FromDouble(-1.5));
-  t.g.BetAmount[bet::kFirstChip] = Currency::FromDouble(0.25);
+  t.g.BetAmount.Set(bet::kFirstChip, Currency::FromDouble(0.25));
   t.Stand(bet::kField, 3);
   EXPECT_EQ(t.Settle(Outcome::Win, bet::kField), Currency::FromDouble(-1.5));
 }
@@ -199,7 +199,7 @@ TEST(FigureUnit, LargestCheckThatDividesTheBet) {
   const struct { int amount, per, unit; } cases[] = {
       {30, 6, 30}, {12, 6, 6}, {25, 1, 25}, {1000, 1, 500}, {7, 1, 1}, {7, 6, 6}, {3, 6, 6}};
   for (const auto& c : cases) {
-    t.g.BetAmount[bet::Place(6)] = c.amount;
+    t.g.BetAmount.Set(bet::Place(6), c.amount);
     t.g.Payoff.Edit()[0].Per = c.per;
     FigureUnit(t.g, bet::Place(6));
     EXPECT_EQ(t.g.UnitAmount, Currency(c.unit)) << c.amount << " per " << c.per;

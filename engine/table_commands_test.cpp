@@ -162,7 +162,7 @@ TEST(ClickBet, ToolsShiftAndKeyedAmounts) {
   ClickBet(t.g, bet::kField, false);
   ClickBet(t.g, bet::kField, false);
   EXPECT_EQ(t.g.BetAmount[bet::kField], t.g.BetAmount[bet::kFirstChip + 2] * 2);
-  t.g.BetAmount[102] = 7;  // tool 8 adds what Chip-Stack 102 holds
+  t.g.BetAmount.Set(102, 7);  // tool 8 adds what Chip-Stack 102 holds
   t.g.ClickTool = 8;
   ClickBet(t.g, bet::Place(8), false);
   EXPECT_EQ(t.g.BetAmount[bet::Place(8)], Currency(7));

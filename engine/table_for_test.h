@@ -101,7 +101,8 @@ struct TestTable {
   }
   // A working bet that stood when the dice went out, put down past the rules.
   void Stand(int id, Currency amount) {
-    g.BetAmount[id] = g.EditAtRollStart()[id] = amount;
+    g.BetAmount.Set(id, amount);
+    g.EditAtRollStart()[id] = amount;
     g.TotalOnTable += amount;
     g.SetCommitted(id, amount);
     g.BetStatus.Set(id, 1);

@@ -1,6 +1,8 @@
 #include "engine/throw_plan.h"
 
 #include <memory>
+#include <stdexcept>
+#include <string>
 
 #include "engine/catalogue.h"
 
@@ -14,7 +16,9 @@ constexpr Outcome kOddsWin = Outcome::OddsWin, kOddsLoss = Outcome::OddsLoss;
 class PlanWriter {
  public:
   PlanWriter(ThrowPlan& plan, int die1, int die2, int pointBefore, int bar)
-      : plan_(plan), die1_(die1), die2_(die2), total_(die1 + die2), pointBefore_(pointBefore), bar_(bar) {}
+      : plan_(plan), die1_(die1), die2_(die2), total_(die1 + die2), pointBefore_(pointBefore), bar_(bar) {
+    plan_.stepOfBet.fill(ThrowPlan::kNoStep);
+  }
 
   void Write() {
     if (total_ == pointBefore_) {  // the point is made
@@ -31,8 +35,15 @@ class PlanWriter {
  private:
   void Add(StepKind kind, Outcome outcome = kWin, int id = 0, int to = 0) {
     const ThrowStep step{kind, outcome, static_cast<uint8_t>(id), static_cast<uint8_t>(to)};
+    if (kind == StepKind::Settle) {
+      if (plan_.settled.Has(id)) throw std::logic_error("a throw settles bet " + std::to_string(id) + " twice");
+      plan_.settled.Add(id);
+      plan_.stepOfBet[static_cast<size_t>(id)] = static_cast<uint8_t>(plan_.count);
+    } else {
+      plan_.others[plan_.otherCount++] = step;
+      plan_.otherSteps.Add(plan_.count);
+    }
     plan_.steps[plan_.count++] = step;
-    if (kind != StepKind::Settle) plan_.others[plan_.otherCount++] = step;
   }
   void Settle(Outcome outcome, int id) {
     if (IsWin(outcome) && bet::IsHop(id)) hopWon_[id - bet::kFirstHop] = true;

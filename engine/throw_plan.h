@@ -9,6 +9,7 @@
 #include <cstdint>
 
 #include "engine/outcome.h"
+#include "engine/slot_bits.h"
 
 enum class StepKind : uint8_t { Settle, LineWin, LineLoss, LineBarred, MoveBet };
 
@@ -21,8 +22,15 @@ struct ThrowStep {
 
 struct ThrowPlan {
   static constexpr int kMostSteps = 96;
+  static constexpr uint8_t kNoStep = 0xff;
   std::array<ThrowStep, kMostSteps> steps{};
   int count = 0;
+  // Where each bet settles (kNoStep: nowhere in this throw); a bet settles
+  // at most once a throw. With the steps that are not settlements, they let
+  // a throw take just the steps of the bets with money.
+  std::array<uint8_t, 128> stepOfBet;
+  SlotBits<2> settled;     // bets
+  SlotBits<2> otherSteps;  // step indexes
   // The steps that are not settlements (line counts, box bets moving), for
   // a throw with no money on the layout.
   std::array<ThrowStep, 4> others{};

@@ -48,7 +48,8 @@ struct ScriptTable : TestTable {
     }
   }
   void Run(const ScriptLine& line) { Run(std::vector<ScriptLine>{line}); }
-  Currency& Stack(int n) { return g.BetAmount[bet::kFirstStack + n]; }
+  Currency Stack(int n) const { return g.BetAmount[bet::kFirstStack + n]; }
+  void SetStack(int n, Currency amount) { g.BetAmount.Set(bet::kFirstStack + n, amount); }
 };
 
 TEST(Actions, EachOperatorFormOnAPlaceBet) {
@@ -71,7 +72,7 @@ TEST(Actions, EachOperatorFormOnAPlaceBet) {
   for (const Case& c : cases) {
     ScriptTable t;
     t.Stand(kPlace8, 10);
-    t.g.BetAmount[kPlace8] = 30;
+    t.g.BetAmount.Set(kPlace8, 30);
     t.Stand(kPlace6, c.before);
     t.Run(Action(c.code, c.amount, kPlace6, kPlace8));
     EXPECT_EQ(t.g.BetAmount[kPlace6], c.after) << "verb " << c.code << " amount " << c.amount.ToDouble();
@@ -100,7 +101,7 @@ TEST(Actions, RunsOfLikeLinesKeepTheHighestLowestOrAverage) {
     t.Stand(kPlace6, c.before);
     std::vector<ScriptLine> lines;
     for (size_t i = 0; i < c.values.size(); ++i) {
-      t.Stack(static_cast<int>(i) + 1) = c.values[i];
+      t.SetStack(static_cast<int>(i) + 1, c.values[i]);
       lines.push_back(Action(c.code, 0, kPlace6, kChipStack, static_cast<int>(i) + 1));
     }
     t.Run(lines);
@@ -111,8 +112,8 @@ TEST(Actions, RunsOfLikeLinesKeepTheHighestLowestOrAverage) {
   ScriptTable t;
   t.Stand(bet::Place(4), 10);
   t.Stand(kPlace6, 12);
-  t.Stack(1) = 20;
-  t.Stack(2) = 50;
+  t.SetStack(1, 20);
+  t.SetStack(2, 50);
   t.Run({Action(23, 0, kAllPlace, kChipStack, 1), Action(23, 0, kAllPlace, kChipStack, 2),
          Action(20, 1, kPlace8), Action(23, 0, kAllPlace, kChipStack, 1)});
   EXPECT_EQ(t.g.BetAmount[bet::Place(4)], 80);
@@ -165,7 +166,7 @@ TEST(Actions, RoundAndChipStackTargets) {
   };
   for (const Case& c : cases) {
     ScriptTable t;
-    t.Stack(3) = c.before;
+    t.SetStack(3, c.before);
     ScriptLine round = Action(109, c.unit, kChipStack, c.direction);
     round.TargetNum = 3;
     t.Run(round);
@@ -173,12 +174,12 @@ TEST(Actions, RoundAndChipStackTargets) {
   }
 
   ScriptTable t;
-  t.Stack(1) = 150;  // a reference out of 0..99 reads nothing and acts on nothing
+  t.SetStack(1, 150);  // a reference out of 0..99 reads nothing and acts on nothing
   ScriptLine viaRef = Action(10, 5, kChipStackRef);
   viaRef.TargetNum = 1;
   t.Run(viaRef);
   for (int n = 0; n < 100; ++n) EXPECT_EQ(t.Stack(n), n == 1 ? 150 : 0) << n;
-  t.Stack(1) = Money(7.9);  // the whole value points
+  t.SetStack(1, Money(7.9));  // the whole value points
   t.Run(viaRef);
   EXPECT_EQ(t.Stack(7), 5);
   ScriptLine all = Action(20, 2, 1602);  // "all Chip-Stacks" reaches slot 200 too
@@ -264,7 +265,7 @@ TEST(Actions, InputFlagsNamesAndSettings) {
 
   ScriptLine name = Action(87, 0, 0, 0, 0, "Martingale");
   name.TargetNum = 4;
-  t.Stack(1) = 100;
+  t.SetStack(1, 100);
   ScriptLine nameRef = Action(89, 0, 0, 0, 0, "lost");
   nameRef.TargetNum = 1;
   t.Run({name, nameRef});
@@ -300,7 +301,7 @@ TEST(Actions, OutputFileAndErrors) {
   ScriptTable t;
   t.Run({Action(113, 0, 0, 0, 0, path), Action(100, 0, 0, 0, 0, "Bankroll"), Action(101, 0, 0, 1400),
          Action(102), Action(100, 0, 0, 0, 0, "run on;"), Action(114)});
-  t.Stack(2) = Money(-2.5);
+  t.SetStack(2, Money(-2.5));
   t.Run({Action(99, 0, 0, 0, 0, path), Action(108, 0, 0, kChipStack, 2), Action(114)});
   EXPECT_EQ(ReadBytes(path), "Bankroll\t\t500\nrun on\t-2.5");
 
@@ -318,7 +319,7 @@ TEST(Actions, OutputFileAndErrors) {
   EXPECT_EQ(throwsNumber(Action(97, 0, 0, 0, 0, (dir / "missing.prb").string())), 53);
   EXPECT_EQ(throwsNumber(Action(109, 0, kPlace6, 1100)), 11);  // Round by 0, even on an empty spot
   t.Stand(kPlace6, 10);
-  t.Stack(1) = Currency::FromRaw(900'000'000'000'000'000);
+  t.SetStack(1, Currency::FromRaw(900'000'000'000'000'000));
   ScriptLine multiply = Action(40, 1000, kChipStack);
   multiply.TargetNum = 1;
   EXPECT_EQ(throwsNumber(multiply), 6);

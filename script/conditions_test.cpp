@@ -39,7 +39,7 @@ struct Scene {
   Game g;
   explicit Scene(int rolls = 5) { g.RollCounts[0] = g.RollCountAfterPass = rolls; }
   void Bet(int slot, Currency now, Currency before) {
-    g.BetAmount[slot] = now;
+    g.BetAmount.Set(slot, now);
     g.EditAfterRoll()[slot] = before;
   }
   void Streak(int slot, int now, int before) {

@@ -277,7 +277,7 @@ TEST(Interpreter, TheRollRunsTheScriptAndTakesItsSnapshots) {
   EXPECT_EQ(p.Acted(), Lines{4});
   EXPECT_EQ(p.t.g.RollCountAfterPass, 1);
   EXPECT_EQ(p.t.g.AutoBet.Flags[0].FlagPrevious, -1);
-  EXPECT_EQ(p.t.g.BetAfterRoll(), p.t.g.BetAmount);
+  EXPECT_EQ(p.t.g.BetAfterRoll(), p.t.g.BetAmount.All());
   EXPECT_EQ(p.Run(), Lines{}) << "no roll since the last pass";
 
   p.t.g.AutoBetActivated = false;

@@ -40,7 +40,7 @@ int LiveBets(const Game& g) {
 // Shared by both readers; `last` picks the amounts as the roll started and
 // the last shooter's counters.
 Currency ValueOf(const Game& g, int code, int num, bool last) {
-  const auto& amounts = last ? g.BetAtRollStart() : g.BetAmount;
+  const auto& amounts = last ? g.BetAtRollStart() : g.BetAmount.All();
   const auto& h = g.HandStats;
   if (code >= 0 && code <= bet::kLastTableBet) return amounts[code];
   if (code >= subject::kAllBets && code <= subject::kBuyBets) return GroupSum(amounts, code);

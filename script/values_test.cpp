@@ -13,11 +13,11 @@ TEST(ScriptValues, GroupsReferencesPointsAndDecidedWagers) {
   EXPECT_EQ(GetValue(t.g, 1702, 0), Currency(6));
 
   // Chip-Stack 3 points at Chip-Stack 7; a value of 100 or below 0 reads $0.
-  t.g.BetAmount[103] = Currency::FromRaw(75'000);  // 7.5: its whole part
-  t.g.BetAmount[107] = 25;
+  t.g.BetAmount.Set(103, Currency::FromRaw(75'000));  // 7.5: its whole part
+  t.g.BetAmount.Set(107, 25);
   EXPECT_EQ(GetValue(t.g, 1601, 3), Currency(25));
   for (Currency bad : {Currency(100), Currency(-1)}) {
-    t.g.BetAmount[103] = bad;
+    t.g.BetAmount.Set(103, bad);
     EXPECT_EQ(GetValue(t.g, 1601, 3), Currency(0));
   }
 

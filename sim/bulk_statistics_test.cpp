@@ -139,7 +139,7 @@ void ExpectSameFigures(const Game& inFull, const Game& bulk, int64_t rolls) {
       ASSERT_EQ(inFull.BetWins[kind][id], bulk.BetWins[kind][id]) << "wins " << kind << "/" << id;
       ASSERT_EQ(inFull.BetLosses[kind][id], bulk.BetLosses[kind][id]) << "losses " << kind << "/" << id;
     }
-  ASSERT_EQ(inFull.BetAmount, bulk.BetAmount) << "after " << rolls;
+  ASSERT_EQ(inFull.BetAmount.All(), bulk.BetAmount.All()) << "after " << rolls;
   ASSERT_EQ(inFull.HandStats, bulk.HandStats) << "after " << rolls;
 }
 

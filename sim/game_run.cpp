@@ -92,7 +92,7 @@ void OpenSavedGame(Game& g, const RunOptions& options) {
   FailIfTold(opened, "game file \"" + options.GameFile + "\"");
   if (!opened) throw GameSetUpError("game file \"" + options.GameFile + "\" could not be opened");
   if (options.Bankroll) {
-    g.BetAmount[bet::kBankroll] = g.AmountInvested = *options.Bankroll;
+    g.Bankroll() = g.AmountInvested = *options.Bankroll;
     g.HighBankroll = g.LowBankroll = *options.Bankroll;
     g.BankrollSum = 0;
   }

@@ -90,7 +90,7 @@ TEST(RunController, EndsWithTheTableTheSameRunLeavesOnTheCallersThread) {
 
     EXPECT_EQ(there.g.RollCounts[0], c.rolls);
     EXPECT_EQ(there.g.RollCounts, here.g.RollCounts);
-    EXPECT_EQ(there.g.BetAmount, here.g.BetAmount);
+    EXPECT_EQ(there.g.BetAmount.All(), here.g.BetAmount.All());
     EXPECT_EQ(std::pair(there.g.Die1, there.g.Die2), std::pair(here.g.Die1, here.g.Die2));
     EXPECT_EQ(there.g.HighBankroll, here.g.HighBankroll);
     EXPECT_EQ(there.g.LowBankroll, here.g.LowBankroll);
@@ -180,7 +180,7 @@ TEST(RunController, HyperDriveSnapshotsClimbUntilStopAndASecondStartIsRefused) {
   EXPECT_FALSE(last.Running);
   EXPECT_GE(last.Rolls, seen);
   EXPECT_EQ(last.Rolls, r.g.RollCounts[0]);
-  EXPECT_EQ(last.Bets, r.g.BetAmount);
+  EXPECT_EQ(last.Bets, r.g.BetAmount.All());
   // The redraws the run asked for are made once it is over.
   EXPECT_FALSE(r.ui.redrawn.empty());
 }

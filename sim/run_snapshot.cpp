@@ -16,7 +16,7 @@ void TakeRunSnapshot(const Game& g, bool running, RunSnapshot& shot) {
   shot.Point = g.Point;
   shot.Die1 = g.Die1;
   shot.Die2 = g.Die2;
-  shot.Bets = g.BetAmount;
+  shot.Bets = g.BetAmount.All();
   shot.GraphFirstRoll = WindowFirstRoll(g);
   shot.GraphCount = g.GraphCount;
   shot.GraphTop = g.GraphTop;

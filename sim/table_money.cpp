@@ -47,7 +47,7 @@ TableResult Table::SetChip(int n, Currency value) {
     if (n < 1 || n > kChips) return TableResult::Fail(TableCode::Unknown, "there are checks 1 to 5");
     if (value < kLeastUnit || value > kMostChip)
       return TableResult::Fail(TableCode::OutOfRange, "VALUE " + Amount(value) + " must be from .01 to 100,000");
-    g.BetAmount[bet::kFirstChip + n - 1] = value;
+    g.BetAmount.Set(bet::kFirstChip + n - 1, value);
     return MarkUnsavedIf(true);
   });
 }
@@ -55,7 +55,7 @@ TableResult Table::SetChip(int n, Currency value) {
 TableResult Table::SetChips(const std::array<Currency, kChips>& values) {
   return Command([&](Game& g) {
     if (const auto fault = ChipsFault(values)) return TableResult::Fail(TableCode::OutOfRange, *fault, "Check Values");
-    std::copy(values.begin(), values.end(), g.BetAmount.begin() + bet::kFirstChip);
+    for (int n = 0; n < kChips; ++n) g.BetAmount.Set(bet::kFirstChip + n, values[static_cast<size_t>(n)]);
     return MarkUnsavedIf(true);
   });
 }

@@ -25,7 +25,7 @@ void OddPayoffs(Game& g) {
 
 void Prepare(TestTable& t, const TableSetup& s, int point) {
   Game& g = t.g;
-  g.BetAmount[bet::kFirstChip] = Currency::FromRaw(1);  // no rounding to chips
+  g.BetAmount.Set(bet::kFirstChip, Currency::FromRaw(1));  // no rounding to chips
   g.BarNumber = s.barNumber;
   g.ChargeAllBuy = g.ChargeAllLay = s.vigUpFront;
   if (s.oddPayoffs) OddPayoffs(g);

@@ -59,7 +59,7 @@ TEST(BetResultsView, CombinedRowsAddTheSelectedBets) {
   BookBetResult(t.g, kActual, bet::kField, 100, 100);  // not selected
   t.g.RollCounts[0] = 50;
   t.g.SimRollRate = 100;  // half an hour
-  t.g.BetAmount[place6] = 18;
+  t.g.BetAmount.Set(place6, 18);
   t.g.EditAtRollStart()[place8] = 6;
 
   const BetResultsView view = CombinedBetResults(t.g, {place6, place8}, kActual);

@@ -49,7 +49,8 @@ void Bound(Currency& v, Currency lo, Currency hi) { v = v < lo ? lo : v > hi ? h
 void Bound(Currency& v) { Bound(v, -kMostMoney, kMostMoney); }
 
 void KeepMoneyInRange(Game& g) {
-  for (auto* table : {&g.BetAmount, &g.EditAtRollStart(), &g.EditAfterRoll()}) {
+  Game::Amounts amounts = g.BetAmount.All();
+  for (auto* table : {&amounts, &g.EditAtRollStart(), &g.EditAfterRoll()}) {
     Currency bankroll = (*table)[bet::kBankroll];
     Bound(bankroll, -kMostBankroll, kMostBankroll);
     for (Currency& v : *table) Bound(v);
@@ -71,8 +72,8 @@ void KeepMoneyInRange(Game& g) {
   Bound(g.BankrollSum, -kMostBankroll * 100'000, kMostBankroll * 100'000);
   // Chips are the rounding unit of every bet, and a chip times a payoff's
   // Per divides: neither may come to nothing.
-  for (int id = bet::kFirstChip; id < bet::kFirstChip + 5; ++id)
-    Bound(g.BetAmount[static_cast<size_t>(id)], kLeastUnit, kMostChip);
+  for (int id = bet::kFirstChip; id < bet::kFirstChip + 5; ++id) Bound(amounts[static_cast<size_t>(id)], kLeastUnit, kMostChip);
+  g.BetAmount.Assign(amounts);
   auto payoffsInRange = [](auto& rows) {
     for (PayoffRecord& p : rows) {  // no payoff above 1,000 for 1
       Bound(p.Per, kLeastUnit, kMostRatio);

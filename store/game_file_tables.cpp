@@ -69,7 +69,7 @@ void ReadPayoffs(RecordReader& reader, std::array<PayoffRecord, N>& rows) {
 }  // namespace
 
 void WriteTableRecords(const Game& g, RecordWriter& w) {
-  WriteMoneySlots(w, g.BetAmount);
+  WriteMoneySlots(w, g.BetAmount.All());
   WriteMoneySlots(w, g.BetAtRollStart());
   WriteMoneySlots(w, g.BetAfterRoll());
   WriteCommitted(w, g.CommittedAmounts());
@@ -88,7 +88,9 @@ void WriteTableRecords(const Game& g, RecordWriter& w) {
 }
 
 void ReadTableRecords(Game& g, RecordReader& r) {
-  ReadMoneySlots(r, g.BetAmount);
+  Game::Amounts amounts;
+  ReadMoneySlots(r, amounts);
+  g.BetAmount.Assign(amounts);
   ReadMoneySlots(r, g.EditAtRollStart());
   ReadMoneySlots(r, g.EditAfterRoll());
   Game::CommittedTable committed;

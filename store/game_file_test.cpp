@@ -184,7 +184,7 @@ TEST(GameFile, TheSignatureDecidesWhatOpens) {
   TempFolder folder;
   SavedTable saved(folder.path());
   NewGame(saved.g, false);
-  saved.g.BetAmount[0] = 777;
+  saved.g.BetAmount.Set(0, 777);
   const fs::path path = folder.path() / "game.crp";
   ASSERT_TRUE(SaveGame(saved.g, path.string()));
   const std::string bytes = Unsealed(ReadBytes(path));
@@ -214,7 +214,7 @@ TEST(GameFile, TheSignatureDecidesWhatOpens) {
   for (const auto& c : cases) {
     WriteBytes(path, c.bytes);
     SavedTable t(folder.path());
-    t.g.BetAmount[0] = 5;
+    t.g.BetAmount.Set(0, 5);
     const FileStatus opened = OpenGame(t.g, path.string());
     EXPECT_EQ(opened.Ok, c.opens) << c.bytes.substr(0, 40);
     EXPECT_EQ(t.g.Bankroll(), c.opens ? 777 : 5);  // a refused file leaves the table as it was
@@ -256,7 +256,7 @@ TEST(GameFile, ADamagedFileIsRefusedWhole) {
   for (const std::string& d : damaged) {
     WriteBytes(path, d);
     SavedTable t(folder.path());
-    t.g.BetAmount[0] = 5;
+    t.g.BetAmount.Set(0, 5);
     const FileStatus opened = OpenGame(t.g, path.string());
     EXPECT_FALSE(opened.Ok) << d.size();
     EXPECT_EQ(t.g.Bankroll(), 5);
@@ -382,7 +382,7 @@ TEST(GameFile, AFailedSaveLeavesTheOldFileWhole) {
   const fs::path path = folder.path() / "keep.crp";
   ASSERT_TRUE(SaveGame(t.g, path.string()));
   const std::string before = ReadBytes(path);
-  t.g.BetAmount[0] = 12345;
+  t.g.BetAmount.Set(0, 12345);
   {
     const FileSizeLimitForTest fullDisk(1000);
     const FileStatus saved = SaveGame(t.g, path.string());
@@ -403,7 +403,7 @@ TEST(GameFile, TheDefaultGameIsSavedAtTheStopAndOpenedAtTheStart) {
   TempFolder folder;
   SavedTable t(folder.path());
   NewGame(t.g, false);
-  t.g.BetAmount[0] = 4321;
+  t.g.BetAmount.Set(0, 4321);
   t.g.TableMaximum = 2500;
   ASSERT_TRUE(SaveDefaultGame(t.g));
   Game next;

@@ -82,7 +82,8 @@ TEST(ReadersFuzz, DamagedInputsAreRefusedOrReadNeverACrash) {
   FillDefaults(g);
   NewGame(g, false);
   g.AutoBet.ChipStackNames[3] = "spare";
-  g.BetAmount[43] = g.TotalOnTable = 10;
+  g.BetAmount.Set(43, 10);
+  g.TotalOnTable = 10;
   const std::string game = (folder.path() / "seed.crp").string();
   ASSERT_TRUE(SaveGame(g, game));
   const std::string sealed = ReadBytes(game);

@@ -183,7 +183,7 @@ TEST(TableView, PuckMarkersAndDescriptionFollowTheLook) {
   auto g = std::make_unique<Game>();
   FillDefaults(*g);
   g->Point = 6;
-  g->BetAmount[bet::Place(8)] = 12;
+  g->BetAmount.Set(bet::Place(8), 12);
   g->BetStatus.Set(bet::Place(8), status::kCalledOff);
   Desk d;
   d.view.resize(1000, 560);
