@@ -19,8 +19,6 @@ class BetAmounts {
   // The copies kept of the amounts: the roll's start and after-pass snapshots.
   static constexpr int kCopies = 2;
 
-  BetAmounts() { unsynced_.fill(kEverySlot); }
-
   Currency operator[](int slot) const { return amounts_[static_cast<size_t>(slot)]; }
   const Amounts& All() const { return amounts_; }
   const Currency* data() const { return amounts_.data(); }
@@ -30,7 +28,7 @@ class BetAmounts {
 
   void Set(int slot, Currency amount) {
     amounts_[static_cast<size_t>(slot)] = amount;
-    for (Slots& changed : unsynced_) changed.Add(slot);
+    for (Slots& behind : behind_) behind.Add(slot);
     if (static_cast<unsigned>(slot - bet::kFirstTableBet) <= bet::kLastTableBet - bet::kFirstTableBet) {
       if (amount.raw != 0)
         money_.Add(slot);
@@ -52,24 +50,28 @@ class BetAmounts {
   // Brings copy `copy` up to date with the amounts: only the slots written
   // since it last was, and the bankroll.
   void Sync(int copy, Amounts& to) {
-    Slots& changed = unsynced_[static_cast<size_t>(copy)];
-    if (changed == kEverySlot) {
+    const size_t self = static_cast<size_t>(copy);
+    if (whole_[self]) {
       CopyArray(to, amounts_);
     } else {
       to[bet::kBankroll] = amounts_[bet::kBankroll];
-      changed.ForEach([&](int slot) { to[static_cast<size_t>(slot)] = amounts_[static_cast<size_t>(slot)]; });
+      behind_[self].ForEach([&](int slot) {
+        to[static_cast<size_t>(slot)] = amounts_[static_cast<size_t>(slot)];
+      });
     }
-    changed = {};
+    whole_[self] = false;
+    behind_[self] = {};
   }
   // Copy `copy` was written elsewhere: the next Sync rewrites it whole.
-  void CopyEdited(int copy) { unsynced_[static_cast<size_t>(copy)] = kEverySlot; }
+  void CopyEdited(int copy) { whole_[static_cast<size_t>(copy)] = true; }
 
  private:
   using Slots = SlotBits<4>;
-  static constexpr Slots kEverySlot{{~uint64_t{0}, ~uint64_t{0}, ~uint64_t{0}, ~uint64_t{0}}};
   static_assert(bet::kSlots <= 256);
 
   Amounts amounts_{};
   BetBits money_;
-  std::array<Slots, kCopies> unsynced_;
+  // The slots written since each copy's last sync.
+  std::array<Slots, kCopies> behind_{};
+  std::array<bool, kCopies> whole_{true, true};
 };

@@ -5,10 +5,11 @@
 
 #include <array>
 #include <cstdint>
-#include <cstring>
 #if defined(__SSE2__)
 #include <emmintrin.h>
 #endif
+
+#include "engine/slot_bits.h"
 
 // 0 off, 1 working, 2 called ON, -1 called OFF.
 namespace status {
@@ -18,12 +19,8 @@ constexpr int32_t kWorking = 1;
 constexpr int32_t kCalledOn = 2;
 }  // namespace status
 
-// Bit id of the set: bets 0..127 in two words.
-struct WorkingSet {
-  std::array<uint64_t, 2> bits{};
-  bool Has(int id) const { return (bits[id >> 6] >> (id & 63)) & 1u; }
-  friend bool operator==(const WorkingSet&, const WorkingSet&) = default;
-};
+// The working bets, 0..127.
+using WorkingSet = SlotBits<2>;
 
 class BetStatusTable {
  public:

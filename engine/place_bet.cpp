@@ -123,11 +123,15 @@ void TablePlacement::Run() {
     return;
   }
   // A refusal that let part of the change through was shown already; it is
-  // left as the message only if no limit notice follows. Moved aside, not
-  // copied: most placements have none.
-  std::string refusalText = std::move(g_.MsgText), refusalTitle = std::move(g_.MsgTitle);
-  g_.MsgText.clear();
-  g_.MsgTitle.clear();
+  // left as the message only if no limit notice follows. Moved aside only
+  // when there is one: even an empty string's move copies its buffer.
+  std::string refusalText, refusalTitle;
+  if (!g_.MsgText.empty() || !g_.MsgTitle.empty()) {
+    refusalText = std::move(g_.MsgText);
+    refusalTitle = std::move(g_.MsgTitle);
+    g_.MsgText.clear();
+    g_.MsgTitle.clear();
+  }
 
   if (ApplyMinimum() && ApplyMaximum()) {
     Adjust();

@@ -16,12 +16,11 @@ bool DiceOnTheTable(const Game& g) { return g.Die1 >= 1 && g.Die1 <= 6 && g.Die2
 // returned work again, a bet placed again keeps its call): that leaves the
 // throw's phantom units as they were counted.
 bool ChangedAhead(const Game& g, const ThrowPlan& plan, int step, const WorkingSet& atStart) {
-  const WorkingSet& now = g.BetStatus.Working();
-  for (int i = step + 1; i < plan.count; ++i) {
-    const ThrowStep& s = plan.steps[i];
-    if (s.kind == StepKind::Settle && atStart.Has(s.bet) != now.Has(s.bet)) return true;
-  }
-  return false;
+  bool ahead = false;
+  ((atStart ^ g.BetStatus.Working()) & plan.settled).ForEach([&](int id) {
+    ahead = ahead || plan.stepOfBet[static_cast<size_t>(id)] > step;
+  });
+  return ahead;
 }
 
 // A bet's handling changed whether a bet still to settle works, in a throw

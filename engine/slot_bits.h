@@ -41,5 +41,10 @@ struct SlotBits {
     for (int word = 0; word < kWords; ++word)
       for (uint64_t bits = words[word]; bits != 0; bits &= bits - 1) f(word * 64 + std::countr_zero(bits));
   }
-  friend bool operator==(const SlotBits&, const SlotBits&) = default;
+  // Word by word: the library's comparison of the arrays would call memcmp.
+  friend bool operator==(const SlotBits& a, const SlotBits& b) {
+    uint64_t differ = 0;
+    for (int word = 0; word < kWords; ++word) differ |= a.words[word] ^ b.words[word];
+    return differ == 0;
+  }
 };
