@@ -1,12 +1,25 @@
 #include "engine/result_cells.h"
 
-#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace {
+
+// Shifts the cells one to the front, through a copy of known size: a shift
+// in place would be a call of memmove on every decision.
+template <typename T, size_t N>
+void DropOldest(std::array<T, N>& cells) {
+  const std::array<T, N> old = cells;
+  for (size_t i = 0; i + 1 < N; ++i) cells[i] = old[i + 1];
+}
+
+}  // namespace
 
 void results::KeepTrend(Game& g, int betId, Currency net) {
   Game::BetTrend& trend = g.BetTrends[betId];
   if (trend.Count == Game::kTrendCells) {
-    std::copy(trend.Net.begin() + 1, trend.Net.end(), trend.Net.begin());
-    std::copy(trend.Roll.begin() + 1, trend.Roll.end(), trend.Roll.begin());
+    DropOldest(trend.Net);
+    DropOldest(trend.Roll);
     --trend.Count;
   }
   trend.Net[trend.Count] = net;

@@ -198,7 +198,8 @@ int BarIndex(int barNumber) { return barNumber == 12 ? 0 : barNumber == 2 ? 1 : 
 // [bar][point state][dice pair]
 using PlanTable = std::array<std::array<std::array<ThrowPlan, 36>, kPointStates>, kBars.size()>;
 
-std::unique_ptr<const PlanTable> MakePlans() {
+// Out of line: inlined, its setting up would weigh on every call of PlanFor.
+[[gnu::cold, gnu::noinline]] std::unique_ptr<const PlanTable> MakePlans() {
   auto plans = std::make_unique<PlanTable>();
   for (size_t bar = 0; bar < kBars.size(); ++bar)
     for (int state = 0; state < kPointStates; ++state)
