@@ -27,4 +27,24 @@ TEST(BetStatusTable, WorkingSetFollowsEveryChange) {
   EXPECT_TRUE(t.Working().Has(100));  // beyond the range: untouched
 }
 
+// The come-out works on many bets at once: every bet of the range, in the
+// wide steps and in the tail, keeps its call or takes its come-out status,
+// and a status beyond a byte keeps its sign.
+TEST(BetStatusTable, ComeOutTakesEveryUncalledBetsStatus) {
+  BetStatusTable t;
+  std::array<int32_t, BetStatusTable::kSize> comeOut{};
+  for (int id = 0; id < BetStatusTable::kSize; ++id) {
+    t.Set(id, id % 4 - 1);  // called OFF, off, working, called ON in turn
+    comeOut[static_cast<size_t>(id)] = id % 3 == 0 ? status::kWorking : status::kOff;
+  }
+  comeOut[41] = 300;
+  t.ComeOut(1, 83, comeOut);
+  for (int id = 0; id < BetStatusTable::kSize; ++id) {
+    const bool called = id % 4 == 0 || id % 4 == 3;
+    const int32_t expected = id < 1 || id > 83 || called ? id % 4 - 1 : id == 41 ? 127 : comeOut[static_cast<size_t>(id)];
+    EXPECT_EQ(t[id], expected) << id;
+    EXPECT_EQ(t.Working().Has(id), expected >= status::kWorking) << id;
+  }
+}
+
 }  // namespace
