@@ -99,6 +99,45 @@ TEST_F(RollTest, BaselinesReadAsTheLayoutWhenTheDiceWentOut) {
   EXPECT_EQ(mismatches, 0);
 }
 
+// A throw whose statistics are counted whole settles just the bets with
+// money; a handling that puts money on a bet still to settle, or takes one
+// down before its turn, must find the rest of the throw following it, as the
+// throw that visits every bet does.
+struct MoneyAfterThrow {
+  Currency bankroll, field, seven, onTable;
+  bool operator==(const MoneyAfterThrow&) const = default;
+  friend void PrintTo(const MoneyAfterThrow& m, std::ostream* os) {
+    *os << "bankroll " << m.bankroll.ToDouble() << ", field " << m.field.ToDouble() << ", seven "
+        << m.seven.ToDouble() << ", on the table " << m.onTable.ToDouble();
+  }
+};
+
+TEST(RollMoney, AThrowFollowsMoneyMovedByAHandling) {
+  auto play = [](bool inFull) {
+    TestTable t;
+    t.g.StatisticsInFull = inFull;
+    static void (*handling)(Game&, int, const SettleNotice*) = t.g.Hooks.LostBet;
+    t.g.Hooks.LostBet = [](Game& game, int betId, const SettleNotice* notice) {
+      handling(game, betId, notice);
+      if (betId != bet::kPassLine) return;
+      game.BetChange = 5;
+      PlaceBetOnTable(game, bet::kField);  // settled later in the throw: loses on the seven
+      TakeDownBet(game, bet::kSeven);      // would have won later in the throw
+    };
+    t.g.BetChange = 10;
+    PlaceBetOnTable(t.g, bet::kPassLine);
+    t.Roll(2, 2);  // point 4
+    t.g.BetChange = 5;
+    PlaceBetOnTable(t.g, bet::kSeven);
+    t.Roll(3, 4);  // seven out
+    return MoneyAfterThrow{t.g.Bankroll(), t.g.BetAmount[bet::kField], t.g.BetAmount[bet::kSeven], t.g.TotalOnTable};
+  };
+  const MoneyAfterThrow counted = play(false);
+  EXPECT_EQ(counted, play(true));
+  EXPECT_EQ(counted.field, 0);  // settled in the throw it was put down in
+  EXPECT_EQ(counted.seven, 0);
+}
+
 TEST_F(RollTest, ComeBoxBetsTravelToTheirNumberAfterItIsSettled) {
   // With Auto-Remove the line bet takes the Place bet of its point down.
   g.AutoRemovePlaceBets = true;
