@@ -257,6 +257,7 @@ bool SaveConfigureTabs(const QString& folder, const DesktopPaths& paths) {
   FillSampleBankroll(t.table);
   FillSamplePayoffs(t.table);
   FillSampleProbabilities(t.table);
+  (void)t.table.Seed(Currency(52817));  // a seed of its own, not the clock's
   t.window->Action(MenuCommand::Configure)->trigger();
   ConfigureWindow* window = t.window->Configure();
   if (!window) return false;

@@ -47,6 +47,7 @@ void FillSampleStatTables(Table& table, const std::string& folder) {
     games.push_back(FinishedGameRecord(table.State()));
   }
   table.StartFresh();
+  (void)table.Seed(Currency(kLoggedGames + 1));
   const std::string log = folder + "/sample.glg";
   if (AppendGamesToLog(log, games)) (void)table.OpenGamesLog(log);
 
