@@ -21,8 +21,6 @@ class BetAmounts {
 
   Currency operator[](int slot) const { return amounts_[static_cast<size_t>(slot)]; }
   const Amounts& All() const { return amounts_; }
-  const Currency* data() const { return amounts_.data(); }
-  static constexpr size_t size() { return bet::kSlots; }
   auto begin() const { return amounts_.begin(); }
   auto end() const { return amounts_.end(); }
 

@@ -53,7 +53,7 @@ struct Game : DiceState {
   std::array<std::array<int32_t, 101>, 2> BetStreak{};  // [1] now, [0] at the top of the roll
   // The bets whose streak [0] is behind [1]: a roll brings just those up to
   // date as it starts, rather than copying every bet's.
-  std::array<uint64_t, 2> StreaksMoved{~uint64_t{0}, ~uint64_t{0}};
+  SlotBits<2> StreaksMoved{{~uint64_t{0}, ~uint64_t{0}}};
   // The contract baseline of bets 0..46 (Committed): their amounts as the
   // dice went out, which is the roll's start snapshot, except where a bet
   // was decided or moved onto its number since. A roll starts it by
@@ -340,8 +340,6 @@ struct Game : DiceState {
   }
   // The dice go out: the baseline is the layout as it stands.
   void CommitLayout() { CommittedChanged = 0; }
-  // A bet's streak moved in this roll.
-  void MarkStreakMoved(int id) { StreaksMoved[id >> 6] |= uint64_t{1} << (id & 63); }
 
   Currency& Bankroll() { return BetAmount.Bankroll(); }
   Currency Bankroll() const { return BetAmount[bet::kBankroll]; }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <chrono>
 
 #include "dice/rng.h"
@@ -104,13 +103,10 @@ void Finish(Game& g) {
 // The streaks at the top of the roll: only the bets decided since the last
 // top can differ.
 void CatchUpStreaks(Game& g) {
-  for (int word = 0; word < 2; ++word) {
-    for (uint64_t moved = g.StreaksMoved[word]; moved != 0; moved &= moved - 1) {
-      const int id = word * 64 + std::countr_zero(moved);
-      if (id < static_cast<int>(g.BetStreak[0].size())) g.BetStreak[0][id] = g.BetStreak[1][id];
-    }
-    g.StreaksMoved[word] = 0;
-  }
+  g.StreaksMoved.ForEach([&g](int id) {
+    if (id < static_cast<int>(g.BetStreak[0].size())) g.BetStreak[0][id] = g.BetStreak[1][id];
+  });
+  g.StreaksMoved = {};
 }
 
 void TakeSnapshots(Game& g) {

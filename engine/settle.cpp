@@ -79,7 +79,7 @@ bool MustComeDown(const Game& g, int betId) {
 }
 
 void KeepStreak(Game& g, int betId) {
-  g.MarkStreakMoved(betId);
+  g.StreaksMoved.Add(betId);
   int32_t& streak = g.BetStreak[1][betId];
   if (g.NetPayoff > 0) streak = streak < 0 ? 1 : streak + 1;
   if (g.NetPayoff < 0) streak = streak > 0 ? -1 : streak - 1;

@@ -47,7 +47,7 @@ void TakeOtherStep(Game& g, const ThrowStep& step) {
 }
 
 void TakeOtherSteps(Game& g, const ThrowPlan& plan) {
-  for (int i = 0; i < plan.otherCount; ++i) TakeOtherStep(g, plan.others[i]);
+  plan.otherSteps.ForEach([&](int i) { TakeOtherStep(g, plan.steps[static_cast<size_t>(i)]); });
 }
 
 // One settlement; bookPhantom: its phantom unit too.

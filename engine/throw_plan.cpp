@@ -40,7 +40,6 @@ class PlanWriter {
       plan_.settled.Add(id);
       plan_.stepOfBet[static_cast<size_t>(id)] = static_cast<uint8_t>(plan_.count);
     } else {
-      plan_.others[plan_.otherCount++] = step;
       plan_.otherSteps.Add(plan_.count);
     }
     plan_.steps[plan_.count++] = step;

@@ -30,11 +30,9 @@ struct ThrowPlan {
   // a throw take just the steps of the bets with money.
   std::array<uint8_t, 128> stepOfBet;
   SlotBits<2> settled;     // bets
-  SlotBits<2> otherSteps;  // step indexes
-  // The steps that are not settlements (line counts, box bets moving), for
-  // a throw with no money on the layout.
-  std::array<ThrowStep, 4> others{};
-  int otherCount = 0;
+  // The steps that are not settlements (line counts, box bets moving), all
+  // that a throw with no money on the layout takes.
+  SlotBits<2> otherSteps;
 };
 
 // The point as a plan index: 0 the come-out, 1..6 the points 4..10.

@@ -72,7 +72,8 @@ void KeepMoneyInRange(Game& g) {
   Bound(g.BankrollSum, -kMostBankroll * 100'000, kMostBankroll * 100'000);
   // Chips are the rounding unit of every bet, and a chip times a payoff's
   // Per divides: neither may come to nothing.
-  for (int id = bet::kFirstChip; id < bet::kFirstChip + 5; ++id) Bound(amounts[static_cast<size_t>(id)], kLeastUnit, kMostChip);
+  for (int id = bet::kFirstChip; id < bet::kFirstChip + 5; ++id)
+    Bound(amounts[static_cast<size_t>(id)], kLeastUnit, kMostChip);
   g.BetAmount.Assign(amounts);
   auto payoffsInRange = [](auto& rows) {
     for (PayoffRecord& p : rows) {  // no payoff above 1,000 for 1

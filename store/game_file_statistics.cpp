@@ -122,7 +122,7 @@ void ReadStatisticsRecords(Game& g, RecordReader& r) {
   ReadTrends(g, r);
   Fill(g.BetStreak[0], r.NextInt32s(g.BetStreak[0].size()));
   Fill(g.BetStreak[1], r.NextInt32s(g.BetStreak[1].size()));
-  g.StreaksMoved = {~uint64_t{0}, ~uint64_t{0}};  // the rows may differ anywhere
+  g.StreaksMoved = {{~uint64_t{0}, ~uint64_t{0}}};  // the rows may differ anywhere
   Fill(g.RollCounts, r.NextInt32s(g.RollCounts.size()));
   Fill(g.RollsSinceLast, r.NextInt32s(g.RollsSinceLast.size()));
   Fill(g.PreviousRollCounts, r.NextInt32s(g.PreviousRollCounts.size()));
