@@ -15,6 +15,7 @@
 #include "engine/bet_amounts.h"
 #include "engine/bet_maximum_memo.h"
 #include "engine/bet_status_table.h"
+#include "engine/bet_trend.h"
 #include "engine/catalogue.h"
 #include "engine/hand_counters.h"
 #include "engine/frontend.h"
@@ -235,14 +236,7 @@ struct Game : DiceState {
   std::array<int16_t, 256> BookedThisRoll{};
   std::array<uint8_t, 256> BookedListed{};
   int32_t BookedThisRollCount = 0;
-  // The latest results of the bets actually made, oldest first, for the
-  // trends view: signed net amounts and the roll count of each.
-  static constexpr int kTrendCells = 10;
-  struct BetTrend {
-    std::array<Currency, kTrendCells> Net{};
-    std::array<int32_t, kTrendCells> Roll{};
-    int32_t Count = 0;
-  };
+  static constexpr int kTrendCells = BetTrend::kCells;
   std::array<BetTrend, 84> BetTrends{};
 
   // --- Bankroll graph and games log ---------------------------------------------

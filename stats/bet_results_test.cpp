@@ -164,7 +164,7 @@ TEST(BetResults, MeasuresAndTheLastRollColumns) {
 
   NewGame(t.g, false);
   EXPECT_EQ(t.g.BetWagers, Game::BetResultTable{});
-  EXPECT_EQ(t.g.BetTrends[id].Count, 0);
+  EXPECT_EQ(t.g.BetTrends[id].Count(), 0);
 }
 
 TEST(BetResults, ActualResultsAreBookedAtSettlement) {
@@ -179,15 +179,16 @@ TEST(BetResults, ActualResultsAreBookedAtSettlement) {
   t.Roll(1, 1);  // the field wins double, the line loses
   EXPECT_EQ(t.g.BetWagers[kActual][bet::kField][kCount], 2);
   EXPECT_EQ(t.g.BetWins[kActual][bet::kField][kTotal], 10);
-  const Game::BetTrend& trend = t.g.BetTrends[bet::kField];
-  ASSERT_EQ(trend.Count, 2);
-  EXPECT_EQ(trend.Net[0], -5);
-  EXPECT_EQ(trend.Net[1], 10);
-  EXPECT_EQ(trend.Roll[1], 2);
+  const BetTrend& trend = t.g.BetTrends[bet::kField];
+  ASSERT_EQ(trend.Count(), 2);
+  EXPECT_EQ(trend.Net(0), -5);
+  EXPECT_EQ(trend.Net(1), 10);
+  EXPECT_EQ(trend.Roll(1), 2);
   for (int i = 0; i < 20; ++i) {
     if (t.g.BetAmount[bet::kField] == 0) t.Place(bet::kField, 5);
     t.Roll(1, 1);
   }
-  EXPECT_EQ(t.g.BetTrends[bet::kField].Count, Game::kTrendCells);  // only the latest are kept
-  EXPECT_EQ(t.g.BetTrends[bet::kField].Roll[0], 22 - Game::kTrendCells + 1);
+  // Only the latest are kept, oldest first, however far the cells went round.
+  ASSERT_EQ(trend.Count(), Game::kTrendCells);
+  for (int i = 0; i < Game::kTrendCells; ++i) EXPECT_EQ(trend.Roll(i), 22 - Game::kTrendCells + 1 + i);
 }

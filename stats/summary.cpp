@@ -77,14 +77,14 @@ std::vector<SummaryRow> ShowSummary(Game& g) {
 std::vector<BetTrendRow> BetTrendRows(const Game& g) {
   std::vector<BetTrendRow> rows;
   for (int id = bet::kFirstTableBet; id <= bet::kLastTableBet; ++id) {
-    const Game::BetTrend& t = g.BetTrends[id];
-    if (t.Count == 0) continue;
+    const BetTrend& t = g.BetTrends[id];
+    if (t.Count() == 0) continue;
     BetTrendRow row{id, g.BetName[id], "", ""};
-    for (int i = 0; i < t.Count; ++i) {
+    for (int i = 0; i < t.Count(); ++i) {
       if (i > 0) row.Results += "|";
-      row.Results += FormatWithCommas(std::llround(t.Net[i].ToDouble()));
+      row.Results += FormatWithCommas(std::llround(t.Net(i).ToDouble()));
     }
-    row.Span = FormatWithCommas(int64_t{g.RollCounts[0]} - t.Roll[0] + 1) + " rolls";
+    row.Span = FormatWithCommas(int64_t{g.RollCounts[0]} - t.Roll(0) + 1) + " rolls";
     rows.push_back(row);
   }
   return rows;

@@ -115,9 +115,10 @@ void KeepGraphInRange(Game& g) {
   for (Currency* v : {&g.GraphHigh, &g.GraphLow, &g.GraphTop}) Bound(*v, -most, most);
   Bound(g.GraphScale, kLeastUnit, most);  // money per row: it divides
   Bound(g.ManualScale, kLeastUnit, most);
-  for (Game::BetTrend& t : g.BetTrends) {
-    t.Count = std::clamp(t.Count, 0, Game::kTrendCells);
-    for (Currency& v : t.Net) Bound(v, -most, most);
+  for (BetTrend& t : g.BetTrends) {
+    BetTrend::Nets nets = t.NetsOldestFirst();
+    for (Currency& v : nets) Bound(v, -most, most);
+    t.Restore(nets, t.RollsOldestFirst(), t.Count());
   }
 }
 

@@ -78,20 +78,23 @@ void ReadGraph(Game& g, RecordReader& r) {
 
 // The latest results of each bet for the trends view.
 void WriteTrends(const Game& g, RecordWriter& w) {
-  for (const Game::BetTrend& t : g.BetTrends) {
-    w.AddCurrencies(MoneyOf(t.Net));
-    std::vector<int32_t> rolls(t.Roll.begin(), t.Roll.end());
-    rolls.push_back(t.Count);
+  for (const BetTrend& t : g.BetTrends) {
+    w.AddCurrencies(MoneyOf(t.NetsOldestFirst()));
+    const BetTrend::Rolls kept = t.RollsOldestFirst();
+    std::vector<int32_t> rolls(kept.begin(), kept.end());
+    rolls.push_back(t.Count());
     w.AddInt32s(rolls);
   }
 }
 
 void ReadTrends(Game& g, RecordReader& r) {
-  for (Game::BetTrend& t : g.BetTrends) {
-    FillMoney(t.Net, r.NextCurrencies(t.Net.size()));
-    const std::vector<int32_t> rolls = r.NextInt32s(t.Roll.size() + 1);
-    std::copy_n(rolls.begin(), t.Roll.size(), t.Roll.begin());
-    t.Count = rolls.back();
+  for (BetTrend& t : g.BetTrends) {
+    BetTrend::Nets nets{};
+    BetTrend::Rolls kept{};
+    FillMoney(nets, r.NextCurrencies(nets.size()));
+    const std::vector<int32_t> rolls = r.NextInt32s(kept.size() + 1);
+    std::copy_n(rolls.begin(), kept.size(), kept.begin());
+    t.Restore(nets, kept, rolls.back());
   }
 }
 
