@@ -85,10 +85,6 @@ int64_t IntegerPartOf(Currency a, Currency unit) {
   return roundsUp ? quotient + 1 : quotient;
 }
 
-Currency Abs(Currency a) { return a.raw < 0 ? -a : a; }
-Currency Max(Currency a, Currency b) { return a < b ? b : a; }
-Currency Min(Currency a, Currency b) { return a < b ? a : b; }
-
 bool ParseCurrency(const std::string& text, Currency& out) {
   std::string digits;
   for (char c : text)

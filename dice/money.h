@@ -46,7 +46,10 @@ int64_t IntegerPartOf(Currency a, Currency unit);
 // Floor of a value: the integer part, toward minus infinity.
 int64_t Floor(Currency a);
 
-Currency Abs(Currency a);
+// Inline: the placement and settling of every bet compare money this way.
+constexpr Currency Abs(Currency a) { return a.raw < 0 ? -a : a; }
+constexpr Currency Max(Currency a, Currency b) { return a < b ? b : a; }
+constexpr Currency Min(Currency a, Currency b) { return a < b ? a : b; }
 // Copies a block through the C library's copy: the compiler would inline a
 // copy of known size as a string move, slow to start for the few hundred
 // bytes of a roll's snapshots.
@@ -55,8 +58,6 @@ template <typename T, size_t N>
 void CopyArray(std::array<T, N>& to, const std::array<T, N>& from) {
   CopyBlock(to.data(), from.data(), sizeof(T) * N);
 }
-Currency Max(Currency a, Currency b);
-Currency Min(Currency a, Currency b);
 
 // Test failures and diagnostics print money as the program shows it.
 void PrintTo(Currency value, std::ostream* os);

@@ -3,6 +3,7 @@
 // bet it is: contract bets, the Come boxes and the odds.
 
 #include "dice/money.h"
+#include "engine/catalogue.h"
 
 struct Game;
 
@@ -15,6 +16,14 @@ struct ContractOutcome {
 // notice mask allows. While g.MovingBet is set the rules of adding are
 // lifted; the rules of taking down always hold.
 ContractOutcome ApplyContractRules(Game& g, int betId, Currency change);
+
+// Whether any of those rules reads the bet: the Come and Don't Come numbers,
+// all odds, and the line bets and boxes. Place, Buy, Lay, the Field and the
+// propositions take any change.
+constexpr bool HasContractRules(int betId) {
+  return bet::InRange(betId, bet::kDontComeBase, bet::kComeOddsBase + 5) ||
+         bet::InRange(betId, bet::kPassLine, bet::kDontCome);
+}
 
 // Whether the bet is held at its committed amount now: a Pass Line with a
 // point on, or a Come bet on its number.

@@ -1,5 +1,6 @@
 #include "engine/place_bet.h"
 
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -78,6 +79,19 @@ void ShowPendingNotice(Game& g, const std::string& title, bool stack, bool nothi
 // building their text would reach the heap on every roll of a run.
 enum class Notices { Written, Dropped };
 
+// A message set aside while the placement goes on. Most placements have
+// none: an empty optional costs less to make and drop than two strings.
+struct HeldMessage {
+  std::string text, title;
+};
+std::optional<HeldMessage> TakePendingMessage(Game& g) {
+  if (g.MsgText.empty() && g.MsgTitle.empty()) return std::nullopt;
+  HeldMessage held{std::move(g.MsgText), std::move(g.MsgTitle)};
+  g.MsgText.clear();
+  g.MsgTitle.clear();
+  return held;
+}
+
 class TablePlacement {
  public:
   TablePlacement(Game& g, int id, Notices notices)
@@ -100,7 +114,7 @@ class TablePlacement {
   Currency bet_;
   Currency committed_;
   Currency change_;
-  std::string shownText_, shownTitle_;  // a notice that could not wait for the ending
+  std::optional<HeldMessage> shown_;  // a notice that could not wait for the ending
 };
 
 void TablePlacement::Run() {
@@ -116,22 +130,17 @@ void TablePlacement::Run() {
     return;
   }
 
-  ContractOutcome contract = ApplyContractRules(g_, id_, change_);
-  change_ = contract.change;
-  if (contract.ended || change_ == 0) {
-    change_ = 0;
-    return;
+  if (HasContractRules(id_)) {
+    ContractOutcome contract = ApplyContractRules(g_, id_, change_);
+    change_ = contract.change;
+    if (contract.ended || change_ == 0) {
+      change_ = 0;
+      return;
+    }
   }
   // A refusal that let part of the change through was shown already; it is
-  // left as the message only if no limit notice follows. Moved aside only
-  // when there is one: even an empty string's move copies its buffer.
-  std::string refusalText, refusalTitle;
-  if (!g_.MsgText.empty() || !g_.MsgTitle.empty()) {
-    refusalText = std::move(g_.MsgText);
-    refusalTitle = std::move(g_.MsgTitle);
-    g_.MsgText.clear();
-    g_.MsgTitle.clear();
-  }
+  // left as the message only if no limit notice follows.
+  std::optional<HeldMessage> refusal = TakePendingMessage(g_);
 
   if (ApplyMinimum() && ApplyMaximum()) {
     Adjust();
@@ -142,12 +151,13 @@ void TablePlacement::Run() {
     ShowPendingNotice(g_, BetTitle(g_, id_), false, true);
   }
   if (!g_.MsgText.empty()) return;
-  if (shownText_.empty() && refusalText.empty() && refusalTitle.empty()) {  // went through as asked
+  if (!shown_ && !refusal) {  // went through as asked
     g_.MsgTitle.clear();
     return;
   }
-  g_.MsgText = std::move(shownText_.empty() ? refusalText : shownText_);
-  g_.MsgTitle = std::move(shownText_.empty() ? refusalTitle : shownTitle_);
+  HeldMessage& kept = shown_ ? *shown_ : *refusal;
+  g_.MsgText = std::move(kept.text);
+  g_.MsgTitle = std::move(kept.title);
 }
 
 bool TablePlacement::ApplyMinimum() {
@@ -181,8 +191,7 @@ bool TablePlacement::ApplyMaximum() {
     if ((g_.NoticeMask & (kNoticeRefusals | kNoticeLimits)) != 0 && g_.Visible())
       ShowNotice(g_, kNoticeRefusals | kNoticeLimits, g_.MsgTitle, text);
     // Shown in full already: nothing is left pending for an ending.
-    shownText_ = text;
-    shownTitle_ = g_.MsgTitle;
+    shown_ = HeldMessage{std::move(text), std::move(g_.MsgTitle)};
     g_.MsgText.clear();
     g_.MsgTitle.clear();
     return change_ != 0;

@@ -192,8 +192,10 @@ void FigurePayoff(Game& g, int realBet, int betId, Outcome outcome, Currency amo
   if (ChargesVig(g, betId, g.RawPayoff > 0)) g.RawPayoff -= VigOf(g, realBet, betId, amount);
 
   // Toward minus infinity: a winner's odd cents stay with the house.
-  Currency chip = g.SmallestChip();
-  g.NetPayoff = chip > 0 ? chip * IntegerPartOf(g.RawPayoff, chip) : g.RawPayoff;
+  // Most payoffs come out in whole checks already.
+  const Currency chip = g.SmallestChip();
+  const bool wholeChips = chip.raw == Currency::kScale ? g.RawPayoff.IsWhole() : chip.raw > 0 && g.RawPayoff.raw % chip.raw == 0;
+  g.NetPayoff = chip > 0 && !wholeChips ? chip * IntegerPartOf(g.RawPayoff, chip) : g.RawPayoff;
 }
 
 Currency UnitFor(const Game& g, Currency amount, Currency per) {
