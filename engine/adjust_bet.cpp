@@ -105,11 +105,16 @@ Currency AdjustBet(Game& g, int betId, Currency request, bool neverUp) {
   // Nothing left standing pays a payoff to be made whole.
   if (amount + request <= 0) return request;
   const Currency per = PayoffOf(g, betId).Per;
-  if (per <= 0 || g.SmallestChip() <= 0) return request;
+  const Currency chip = g.SmallestChip();
+  if (per <= 0 || chip <= 0) return request;
+  if (g.WholePayoffs.Knows(betId, amount + request, per, chip)) return request;
 
-  Currency unit = Times(g.SmallestChip(), per);
+  Currency unit = Times(chip, per);
   Candidates c = Figure(amount, request, unit);
-  if (c.whole) return request;  // the commonest case, and the cheapest
+  if (c.whole) {  // the commonest case, and the cheapest
+    g.WholePayoffs.Remember(betId, amount + request, per, chip);
+    return request;
+  }
 
   const Currency maximum = GetBetMaximum(g, betId);
   // A full-odds request is the maximum the odds rule figured; it stands as

@@ -29,6 +29,7 @@
 #include "engine/sound_sets.h"
 #include "engine/statistics_ledger.h"
 #include "engine/stop_reason.h"
+#include "engine/whole_payoff_memo.h"
 
 
 constexpr int32_t kTrue = -1;
@@ -124,6 +125,7 @@ struct Game : DiceState {
   // Maxima worked out from the limits above and the payoffs; a cache that
   // checks its own inputs, so asking for a maximum still reads as a query.
   mutable BetMaximumMemo MaximumMemo;
+  WholePayoffMemo WholePayoffs;  // the same kind of cache, for the automatic adjustment
   int32_t BarNumber = 12;
   bool AllowPutBets = false;
   Currency LayVigRate = Currency::FromRaw(500);
