@@ -111,6 +111,22 @@ void Rules::TakingDown() {
 
 }  // namespace
 
+bool AddingIsFree(const Game& g, int betId) {
+  if (!HasContractRules(betId) || g.MovingBet) return true;
+  const bool pointOn = g.Point > 0;
+  switch (betId) {
+    case bet::kPassLine:
+    case bet::kDontPass: return !pointOn;
+    case bet::kCome:
+    case bet::kDontCome: return pointOn;
+    case bet::kPassOdds: return pointOn && g.BetAmount[bet::kPassLine] > 0;
+    case bet::kDontPassOdds: return pointOn && g.BetAmount[bet::kDontPass] > 0;
+    default:
+      // The numbers themselves are held by what stood when the dice went out.
+      return (bet::IsComeOdds(betId) || bet::IsDontComeOdds(betId)) && g.BetAmount[bet::ParentOf(betId)] > 0;
+  }
+}
+
 bool HeldByContract(const Game& g, int betId) {
   return (betId == bet::kPassLine && g.Point > 0) || bet::IsComeNumber(betId);
 }

@@ -25,6 +25,11 @@ constexpr bool HasContractRules(int betId) {
          bet::InRange(betId, bet::kPassLine, bet::kDontCome);
 }
 
+// Whether adding to the bet now meets none of the rules above, so that the
+// change stands as asked and nothing is said. False where a rule may have a
+// say (it need not refuse).
+bool AddingIsFree(const Game& g, int betId);
+
 // Whether the bet is held at its committed amount now: a Pass Line with a
 // point on, or a Come bet on its number.
 bool HeldByContract(const Game& g, int betId);

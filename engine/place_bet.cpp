@@ -314,9 +314,63 @@ void Place(Game& g, int betId, Notices notices) {
   if (g.BetChangeAllowed != 0) g.GameChanged = true;
 }
 
+// Whether the change asked of the bet takes it down whole where nothing has
+// a say: no contract holds it and no vig rides on it. A lost bet comes down
+// so, several times a roll on a busy table.
+bool ComesDownFreely(const Game& g, int betId) {
+  if (!bet::IsTableBet(betId) || bet::IsBuy(betId) || bet::IsLay(betId)) return false;
+  const Currency amount = g.BetAmount[betId];
+  return amount > 0 && amount <= kStackLimit && g.BetChange <= -amount && !HeldByContract(g, betId);
+}
+
+// Whether the change asked of the bet goes on as asked with nothing said:
+// whole chips, within the limits, already paying whole, within the bankroll,
+// and no contract or vig rule has a say. Most bets a run puts up go so.
+bool GoesOnAsAsked(Game& g, int betId) {
+  const Currency change = g.BetChange;
+  if (!bet::IsTableBet(betId) || bet::IsBuy(betId) || bet::IsLay(betId) || change <= 0 || change > kStackLimit ||
+      !AddingIsFree(g, betId))
+    return false;
+  const Currency after = g.BetAmount[betId] + change;
+  return RoundChangeToChips(change, Chip(g)) == change && after >= BetMinimum(g, betId) &&
+         after <= GetBetMaximum(g, betId) && AdjustBet(g, betId, change) == change &&
+         (g.AllowNegativeBankroll || g.TotalOnTable + change <= g.Bankroll());
+}
+
+void PutOn(Game& g, int betId, Currency change) {
+  g.MsgText.clear();
+  g.MsgTitle.clear();
+  g.BetAmount.Add(betId, change);
+  g.TotalOnTable += change;
+  g.BetChangeAllowed = change;
+  g.GameChanged = true;
+}
+
+// The whole bet comes down, as the placement leaves a bet it takes down.
+void TakeDownWhole(Game& g, int betId) {
+  const Currency amount = g.BetAmount[betId];
+  g.MsgText.clear();
+  g.MsgTitle.clear();
+  g.BetAmount.Set(betId, 0);
+  g.TotalOnTable -= amount;
+  SetBetStatusDefault(g, betId);
+  g.BetChangeAllowed = -amount;
+  g.GameChanged = true;
+}
+
 }  // namespace
 
-void PlaceBet(Game& g, int betId) { Place(g, betId, Notices::Written); }
+void PlaceBet(Game& g, int betId) {
+  // The two commonest placements of a run skip the rules that cannot change them.
+  if (ComesDownFreely(g, betId))
+    TakeDownWhole(g, betId);
+  else if (GoesOnAsAsked(g, betId))
+    PutOn(g, betId, g.BetChange);
+  else
+    Place(g, betId, Notices::Written);
+}
+
+void PlaceBetThroughEveryRule(Game& g, int betId) { Place(g, betId, Notices::Written); }
 
 void PlaceBetOnTable(Game& g, int betId) {
   PlaceBet(g, betId);
@@ -356,39 +410,17 @@ bool RestatesPlainly(const Game& g, int id) {
   return (id == bet::kPassLine || id == bet::kDontPass) && g.Point == 0;
 }
 
-// Whether putting `amount` on the empty bet goes through as asked: whole
-// chips, within the limits, already paying whole, and within the bankroll.
-bool PutsBackAsAsked(Game& g, int id, Currency amount) {
-  return RoundChangeToChips(amount, Chip(g)) == amount && amount >= BetMinimum(g, id) &&
-         amount <= GetBetMaximum(g, id) && AdjustBet(g, id, amount) == amount &&
-         (g.AllowNegativeBankroll || g.TotalOnTable + amount <= g.Bankroll());
-}
-
 }  // namespace
 
 bool RestateBet(Game& g, int betId) {
   if (betId < bet::kFirstTableBet || betId > bet::kLastTableBet || !RestatesPlainly(g, betId)) return false;
   const Currency amount = g.BetAmount[betId];
   if (amount <= 0) return false;
-  // The take-down, as the placement leaves it.
-  g.MsgText.clear();
-  g.MsgTitle.clear();
   g.BetChange = -amount;
-  g.BetAmount.Set(betId, 0);
-  g.TotalOnTable -= amount;
-  SetBetStatusDefault(g, betId);
-  g.BetChangeAllowed = -amount;
-  g.GameChanged = true;
+  TakeDownWhole(g, betId);
   g.Ui->RedrawBet(betId);
   g.BetChange = amount;
-  if (!PutsBackAsAsked(g, betId, amount)) {
-    PlaceBetOnTable(g, betId);  // some rule has a say: the table decides
-    return true;
-  }
-  g.BetAmount.Set(betId, amount);
-  g.TotalOnTable += amount;
-  g.BetChangeAllowed = amount;
-  g.Ui->RedrawBet(betId);
+  PlaceBetOnTable(g, betId);
   return true;
 }
 

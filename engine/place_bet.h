@@ -13,6 +13,9 @@ struct Game;
 // composed, whether the notice mask let it show or not; both are empty when
 // the change went through as asked. A betId outside 0..200 changes nothing.
 void PlaceBet(Game& g, int betId);
+// PlaceBet without its shortcuts for the commonest placements: what each
+// shortcut must end as.
+void PlaceBetThroughEveryRule(Game& g, int betId);
 // PlaceBet, then the chips are drawn and automatic odds re-applied.
 void PlaceBetOnTable(Game& g, int betId);
 // The most that may stand on betId now, a multiple of the smallest check.

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -345,6 +346,62 @@ TEST(RestateBet, EndsAsTakingDownAndPuttingBackWould) {
     }
     EXPECT_EQ(Trace(t), Trace(twin)) << c.betId << " " << c.amount;
   }
+}
+
+// Random tables, random bets and random changes: the shortcuts of PlaceBet
+// must end every placement as the full walk of the rules does, notice and
+// message included.
+TEST(PlaceBet, ShortcutsEndAsEveryRuleWould) {
+  std::mt19937 rng(20261124);
+  auto pick = [&](auto... options) {
+    const std::array values{options...};
+    return values[std::uniform_int_distribution<size_t>(0, values.size() - 1)(rng)];
+  };
+  int shortcutsTaken = 0;
+  for (int round = 0; round < 4000; ++round) {
+    TestTable t, twin;
+    const int point = pick(0, 4, 6, 9, 10);
+    const std::array<int, 5> standing{pick(bet::kPassLine, bet::kDontPass, bet::kField),
+                                      pick(bet::Come(6), bet::DontCome(9), bet::Place(8)),
+                                      pick(bet::kCome, bet::kHard4, bet::Buy(4), bet::Lay(10)),
+                                      pick(bet::ComeOdds(6), bet::kPassOdds, bet::kHorn), pick(0, bet::kBig6)};
+    const std::array<double, 5> amounts{pick(5.0, 10.0, 12.0, 7.5), pick(6.0, 25.0, 3.0), pick(1.0, 20.0, 40.0),
+                                        pick(10.0, 30.0, 0.5), pick(5.0, 12.0)};
+    const bool putBets = pick(false, true), moving = pick(false, true), negative = pick(false, true);
+    const int adjust = pick(0, 1, 2);
+    const double minimum = pick(1.0, 5.0), maximum = pick(20.0, 1000.0), bankroll = pick(30.0, 500.0);
+    const double chip = pick(1.0, 0.25, 5.0);
+    const bool leftOver = pick(false, true);
+    for (TestTable* table : {&t, &twin}) {
+      Game& g = table->g;
+      table->SetPoint(point);
+      g.AllowPutBets = putBets;
+      g.AutoAdjustMode = adjust;
+      g.TableMinimum = Money(minimum);
+      g.BetAmount.Set(bet::kFirstChip, Money(chip));
+      for (size_t i = 0; i < standing.size(); ++i)
+        if (standing[i] != 0) table->Stand(standing[i], Money(amounts[i]));
+      g.TableMaximum = Money(maximum);
+      g.AllowNegativeBankroll = negative;
+      g.Bankroll() = Money(bankroll);
+      g.MovingBet = moving;
+      if (leftOver) g.MsgText = "left over";
+    }
+    const int id = pick(standing[0], standing[1], standing[2], standing[3], bet::kField, bet::kHard8, bet::Place(6),
+                        bet::kPassOdds, bet::kDontPassOdds, bet::DontComeOdds(9), bet::kCome, bet::kDontCome,
+                        bet::kTwelve, bet::kCandE, bet::Come(6));
+    const Currency up = t.g.BetAmount[id];
+    const Currency change = pick(-up, -up - Money(1), Money(-1), Money(1), Money(5), Money(6), Money(12),
+                                 Money(2.5), Money(100), kStackLimit + Money(1));
+    t.g.BetChange = twin.g.BetChange = change;
+    const Currency totalBefore = t.g.TotalOnTable;
+    PlaceBet(t.g, id);
+    PlaceBetThroughEveryRule(twin.g, id);
+    ASSERT_EQ(Trace(t), Trace(twin)) << "round " << round << " bet " << id << " change " << change.ToDouble();
+    if (t.g.BetChangeAllowed == change && t.g.MsgText.empty() && t.g.TotalOnTable - totalBefore == change)
+      ++shortcutsTaken;
+  }
+  EXPECT_GT(shortcutsTaken, 800);  // the draw reaches the shortcuts, not only the rules
 }
 
 }  // namespace
