@@ -315,12 +315,14 @@ void Place(Game& g, int betId, Notices notices) {
 }
 
 // Whether the change asked of the bet takes it down whole where nothing has
-// a say: no contract holds it and no vig rides on it. A lost bet comes down
-// so, several times a roll on a busy table.
+// a say: no vig rides on it, and no contract holds it or the one that held
+// it has just been decided. A lost bet comes down so, several times a roll on
+// a busy table.
 bool ComesDownFreely(const Game& g, int betId) {
   if (!bet::IsTableBet(betId) || bet::IsBuy(betId) || bet::IsLay(betId)) return false;
   const Currency amount = g.BetAmount[betId];
-  return amount > 0 && amount <= kStackLimit && g.BetChange <= -amount && !HeldByContract(g, betId);
+  return amount > 0 && amount <= kStackLimit && g.BetChange <= -amount &&
+         (!HeldByContract(g, betId) || g.Committed(betId) == 0);
 }
 
 // Whether the change asked of the bet goes on as asked with nothing said:

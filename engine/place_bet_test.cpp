@@ -371,7 +371,7 @@ TEST(PlaceBet, ShortcutsEndAsEveryRuleWould) {
     const int adjust = pick(0, 1, 2);
     const double minimum = pick(1.0, 5.0), maximum = pick(20.0, 1000.0), bankroll = pick(30.0, 500.0);
     const double chip = pick(1.0, 0.25, 5.0);
-    const bool leftOver = pick(false, true);
+    const bool leftOver = pick(false, true), decided = pick(false, true);
     for (TestTable* table : {&t, &twin}) {
       Game& g = table->g;
       table->SetPoint(point);
@@ -381,6 +381,8 @@ TEST(PlaceBet, ShortcutsEndAsEveryRuleWould) {
       g.BetAmount.Set(bet::kFirstChip, Money(chip));
       for (size_t i = 0; i < standing.size(); ++i)
         if (standing[i] != 0) table->Stand(standing[i], Money(amounts[i]));
+      if (decided)  // as a settled contract bet leaves its commitment
+        for (int id : standing) g.SetCommitted(id, 0);
       g.TableMaximum = Money(maximum);
       g.AllowNegativeBankroll = negative;
       g.Bankroll() = Money(bankroll);

@@ -95,11 +95,12 @@ const PayoffRecord& DecidingRecord(const Game& g, int betId, Outcome outcome, co
   return g.Payoff[WinningRecord(g, betId)];
 }
 
+// Below these bounds chip x per is below 2^52, where doubles hold every integer.
+constexpr int64_t kChipBound = int64_t{1} << 32, kPerBound = int64_t{1} << 20;
+
 // chip x per, as the ratio worked in double gives it: exact in whole numbers
 // when per is whole and the product stays well inside a double's integers.
 Currency ChipTimesPer(Currency chip, Currency per) {
-  // Below these bounds the product is below 2^52, where doubles hold every integer.
-  constexpr int64_t kChipBound = int64_t{1} << 32, kPerBound = int64_t{1} << 20;
   if (per.IsWhole() && chip.raw >= 0 && chip.raw < kChipBound && per.raw >= 0 &&
       per.raw / Currency::kScale < kPerBound)
     return Currency::FromRaw(chip.raw * (per.raw / Currency::kScale));
@@ -199,9 +200,15 @@ void FigurePayoff(Game& g, int realBet, int betId, Outcome outcome, Currency amo
 }
 
 Currency UnitFor(const Game& g, Currency amount, Currency per) {
+  // A whole Per, the common case, multiplies each check as ChipTimesPer
+  // would, without asking again for every check.
+  const bool wholePer = per.IsWhole() && per.raw >= 0 && per.raw / Currency::kScale < kPerBound;
+  const int64_t perWhole = per.raw / Currency::kScale;
   Currency unit;
   for (int slot = bet::kLastChip; slot >= bet::kFirstChip; --slot) {
-    unit = ChipTimesPer(g.BetAmount[slot], per);
+    const Currency chip = g.BetAmount[slot];
+    unit = wholePer && chip.raw >= 0 && chip.raw < kChipBound ? Currency::FromRaw(chip.raw * perWhole)
+                                                              : ChipTimesPer(chip, per);
     if (unit > 0 && unit <= amount && amount.raw % unit.raw == 0) break;
   }
   return unit;

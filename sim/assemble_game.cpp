@@ -27,9 +27,7 @@ void AssembleGame(Game& g) {
   };
   h.ThrowSettled = CountThrow;
   h.PhantomsDue = FoldPhantoms;
-  h.BetDecided = [](Game& game, int betId, Currency stake, Currency net) {
-    BookBetResult(game, results::kActual, betId, stake, net);
-  };
+  h.BetDecided = BookActualResult;
   h.WonBet = WonBetHandling;
   h.LostBet = LostBetHandling;
   h.BankrollBooked = RecordBankrollPoint;

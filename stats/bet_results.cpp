@@ -39,6 +39,10 @@ void BookBetResult(Game& g, int kind, int betId, Currency stake, Currency net) {
   BookEntry(g, kind, betId, stake + VigOnStake(g, kind, betId, net), net);
 }
 
+void BookActualResult(Game& g, int betId, Currency stake, Currency net) {
+  BookEntry(g, kActual, betId, stake + VigOnStake(g, kActual, betId, net), net);
+}
+
 void MoveResultMarks(Game& g) {
   for (int i = 0; i < g.BookedThisRollCount; ++i) {
     const int index = g.BookedThisRoll[i];

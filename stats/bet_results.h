@@ -13,6 +13,8 @@
 // a Lay or Buy where it is paid; a phantom Come or Don't Come number (and
 // its odds) is booked only while a unit stands there.
 void BookBetResult(Game& g, int kind, int betId, Currency stake, Currency net);
+// BookBetResult of a real bet: every decision of a run comes here.
+void BookActualResult(Game& g, int betId, Currency stake, Currency net);
 
 // The top of a roll: clears the last-roll measures, then moves the phantom
 // marks by the last roll's DiceTotal and PointBeforeRoll.
