@@ -31,7 +31,7 @@ class BetStatusTable {
     const int8_t narrow = Narrow(value);
     if (status_[static_cast<size_t>(id)] == narrow) return;
     status_[static_cast<size_t>(id)] = narrow;
-    Changed();
+    Changed(id);
   }
   // The point is established: bets off by default work (bets first..last).
   void PointEstablished(int first, int last) {
@@ -39,7 +39,7 @@ class BetStatusTable {
       int8_t& s = status_[static_cast<size_t>(id)];
       s = static_cast<int8_t>(s + (s == status::kOff));  // off becomes working, without a branch
     }
-    Changed();
+    Changed(kMany);
   }
   // The come-out: every bet not called takes its come-out status.
   void ComeOut(int first, int last, const std::array<int32_t, kSize>& comeOutStatus) {
@@ -64,7 +64,7 @@ class BetStatusTable {
       int8_t& s = status_[static_cast<size_t>(id)];
       if (s != status::kCalledOn && s != status::kCalledOff) s = Narrow(comeOutStatus[static_cast<size_t>(id)]);
     }
-    Changed();
+    Changed(kMany);
   }
 
   const WorkingSet& Working() const {
@@ -77,6 +77,9 @@ class BetStatusTable {
   // Counts the changes of any status; a settlement compares it before and
   // after a bet's handling.
   uint32_t Changes() const { return changes_; }
+  // Whether the changes since `seen` were all to bet `id`: a bet's handling
+  // mostly touches only the bet handled.
+  bool OnlyChangedSince(uint32_t seen, int id) const { return changes_ == seen + 1 && lastChanged_ == id; }
 
   static constexpr int size() { return kSize; }
   auto begin() const { return status_.begin(); }
@@ -109,9 +112,11 @@ class BetStatusTable {
     return WorkingSet{{low, high}};
   }
 
-  void Changed() {
+  static constexpr int kMany = -1;  // a change of many bets at once
+  void Changed(int id) {
     stale_ = true;
     ++changes_;
+    lastChanged_ = id;
   }
 
   Statuses status_{};  // kSize statuses, then zeros
@@ -119,4 +124,5 @@ class BetStatusTable {
   mutable WorkingSet working_;
   mutable bool stale_ = false;
   uint32_t changes_ = 0;
+  int lastChanged_ = kMany;
 };

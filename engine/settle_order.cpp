@@ -82,6 +82,12 @@ SlotBits<2> StepsDue(const ThrowPlan& plan, const BetAmounts::BetBits& withMoney
   return due;
 }
 
+BetAmounts::BetBits OnlyBet(int id) {
+  BetAmounts::BetBits one;
+  one.Add(id);
+  return one;
+}
+
 // The bets in `moved` gained or lost their money: from `first` on, the
 // steps due take in or drop their settlements.
 void FollowMoney(const ThrowPlan& plan, const BetAmounts::BetBits& moved, const BetAmounts::BetBits& withMoney,
@@ -107,19 +113,23 @@ int WalkCountedWhole(Game& g, const ThrowPlan& plan, ThrowDecisions& decided) {
   while (due.Any()) {
     const int i = due.TakeFirst();
     const ThrowStep& step = plan.steps[static_cast<size_t>(i)];
-    if (step.kind == StepKind::Settle)
+    const bool settled = step.kind == StepKind::Settle;
+    if (settled)
       SettleStep(g, step, false, decided);
     else
       TakeOtherStep(g, step);
     // A step may put money on a bet or take it off: the rest of the throw
-    // follows the layout as it now stands.
+    // follows the layout as it now stands. A settled bet taken down is
+    // behind the walk already.
     if (g.BetAmount.WithMoney() != withMoney) {
-      FollowMoney(plan, withMoney ^ g.BetAmount.WithMoney(), g.BetAmount.WithMoney(), i + 1, due);
+      const BetAmounts::BetBits moved = withMoney ^ g.BetAmount.WithMoney();
+      if (!settled || !(moved == OnlyBet(step.bet))) FollowMoney(plan, moved, g.BetAmount.WithMoney(), i + 1, due);
       withMoney = g.BetAmount.WithMoney();
     }
     if (g.BetStatus.Changes() != changesSeen) {
+      const bool onlyThisBet = settled && g.BetStatus.OnlyChangedSince(changesSeen, step.bet);
       changesSeen = g.BetStatus.Changes();
-      if (ChangedAhead(g, plan, i, atStart)) {
+      if (!onlyThisBet && ChangedAhead(g, plan, i, atStart)) {
         BookPhantomsSoFar(g, plan, i, atStart);
         return i + 1;
       }
