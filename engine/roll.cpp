@@ -12,6 +12,7 @@
 #include "engine/payoffs.h"
 #include "engine/place_bet.h"
 #include "engine/settle_order.h"
+#include "engine/throw_plan.h"
 
 namespace {
 
@@ -158,6 +159,9 @@ void MovePoint(Game& g) {
 void Throw(Game& g) {
   TakeSnapshots(g);
   if (!GetDice(g)) return;
+  // The settling reads the throw's plan after the statistics have counted
+  // the dice: its first lines can be on their way meanwhile.
+  PrefetchPlan(g.Die1, g.Die2, g.PointBeforeRoll, g.BarNumber);
   if (!g.HyperDriveOn) g.Ui->ShowThrow(g.Die1, g.Die2, NextPoint(g.Point, g.Die1 + g.Die2));
   if (g.DiceFileMode == kRecorderRecord) RecordRoll(g, g.Die1, g.Die2);
   g.DiceTotal = g.Die1 + g.Die2;

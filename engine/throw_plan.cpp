@@ -216,3 +216,12 @@ const ThrowPlan& PlanFor(int die1, int die2, int pointBefore, int barNumber) {
   static const std::unique_ptr<const PlanTable> plans = MakePlans();
   return (*plans)[BarIndex(barNumber)][PointState(pointBefore)][PairIndex(die1, die2)];
 }
+
+void PrefetchPlan(int die1, int die2, int pointBefore, int barNumber) {
+  if (die1 < 1 || die1 > 6 || die2 < 1 || die2 > 6) return;
+  const ThrowPlan& plan = PlanFor(die1, die2, pointBefore, barNumber);
+  __builtin_prefetch(&plan.settled);
+  __builtin_prefetch(&plan.stepOfBet[0]);
+  __builtin_prefetch(&plan.stepOfBet[64]);
+  __builtin_prefetch(&plan.steps[0]);
+}

@@ -45,3 +45,6 @@ constexpr int PairIndex(int die1, int die2) { return (die1 - 1) * 6 + die2 - 1; 
 // The plan of die1, die2 (1..6) thrown with pointBefore (0 or a point),
 // with Don't bets barred on barNumber (2 or 12; any other value bars both).
 const ThrowPlan& PlanFor(int die1, int die2, int pointBefore, int barNumber);
+// Asks the memory for the lines of PlanFor's plan that a throw reads first;
+// dice off the table ask for nothing.
+void PrefetchPlan(int die1, int die2, int pointBefore, int barNumber);
