@@ -18,6 +18,7 @@
 #include "test_paths.h"
 #include "script/script_file.h"
 #include "store/start_up.h"
+#include "stats/summary.h"
 
 namespace fs = std::filesystem;
 
@@ -119,6 +120,12 @@ std::vector<int64_t> Trail(Game& g, int rolls) {
   return trail;
 }
 
+std::vector<std::string> TrendTexts(const Game& g) {
+  std::vector<std::string> texts;
+  for (const BetTrendRow& row : BetTrendRows(g)) texts.push_back(row.Name + ": " + row.Results + ", " + row.Span);
+  return texts;
+}
+
 enum class Dice { Generator, Percentage, RollFile };
 
 void ExpectContinuesAsIfNeverSaved(int rng, Dice dice) {
@@ -158,6 +165,8 @@ void ExpectContinuesAsIfNeverSaved(int rng, Dice dice) {
   EXPECT_TRUE(opened.Messages.empty()) << opened.FirstMessage();
   EXPECT_EQ(b.g.BetStatus[33], -1);
   EXPECT_EQ(b.g.AutoBet.ChipStackNames[1], "unit");
+  // The trends' cells have gone round by now: they come back oldest first.
+  EXPECT_EQ(TrendTexts(b.g), TrendTexts(a.g));
   EXPECT_EQ(b.g.AutoBet.NumLines(), a.g.AutoBet.NumLines());
   EXPECT_EQ(Trail(b.g, 10000), Trail(a.g, 10000));
 }
