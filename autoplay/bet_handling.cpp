@@ -163,7 +163,7 @@ const char* ApplyWon(Game& g, int betId, WonChoice choice, bool fromDialog) {
   switch (choice) {
     case WonChoice::TakeBetAndWinnings: TakeDown(g, betId); return nullptr;
     case WonChoice::SameBetTakeWinnings: PlaceAgain(g, betId, prev); return nullptr;
-    case WonChoice::PressOneUnit: PlaceAgain(g, betId, present + g.UnitAmount); return "Press 1 Unit ";
+    case WonChoice::PressOneUnit: PlaceAgain(g, betId, present + PressUnit(g, betId)); return "Press 1 Unit ";
     case WonChoice::PressDouble: PlaceAgain(g, betId, present + present); return "Press Double ";
     case WonChoice::Parlay: Parlay(g, betId); return "Parlay ";
     case WonChoice::SameBetModified:

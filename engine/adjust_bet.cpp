@@ -97,18 +97,12 @@ void Refuse(Game& g, const std::string& what, const std::string& title, Currency
   g.MsgTitle = title;
 }
 
-}  // namespace
-
-Currency AdjustBet(Game& g, int betId, Currency request, bool neverUp) {
-  if (g.AutoAdjustMode <= 0 || !bet::IsTableBet(betId)) return request;
+// The adjustment proper, for an amount not known to pay whole. Out of line:
+// the known amounts, most of a run's placements, then cost the caller only a
+// few loads and compares.
+[[gnu::noinline]] Currency AdjustToWholePayoff(Game& g, int betId, Currency request, bool neverUp,
+                                              Currency per, Currency chip) {
   const Currency amount = g.BetAmount[betId];
-  // Nothing left standing pays a payoff to be made whole.
-  if (amount + request <= 0) return request;
-  const Currency per = PayoffOf(g, betId).Per;
-  const Currency chip = g.SmallestChip();
-  if (per <= 0 || chip <= 0) return request;
-  if (g.WholePayoffs.Knows(betId, amount + request, per, chip)) return request;
-
   Currency unit = Times(chip, per);
   Candidates c = Figure(amount, request, unit);
   if (c.whole) {  // the commonest case, and the cheapest
@@ -150,6 +144,20 @@ Currency AdjustBet(Game& g, int betId, Currency request, bool neverUp) {
   else
     Refuse(g, "Minimum", "Minimum", unit * (Floor(Quotient(minimum - Currency::FromRaw(1), unit)) + 1));
   return 0;
+}
+
+}  // namespace
+
+Currency AdjustBet(Game& g, int betId, Currency request, bool neverUp) {
+  if (g.AutoAdjustMode <= 0 || !bet::IsTableBet(betId)) return request;
+  const Currency amount = g.BetAmount[betId];
+  // Nothing left standing pays a payoff to be made whole.
+  if (amount + request <= 0) return request;
+  const Currency per = PayoffOf(g, betId).Per;
+  const Currency chip = g.SmallestChip();
+  if (per <= 0 || chip <= 0) return request;
+  if (g.WholePayoffs.Knows(betId, amount + request, per, chip)) return request;
+  return AdjustToWholePayoff(g, betId, request, neverUp, per, chip);
 }
 
 void SetAutoAdjustMode(Game& g, int mode) {

@@ -46,6 +46,17 @@ int OddsNumber(const Game& g, int oddsId) {
   return bet::NumberAt(oddsId - bet::kDontComeOddsBase);
 }
 
+// Out of line, as every figuring of a maximum is: the placements ask for a
+// bet's maximum several times a roll, and nearly always find it known.
+[[gnu::noinline]] Currency FigureOddsMaximumOf(const Game& g, int oddsId, int number, const OddsLimitInput& in,
+                                              const PayoffRecord& lay) {
+  const bool takeSide = oddsId == bet::kPassOdds || bet::IsComeOdds(oddsId);
+  BetMaximumMemo::Odds& memo = g.MaximumMemo.odds[BetMaximumMemo::OddsSlot(oddsId, number)];
+  memo = {in, lay.Win, lay.Per,
+          RoundDownToChip(g, takeSide ? FigureOddsMaximum(in) : FigureLayOddsMaximum(in, lay.Win, lay.Per)), true};
+  return memo.maximum;
+}
+
 Currency OddsMaximum(const Game& g, int oddsId) {
   int number = OddsNumber(g, oddsId);
   if (!bet::IsPointNumber(number)) return 0;
@@ -62,16 +73,13 @@ Currency OddsMaximum(const Game& g, int oddsId) {
   in.maxOddsBet = g.MaxOddsBet;
   const PayoffRecord& lay = g.Payoff[bet::DontComeOdds(number)];
 
-  BetMaximumMemo::Odds& memo = g.MaximumMemo.odds[oddsId - BetMaximumMemo::kFirstOdds];
+  const BetMaximumMemo::Odds& memo = g.MaximumMemo.odds[BetMaximumMemo::OddsSlot(oddsId, number)];
   if (memo.known && memo.in == in && memo.layWin == lay.Win && memo.layPer == lay.Per) return memo.maximum;
-  const bool takeSide = oddsId == bet::kPassOdds || bet::IsComeOdds(oddsId);
-  memo = {in, lay.Win, lay.Per,
-          RoundDownToChip(g, takeSide ? FigureOddsMaximum(in) : FigureLayOddsMaximum(in, lay.Win, lay.Per)), true};
-  return memo.maximum;
+  return FigureOddsMaximumOf(g, oddsId, number, in, lay);
 }
 
 // The maximum of a proposition bet, worked from the payoff ratios.
-Currency FigurePropMaximum(const Game& g, int betId, Currency start) {
+[[gnu::noinline]] Currency FigurePropMaximum(const Game& g, int betId, Currency start) {
   // The split bets: the winning part is paid by its own number's record while
   // the other parts lose, so the largest of those ratios decides.
   switch (betId) {

@@ -31,8 +31,14 @@ struct BetMaximumMemo {
     Currency maximum;
     bool known = false;
   };
-  // The odds bets lie among the Don't Come odds (the first) and the Don't
-  // Pass odds (the last); the slots between cost little.
-  static constexpr int kFirstOdds = bet::kDontComeOddsBase;
-  std::array<Odds, bet::kDontPassOdds - kFirstOdds + 1> odds{};
+  // The Don't Come and Come odds of each number, then the Pass and Don't
+  // Pass odds of each point: the line odds keep a maximum for every point,
+  // so that a new point finds its maximum known.
+  static constexpr int kOddsSlots = 4 * 6;
+  static int OddsSlot(int oddsId, int number) {
+    if (bet::IsDontComeOdds(oddsId)) return oddsId - bet::kDontComeOddsBase;
+    if (bet::IsComeOdds(oddsId)) return 6 + oddsId - bet::kComeOddsBase;
+    return (oddsId == bet::kPassOdds ? 12 : 18) + bet::NumberIndex(number);
+  }
+  std::array<Odds, kOddsSlots> odds{};
 };

@@ -91,7 +91,6 @@ struct Game : DiceState {
   Currency RawPayoff, NetPayoff;
   int32_t SettlingBetId = 0;
   bool BetComesDown = false;
-  Currency UnitAmount;
   bool RollInProgress = false;
   bool KeepRolling = false;
   bool HyperDriveOn = false;

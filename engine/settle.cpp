@@ -138,7 +138,6 @@ Currency ChipTimesPer(Currency chip, Currency per) {
       g.Hooks.LostBet(g, betId, nullptr);
     return;
   }
-  FigureUnit(g, betId);
   if (g.Visible() && g.WonBetAction == 0)
     TellWon(g, betId, WonNotice);
   else if (g.Hooks.WonBet)
@@ -154,10 +153,8 @@ Currency ChipTimesPer(Currency chip, Currency per) {
   g.NetPayoff = 0;
   g.Settlements.Add(betId, outcome, g.BetAmount[betId], Currency{});
   g.BetComesDown = g.BetAmount[bet::ParentOf(betId)] == 0 || !g.AllowPutBets;
-  if (!g.BetComesDown) {
-    g.Payoff.Quiet(0).Per = g.Payoff[betId].Per;
-    FigureUnit(g, betId);
-  }
+  // A press of the odds given back is figured on their own payoff.
+  if (!g.BetComesDown) g.Payoff.Quiet(0).Per = g.Payoff[betId].Per;
   if (g.Visible() && g.WonBetAction == 0)
     TellWon(g, betId, OddsReturnedNotice);
   else if (g.Hooks.WonBet)
@@ -214,7 +211,7 @@ Currency UnitFor(const Game& g, Currency amount, Currency per) {
   return unit;
 }
 
-void FigureUnit(Game& g, int betId) { g.UnitAmount = UnitFor(g, g.BetAmount[betId], g.Payoff[0].Per); }
+Currency PressUnit(const Game& g, int betId) { return UnitFor(g, g.BetAmount[betId], g.Payoff[0].Per); }
 
 Currency VigTaken(const Game& g, int betId) {
   if (!bet::IsLay(betId) && !bet::IsBuy(betId)) return Currency{};

@@ -13,11 +13,11 @@ using Row = std::pair<std::string, std::string>;
 
 std::string PressCaption(Currency unit) { return "Press 1 &Unit - Add $" + FormatNumberWithCommas(unit) + " to Bet"; }
 
-std::vector<std::string> WonButtons(const Game& g) {
+std::vector<std::string> WonButtons(const Game& g, int betId) {
   if (g.BetComesDown) return {"&Take Bet and Winnings"};
   return {"&Take Bet and Winnings",
           "&Same Bet - Take Winnings",
-          PressCaption(g.UnitAmount),
+          PressCaption(PressUnit(g, betId)),
           "Press - Add Winnings to &Double Bet",
           "Parlay - Add &All Winnings to Bet",
           "Sa&me Bet:",
@@ -82,7 +82,7 @@ SettleNotice WonNotice(const Game& g, int betId) {
     n.rows = {BetRow(g, betId), {PayoffWording("Payoff at ", paid), Dollars(g.RawPayoff)}};
     if (g.NetPayoff != g.RawPayoff) n.rows.push_back({"Net payoff (rounded): ", Dollars(g.NetPayoff)});
   }
-  n.buttons = WonButtons(g);
+  n.buttons = WonButtons(g, betId);
   return n;
 }
 
@@ -90,7 +90,7 @@ SettleNotice OddsReturnedNotice(const Game& g, int betId) {
   SettleNotice n;
   n.title = "Odds Bet Returned";
   n.rows = {BetRow(g, betId), {"wasn't working!", ""}};
-  n.buttons = WonButtons(g);
+  n.buttons = WonButtons(g, betId);
   return n;
 }
 

@@ -16,7 +16,7 @@ enum WonButton {
 enum LostButton { kNoBetTakeRemainder, kBetRemainder, kSameBetAgain, kPressUnitAfterLoss, kDoubleBet };
 
 // "* * * Winner * * *" or "Push", with the rows of the payoff and the won
-// buttons; the press caption reads g.UnitAmount. A bet that must come down
+// buttons; the press caption offers PressUnit. A bet that must come down
 // is offered no choice but to be taken.
 SettleNotice WonNotice(const Game& g, int betId);
 // Odds that were off and have been given back on their parent's decision.

@@ -82,12 +82,6 @@ SlotBits<2> StepsDue(const ThrowPlan& plan, const BetAmounts::BetBits& withMoney
   return due;
 }
 
-BetAmounts::BetBits OnlyBet(int id) {
-  BetAmounts::BetBits one;
-  one.Add(id);
-  return one;
-}
-
 // The bets in `moved` gained or lost their money: from `first` on, the
 // steps due take in or drop their settlements.
 void FollowMoney(const ThrowPlan& plan, const BetAmounts::BetBits& moved, const BetAmounts::BetBits& withMoney,
@@ -123,7 +117,7 @@ int WalkCountedWhole(Game& g, const ThrowPlan& plan, ThrowDecisions& decided) {
     // behind the walk already.
     if (g.BetAmount.WithMoney() != withMoney) {
       const BetAmounts::BetBits moved = withMoney ^ g.BetAmount.WithMoney();
-      if (!settled || !(moved == OnlyBet(step.bet))) FollowMoney(plan, moved, g.BetAmount.WithMoney(), i + 1, due);
+      if (!settled || !moved.IsOnly(step.bet)) FollowMoney(plan, moved, g.BetAmount.WithMoney(), i + 1, due);
       withMoney = g.BetAmount.WithMoney();
     }
     if (g.BetStatus.Changes() != changesSeen) {

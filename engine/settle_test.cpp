@@ -122,7 +122,6 @@ TEST(SettleBet, OffBetsStandAndOffOddsComeBack) {
   t.g.BetStatus.Set(bet::ComeOdds(6), -1);
   t.Settle(Outcome::OddsLoss, bet::ComeOdds(6));
   EXPECT_FALSE(t.g.BetComesDown);
-  EXPECT_EQ(t.g.UnitAmount, Currency(5));
   EXPECT_EQ(t.ui.notices.at(1).buttons.at(2), "Press 1 &Unit - Add $5 to Bet");
   EXPECT_EQ(t.g.BetAmount[bet::ComeOdds(6)], Currency(10));
   EXPECT_EQ(t.g.BetStatus[bet::ComeOdds(6)], 1);
@@ -193,7 +192,7 @@ TEST(SettleBet, WhatComesDownAfterAWin) {
   EXPECT_FALSE(t.g.BetComesDown);
 }
 
-TEST(FigureUnit, LargestCheckThatDividesTheBet) {
+TEST(PressUnit, LargestCheckThatDividesTheBet) {
   TestTable t;
   // Nothing divides 7 or 3 at 6: the smallest check's unit stands.
   const struct { int amount, per, unit; } cases[] = {
@@ -201,7 +200,6 @@ TEST(FigureUnit, LargestCheckThatDividesTheBet) {
   for (const auto& c : cases) {
     t.g.BetAmount.Set(bet::Place(6), c.amount);
     t.g.Payoff.Edit()[0].Per = c.per;
-    FigureUnit(t.g, bet::Place(6));
-    EXPECT_EQ(t.g.UnitAmount, Currency(c.unit)) << c.amount << " per " << c.per;
+    EXPECT_EQ(PressUnit(t.g, bet::Place(6)), Currency(c.unit)) << c.amount << " per " << c.per;
   }
 }

@@ -6,13 +6,37 @@
 #include <cstdint>
 
 // A set of slots 0..64*kWords-1.
+//
+// A set of two words or fewer is mostly a local of a hot loop: its words are
+// then only ever indexed by constants, so that they stay in registers. A store
+// at a computed index, read back word by word a few instructions later, costs
+// the processor far more than the one extra instruction per word.
 template <int kWords>
 struct SlotBits {
+  static constexpr bool kInRegisters = kWords <= 2;
   std::array<uint64_t, kWords> words{};
 
   bool Has(int slot) const { return (words[slot >> 6] >> (slot & 63)) & 1u; }
-  void Add(int slot) { words[slot >> 6] |= uint64_t{1} << (slot & 63); }
-  void Remove(int slot) { words[slot >> 6] &= ~(uint64_t{1} << (slot & 63)); }
+  void Add(int slot) {
+    if constexpr (kInRegisters) {
+      for (int word = 0; word < kWords; ++word) words[word] |= BitIn(word, slot);
+    } else {
+      words[slot >> 6] |= uint64_t{1} << (slot & 63);
+    }
+  }
+  void Remove(int slot) {
+    if constexpr (kInRegisters) {
+      for (int word = 0; word < kWords; ++word) words[word] &= ~BitIn(word, slot);
+    } else {
+      words[slot >> 6] &= ~(uint64_t{1} << (slot & 63));
+    }
+  }
+  // Whether `slot` is the set's one member.
+  bool IsOnly(int slot) const {
+    uint64_t differ = 0;
+    for (int word = 0; word < kWords; ++word) differ |= words[word] ^ BitIn(word, slot);
+    return differ == 0;
+  }
   bool Any() const {
     uint64_t any = 0;
     for (uint64_t w : words) any |= w;
@@ -20,12 +44,15 @@ struct SlotBits {
   }
   // Takes the lowest slot out of a set that has one.
   int TakeFirst() {
-    for (int word = 0;; ++word) {
+    for (int word = 0; word < kWords - 1; ++word) {
       if (words[word] == 0) continue;
       const int slot = word * 64 + std::countr_zero(words[word]);
       words[word] &= words[word] - 1;
       return slot;
     }
+    const int slot = (kWords - 1) * 64 + std::countr_zero(words[kWords - 1]);
+    words[kWords - 1] &= words[kWords - 1] - 1;
+    return slot;
   }
   friend SlotBits operator&(SlotBits a, const SlotBits& b) {
     for (int word = 0; word < kWords; ++word) a.words[word] &= b.words[word];
@@ -47,4 +74,7 @@ struct SlotBits {
     for (int word = 0; word < kWords; ++word) differ |= a.words[word] ^ b.words[word];
     return differ == 0;
   }
+
+ private:
+  static uint64_t BitIn(int word, int slot) { return (slot >> 6) == word ? uint64_t{1} << (slot & 63) : 0; }
 };
