@@ -6,32 +6,14 @@
 #include <cstdint>
 
 // A set of slots 0..64*kWords-1.
-//
-// A set of two words or fewer is mostly a local of a hot loop: its words are
-// then only ever indexed by constants, so that they stay in registers. A store
-// at a computed index, read back word by word a few instructions later, costs
-// the processor far more than the one extra instruction per word.
 template <int kWords>
 struct SlotBits {
-  static constexpr bool kInRegisters = kWords <= 2;
   std::array<uint64_t, kWords> words{};
 
   bool Has(int slot) const { return (words[slot >> 6] >> (slot & 63)) & 1u; }
-  void Add(int slot) {
-    if constexpr (kInRegisters) {
-      for (int word = 0; word < kWords; ++word) words[word] |= BitIn(word, slot);
-    } else {
-      words[slot >> 6] |= uint64_t{1} << (slot & 63);
-    }
-  }
-  void Remove(int slot) {
-    if constexpr (kInRegisters) {
-      for (int word = 0; word < kWords; ++word) words[word] &= ~BitIn(word, slot);
-    } else {
-      words[slot >> 6] &= ~(uint64_t{1} << (slot & 63));
-    }
-  }
-  // Whether `slot` is the set's one member.
+  void Add(int slot) { words[slot >> 6] |= uint64_t{1} << (slot & 63); }
+  void Remove(int slot) { words[slot >> 6] &= ~(uint64_t{1} << (slot & 63)); }
+  // Whether `slot` is the set's one member (no set is built to compare with).
   bool IsOnly(int slot) const {
     uint64_t differ = 0;
     for (int word = 0; word < kWords; ++word) differ |= words[word] ^ BitIn(word, slot);
