@@ -97,18 +97,22 @@ void Refuse(Game& g, const std::string& what, const std::string& title, Currency
   g.MsgTitle = title;
 }
 
-// The adjustment proper, for an amount not known to pay whole. Out of line:
-// the known amounts, most of a run's placements, then cost the caller only a
-// few loads and compares.
-[[gnu::noinline]] Currency AdjustToWholePayoff(Game& g, int betId, Currency request, bool neverUp,
-                                              Currency per, Currency chip) {
+// Whether amount + request pays whole at a check times per, remembered when
+// it does. Out of line, as the adjustment proper is: the known amounts, most
+// of a run's placements, then cost the caller only a few loads and compares.
+[[gnu::noinline]] bool FoundToPayWhole(Game& g, int betId, Currency request, Currency per, Currency chip) {
   const Currency amount = g.BetAmount[betId];
-  Currency unit = Times(chip, per);
+  if (!Figure(amount, request, Times(chip, per)).whole) return false;
+  g.WholePayoffs.Remember(betId, amount + request, per, chip);
+  return true;
+}
+
+// The adjustment proper, for an amount that does not pay whole as asked.
+[[gnu::noinline]] Currency AdjustToWholePayoff(Game& g, int betId, Currency request, bool neverUp) {
+  const Currency amount = g.BetAmount[betId];
+  const Currency per = PayoffOf(g, betId).Per;
+  Currency unit = Times(g.SmallestChip(), per);
   Candidates c = Figure(amount, request, unit);
-  if (c.whole) {  // the commonest case, and the cheapest
-    g.WholePayoffs.Remember(betId, amount + request, per, chip);
-    return request;
-  }
 
   const Currency maximum = GetBetMaximum(g, betId);
   // A full-odds request is the maximum the odds rule figured; it stands as
@@ -148,16 +152,20 @@ void Refuse(Game& g, const std::string& what, const std::string& title, Currency
 
 }  // namespace
 
-Currency AdjustBet(Game& g, int betId, Currency request, bool neverUp) {
-  if (g.AutoAdjustMode <= 0 || !bet::IsTableBet(betId)) return request;
+bool PaysWholeAsAsked(Game& g, int betId, Currency request) {
+  if (g.AutoAdjustMode <= 0 || !bet::IsTableBet(betId)) return true;
   const Currency amount = g.BetAmount[betId];
   // Nothing left standing pays a payoff to be made whole.
-  if (amount + request <= 0) return request;
+  if (amount + request <= 0) return true;
   const Currency per = PayoffOf(g, betId).Per;
   const Currency chip = g.SmallestChip();
-  if (per <= 0 || chip <= 0) return request;
-  if (g.WholePayoffs.Knows(betId, amount + request, per, chip)) return request;
-  return AdjustToWholePayoff(g, betId, request, neverUp, per, chip);
+  if (per <= 0 || chip <= 0) return true;
+  return g.WholePayoffs.Knows(betId, amount + request, per, chip) || FoundToPayWhole(g, betId, request, per, chip);
+}
+
+Currency AdjustBet(Game& g, int betId, Currency request, bool neverUp) {
+  if (PaysWholeAsAsked(g, betId, request)) return request;
+  return AdjustToWholePayoff(g, betId, request, neverUp);
 }
 
 void SetAutoAdjustMode(Game& g, int mode) {

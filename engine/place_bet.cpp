@@ -335,7 +335,7 @@ bool GoesOnAsAsked(Game& g, int betId) {
     return false;
   const Currency after = g.BetAmount[betId] + change;
   return RoundChangeToChips(change, Chip(g)) == change && after >= BetMinimum(g, betId) &&
-         after <= GetBetMaximum(g, betId) && AdjustBet(g, betId, change) == change &&
+         after <= GetBetMaximum(g, betId) && PaysWholeAsAsked(g, betId, change) &&
          (g.AllowNegativeBankroll || g.TotalOnTable + change <= g.Bankroll());
 }
 
