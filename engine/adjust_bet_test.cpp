@@ -42,6 +42,9 @@ TEST(AdjustBet, LandsOnWholePayoffs) {
     t.g.Bankroll() = 100000;
     SetBias(t.g, c.id, c.bias);
     if (c.standing > 0) t.Stand(c.id, c.standing);
+    // The placement's short way asks only this first step; in these cases
+    // it answers as the whole adjustment does.
+    EXPECT_EQ(PaysWholeAsAsked(t.g, c.id, c.request), c.expected == Max(c.standing + c.request, 0)) << c.name;
     t.Place(c.id, c.request);
     EXPECT_EQ(t.g.BetAmount[c.id], c.expected) << c.name;
   }
