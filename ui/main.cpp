@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <cstdlib>
 
@@ -62,7 +63,18 @@ int main(int argc, char** argv) {
     return 1;
   }
   const DesktopPaths paths{QString::fromStdString(folder.string()), shipped.docs};
-  if (parser.isSet(screenshot)) return WriteScreenshots(parser.value(screenshot), paths);
+  if (parser.isSet(screenshot)) {
+    // The pictures show the screens as they first open, and drawing them
+    // (views turned on and off, the pad turned) leaves the player's own
+    // settings as they were.
+    QTemporaryDir settings;
+    if (!settings.isValid()) {
+      QTextStream(stderr) << "dicemill: no folder for the screenshots' settings: " << settings.errorString() << '\n';
+      return 1;
+    }
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    return WriteScreenshots(parser.value(screenshot), paths);
+  }
 
   EffectSink sink;
   SoundBoard sounds(sink);
