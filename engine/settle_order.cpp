@@ -9,8 +9,6 @@
 
 namespace {
 
-bool DiceOnTheTable(const Game& g) { return g.Die1 >= 1 && g.Die1 <= 6 && g.Die2 >= 1 && g.Die2 <= 6; }
-
 // Whether a bet still to settle in this throw works otherwise than it did
 // as the dice went out. Handling mostly changes the bet just settled (odds
 // returned work again, a bet placed again keeps its call): that leaves the
@@ -136,7 +134,7 @@ int WalkCountedWhole(Game& g, const ThrowPlan& plan, ThrowDecisions& decided) {
 
 ThrowDecisions SettleTheThrow(Game& g) {
   ThrowDecisions decided;
-  if (!DiceOnTheTable(g)) return decided;
+  if (!DiceOnTable(g.Die1, g.Die2)) return decided;
   const ThrowPlan& plan = PlanFor(g.Die1, g.Die2, g.PointBeforeRoll, g.BarNumber);
   // An empty layout: the walk below would take the same steps, but its
   // bookkeeping is about a twentieth of an empty table's roll.

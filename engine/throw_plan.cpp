@@ -218,7 +218,7 @@ const ThrowPlan& PlanFor(int die1, int die2, int pointBefore, int barNumber) {
 }
 
 void PrefetchPlan(int die1, int die2, int pointBefore, int barNumber) {
-  if (die1 < 1 || die1 > 6 || die2 < 1 || die2 > 6) return;
+  if (!DiceOnTable(die1, die2)) return;
   const ThrowPlan& plan = PlanFor(die1, die2, pointBefore, barNumber);
   __builtin_prefetch(&plan.settled);
   __builtin_prefetch(&plan.stepOfBet[0]);

@@ -42,6 +42,8 @@ constexpr int PointOfState(int state) { return state == 0 ? 0 : (state < 4 ? sta
 // The dice as a plan index 0..35.
 constexpr int PairIndex(int die1, int die2) { return (die1 - 1) * 6 + die2 - 1; }
 
+// Whether both dice lie on the table (1..6): a Dice Roll File may give others.
+constexpr bool DiceOnTable(int die1, int die2) { return die1 >= 1 && die1 <= 6 && die2 >= 1 && die2 <= 6; }
 // The plan of die1, die2 (1..6) thrown with pointBefore (0 or a point),
 // with Don't bets barred on barNumber (2 or 12; any other value bars both).
 const ThrowPlan& PlanFor(int die1, int die2, int pointBefore, int barNumber);
